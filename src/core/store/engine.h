@@ -1,0 +1,115 @@
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+#include "core/store/value.h"
+
+struct sqlite3;
+struct sqlite3_stmt;
+struct sqlite3_session;
+
+/// Everything that knows which engine stands underneath: statements, pragmas, error codes, locking, changesets.
+/// A server engine would be a second implementation of this header; nothing above it may notice.
+namespace tallymere::store {
+
+/// A prepared statement on loan from its connection; handing it back resets it.
+class Statement {
+ public:
+  Statement(Statement&& other) noexcept;
+  Statement& operator=(Statement&&) = delete;
+  ~Statement();
+
+  Statement& bind(int position, const Value& value);  ///< positions count from 1
+  Statement& bind_all(const std::vector<Value>& values);
+  Statement& bind_bytes(int position, std::string_view bytes);
+  bool step();         ///< true when on a row
+  int64_t run();       ///< steps to the end; the number of rows changed
+  int parameter_count() const;
+
+  int columns() const;
+  std::string column_name(int column) const;
+  std::string declared_type(int column) const;  ///< "" for an expression
+  bool is_null(int column) const;
+  bool is_text(int column) const;
+  int64_t integer(int column) const;
+  double number(int column) const;
+  std::string_view text(int column) const;  ///< valid until the next step
+  Value raw(int column) const;              ///< as the engine holds it: null, whole number, double or text
+
+ private:
+  friend class Connection;
+  struct Slot {
+    sqlite3_stmt* handle;
+    bool on_loan;
+  };
+  explicit Statement(Slot* slot, class Connection* connection) : slot_(slot), connection_(connection) {}
+  Slot* slot_;
+  class Connection* connection_;
+};
+
+/// One row's change inside a changeset.
+struct RowChange {
+  enum class Kind { Added, Changed, Deleted };
+  struct Cell {
+    int column;
+    Value before, after;  ///< as the engine holds them
+  };
+  std::string table;
+  Kind kind;
+  std::vector<Cell> cells;  ///< for Changed only the key and the columns that changed
+};
+
+/// An open file. Waits a few seconds for another process's lock, then gives Error 3218.
+class Connection {
+ public:
+  enum class Mode { Create, ReadWrite };
+  Connection(const std::filesystem::path& path, Mode mode);
+  ~Connection();
+  Connection(const Connection&) = delete;
+  Connection& operator=(const Connection&) = delete;
+
+  Statement prepare(std::string_view sql);  ///< cached by its text
+  void execute(const std::string& sql);     ///< one or several statements without results
+  int64_t last_key() const;
+  int64_t changes() const;
+
+  bool in_transaction() const;
+  void begin();  ///< takes the writer's lock at once
+  void commit();
+  void rollback();
+  void savepoint(const std::string& name);
+  void release(const std::string& name);
+  void rollback_to(const std::string& name);
+
+  /// Records what is written from now on, all tables but `except`; take_changes() ends it.
+  void record_changes(std::string except);
+  std::string take_changes();
+  void drop_changes();
+  static std::vector<RowChange> read_changes(std::string_view changeset);
+
+  /// Applies the inverse of a changeset as a whole. `may_replace(table, column)` names columns that are only caches
+  /// and may differ. Returns the tables on which later work stands; when not empty nothing was applied.
+  std::vector<std::string> apply_inverse(std::string_view changeset,
+                                         const std::function<bool(const std::string&, int)>& is_cache);
+
+  /// Copies the whole file as it stands under a read lock. progress gets 0..100.
+  void copy_to(const std::filesystem::path& destination);
+
+  [[noreturn]] void raise(const std::string& doing);
+
+ private:
+  void check(int code, const std::string& doing);
+  sqlite3* handle_ = nullptr;
+  sqlite3_session* session_ = nullptr;
+  std::string unrecorded_table_;
+  std::unordered_map<std::string, std::vector<std::unique_ptr<Statement::Slot>>> statements_;
+  friend class Statement;
+};
+
+}  // namespace tallymere::store

@@ -1,0 +1,87 @@
+#pragma once
+
+#include <QAbstractButton>
+#include <QWidget>
+#include <functional>
+
+#include "shell/shell.h"
+
+namespace tallymere {
+
+/// The base of every window: caption, hourglass, Enter to the next field, one error box at the edge, closing that asks.
+/// Controls are members with the screen's names and the same objectName, built in the constructor with layouts.
+class Form : public QWidget {
+  Q_OBJECT
+
+ public:
+  enum class Place { Inside, Above };  ///< inside the frame, or above it as a dialog
+
+  Form(Shell& shell_of_frame, const char* name, Place place = Place::Inside);
+  ~Form() override;
+
+  Place place() const { return place_; }
+  QString caption() const { return windowTitle(); }
+
+  /// Called once after construction, before the window shows: read what it shows.
+  virtual void load() {}
+  /// Called each time the window is asked for, after load.
+  virtual void take(const Request&) {}
+  /// Called before closing; false keeps the window open.
+  virtual bool may_close() { return true; }
+  /// Called when the window goes.
+  virtual void unloading() {}
+  /// Something in the company changed elsewhere: a table's name.
+  virtual void on_changed(const std::string& /*table*/) {}
+
+  /// Runs a procedure of this window: a fault of the store shows the program's error box, writes the log line with
+  /// window and procedure and leaves the window as it is. false when it failed.
+  bool guard(const char* procedure, const std::function<void()>& work);
+
+  /// The first faulty entry's box, then the focus on its control with its text selected.
+  void show_fault(const Fault& fault);
+
+  void finish(bool accepted);  ///< ends a modal run, or closes
+  bool accepted() const { return accepted_; }
+
+ Q_SIGNALS:
+  void finished();
+
+ protected:
+  /// Connects a signal to a handler under guard; the procedure is named as in the log ("cmdOk_AfterClick").
+  template <typename Sender, typename Signal, typename Handler>
+  void on(Sender* sender, Signal signal, const char* procedure, Handler handler) {
+    connect(sender, signal, this, [this, procedure, handler](auto&&... args) {
+      guard(procedure, [&] {
+        if constexpr (std::is_invocable_v<Handler, decltype(args)...>) handler(args...);
+        else handler();
+      });
+    });
+  }
+  template <typename Handler>
+  void on(QAbstractButton* button, const char* procedure, Handler handler) {
+    on(button, &QAbstractButton::clicked, procedure, [handler] { handler(); });
+  }
+  /// Names a control as the screen names it: objectName now, and the name tools and tests find it by.
+  template <typename Control>
+  Control* named(const char* name, Control* control) {
+    control->setObjectName(QString::fromLatin1(name));
+    return control;
+  }
+
+  void closeEvent(QCloseEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
+  bool event(QEvent* event) override;
+
+  Shell& shell;
+  Session& session;
+
+ private:
+  Place place_;
+  bool accepted_ = false;
+};
+
+/// std::string is UTF-8 everywhere; these are the two doors to Qt.
+inline QString qt(const std::string& text) { return QString::fromStdString(text); }
+inline std::string utf8(const QString& text) { return text.toStdString(); }
+
+}  // namespace tallymere
