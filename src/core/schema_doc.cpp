@@ -9,6 +9,13 @@ std::string code(std::string_view text) {
   return "`" + std::string(text) + "`";
 }
 
+// The meaning as a sentence of its own.
+std::string sentence(std::string_view text) {
+  std::string result(text);
+  if (result[0] >= 'a' && result[0] <= 'z') result[0] = static_cast<char>(result[0] - 'a' + 'A');
+  return result + ".";
+}
+
 // A bar would end the cell.
 std::string cell(std::string_view text) {
   std::string escaped;
@@ -23,7 +30,7 @@ std::string index_text(const IndexDef& index) {
 }
 
 std::string table_text(const TableDef& table) {
-  std::string text = "### " + std::string(table.name) + "\n\n" + std::string(table.meaning) + ".";
+  std::string text = "### " + std::string(table.name) + "\n\n" + sentence(table.meaning);
   if (table.on_demand) text += " Made on demand.";
   text += "\n\n| Field | Type | Meaning |\n|---|---|---|\n";
   for (const FieldDef& field : table.fields) {
