@@ -11,7 +11,6 @@
 #include "core/program_folder.h"
 #include "core/schema_doc.h"
 #include "core/store/history.h"
-#include "core/transaction_writer.h"
 #include "core/undo.h"
 #include "core/verify.h"
 
@@ -178,6 +177,9 @@ constexpr Command commands[] = {
     {"new", "new NAME [--folder DIR]", "makes a new company in the program's folder", New},
     {"demo", "demo [NAME] [--years N] [--transactions N] [--seed N] [--today m/d/yyyy] [--folder DIR]",
      "makes a company with years of realistic books; the same words give the same company", Demo},
+    {"enter", "enter --company FILE --name PAYEE --from BANK --to CATEGORY=AMOUNT[,...] [--number N] [--date m/d/yyyy]"
+     " [--memo TEXT] [--times N]",
+     "writes a check, or the same one several times; each number is told once it is safely kept", Enter},
     {"verify", "verify --company FILE", "checks the whole of the books and the file; exit 1 with what is wrong", Verify},
     {"figures", "figures --company FILE", "the balances of the company's categories", Figures},
     {"backup", "backup --company FILE --out FILE.cbk", "writes a backup of the company as it stands", Back_Up},

@@ -30,4 +30,6 @@ struct CliSession {
   Session session;
 };
 
+int Enter(Arguments& arguments);
+
 }  // namespace tallymere::cli
