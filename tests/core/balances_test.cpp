@@ -43,13 +43,13 @@ TEST(UpdateAccounts, OrdinaryPassCarriesOnFromLastYearsEnd) {
   Post(company, "busy", next_year, D(1000));
   Post(company, "unset", new_year, D(5));
   Post(company, "ahead", next_year, D(5));
-  Update_Accounts(company.session());
+  Update_Accounts(*company.session);
   EXPECT_EQ(Figures(company, "quiet"), "70/70");
   EXPECT_EQ(Figures(company, "busy"), "67/70");
   EXPECT_EQ(Figures(company, "unset"), "5/0");
   EXPECT_EQ(Figures(company, "ahead"), "0/null");
-  EXPECT_EQ(company.prompts().labels, std::vector<std::string>{"Updating Categories"});
-  EXPECT_EQ(company.prompts().open_progress, 0);
+  EXPECT_EQ(company.prompts.labels, std::vector<std::string>{"Updating Categories"});
+  EXPECT_EQ(company.prompts.in_progress, false);
 }
 
 TEST(UpdateAccounts, FullPassFindsTheYearsEndAnew) {
@@ -64,14 +64,14 @@ TEST(UpdateAccounts, FullPassFindsTheYearsEndAnew) {
   Post(company, "both", next_year, D(300));
   Post(company, "ahead", last_year, D(40));
   Post(company, "ahead", next_year, D(300));
-  company.session().RecalcAll = true;
-  Update_Accounts(company.session());
+  company.session->RecalcAll = true;
+  Update_Accounts(*company.session);
   EXPECT_EQ(Figures(company, "fresh"), "5/0");
   EXPECT_EQ(Figures(company, "old"), "42/42");
   EXPECT_EQ(Figures(company, "both"), "345/40");
   EXPECT_EQ(Figures(company, "ahead"), "340/340") << "no row of this year: the last row of all ends the year";
   EXPECT_EQ(Figures(company, "none"), "0/0");
-  EXPECT_FALSE(company.session().RecalcAll);
+  EXPECT_FALSE(company.session->RecalcAll);
 }
 
 TEST(UpdateAccounts, ParentsHoldAllBelowThemOnTheirOwnSide) {
@@ -87,7 +87,7 @@ TEST(UpdateAccounts, ParentsHoldAllBelowThemOnTheirOwnSide) {
   Post(company, "ROOF", new_year, D(30), D(0));
   Post(company, "cost", new_year, {}, D(100));
   Post(company, "misc", new_year, D(4));
-  Update_Accounts(company.session());
+  Update_Accounts(*company.session);
   EXPECT_EQ(Figures(company, "loans"), "81/0");
   EXPECT_EQ(Figures(company, "house"), "77/null") << "dormant: left alone, yet counted above";
   EXPECT_EQ(Figures(company, "roof"), "30/0");
@@ -104,25 +104,25 @@ TEST(UpdateAccounts, TheBankPassIsForBanksAndTheirOwnRows) {
   Post(company, "main", new_year, D(2));
   Post(company, "till", new_year, D(7));
   Post(company, "asset", new_year, D(9));
-  company.session().RecalcAll = true;
-  Update_Accounts(company.session(), Categories::Bank);
+  company.session->RecalcAll = true;
+  Update_Accounts(*company.session, Categories::Bank);
   EXPECT_EQ(Figures(company, "main"), "42/40");
   EXPECT_EQ(Figures(company, "till"), "7/0");
   EXPECT_EQ(Figures(company, "asset"), "null/null");
-  EXPECT_FALSE(company.session().RecalcAll);
-  EXPECT_TRUE(company.prompts().labels.empty());
+  EXPECT_FALSE(company.session->RecalcAll);
+  EXPECT_TRUE(company.prompts.labels.empty());
 }
 
 TEST(UpdateAccounts, WritesOnlyWhatChanged) {
   TestCompany company;
   Post(company, "0SS", new_year, D(5));
-  Update_Accounts(company.session());
+  Update_Accounts(*company.session);
   auto newest = [&] { return store::List_Actions(company.db(), 1).front().number; };
   int64_t before = newest();
   auto other = company.another_user();
-  store::Transaction busy(*other->session.dbCompany, "Somebody is writing");
-  Update_Accounts(company.session());
-  Update_Customers(company.session());
+  store::Transaction busy(*other->dbCompany, "Somebody is writing");
+  Update_Accounts(*company.session);
+  Update_Customers(*company.session);
   EXPECT_EQ(newest(), before);
 }
 
@@ -137,7 +137,7 @@ TEST(FixAccounts, SetsTheYearsEndOfAllCategoriesAndNoBalance) {
   Post(company, "below", new_year, {}, D(1000));
   Post(company, "below", next_year, {}, D(5000));
   Post(company, "ahead", next_year, D(8));
-  Fix_Accounts(company.session());
+  Fix_Accounts(*company.session);
   EXPECT_EQ(Figures(company, "asleep"), "3/42");
   EXPECT_EQ(Figures(company, "below"), "null/2");
   EXPECT_EQ(Figures(company, "ahead"), "null/8");
@@ -252,8 +252,8 @@ void Expect_Same(RandomLedger& ledger, bool recalc_all, Categories which) {
     bool left_alone = row["Dormant"].flag() || Is_Profit_And_Loss(row["AccountType"].text()) || !wanted;
     expected[id] = left_alone ? Figures(company, id) : RowByRow(company, recalc_all).figures(id, which);
   }
-  company.session().RecalcAll = recalc_all;
-  Update_Accounts(company.session(), which);
+  company.session->RecalcAll = recalc_all;
+  Update_Accounts(*company.session, which);
   for (const auto& id : ledger.ids) EXPECT_EQ(Figures(company, id), expected[id]) << id;
 }
 
@@ -265,7 +265,7 @@ TEST(UpdateAccounts, AgreesWithTheWalkRowByRow) {
     Expect_Same(ledger, false, Categories::All);
     Expect_Same(ledger, true, Categories::All);
 
-    Fix_Accounts(ledger.company.session());
+    Fix_Accounts(ledger.*company.session);
     for (const auto& id : ledger.ids) {
       auto row = ledger.company.db().OpenRecordset("SELECT * FROM Accounts WHERE CatID = ?", {id});
       if (Is_Profit_And_Loss(row["AccountType"].text())) continue;
@@ -301,13 +301,13 @@ TEST(UpdateCustomers, OweTheirInvoicesLessTheirPayments) {
   Sell(company, "Paid up", "Invoice", D(10), {});
   Sell(company, "Paid up", "Payment", {}, D(10));
   Sell(company, "Gone", "Invoice", D(10), {});
-  Update_Customers(company.session());
+  Update_Customers(*company.session);
   EXPECT_EQ(Balance_Of(company, "Customers", "O'Brien"), "75")
       << "a row with a debit does not count its credit";
   EXPECT_EQ(Balance_Of(company, "Customers", "Paid up"), "0");
   EXPECT_EQ(Balance_Of(company, "Customers", "Idle"), "0");
   EXPECT_EQ(Balance_Of(company, "Customers", "Gone"), "55");
-  EXPECT_EQ(company.prompts().labels, std::vector<std::string>{"Updating Customers"});
+  EXPECT_EQ(company.prompts.labels, std::vector<std::string>{"Updating Customers"});
 }
 
 TEST(UpdateVendors, AreOwedTheirUnpaidBillsAndKeepTheLastFigureWithoutAny) {
@@ -322,12 +322,12 @@ TEST(UpdateVendors, AreOwedTheirUnpaidBillsAndKeepTheLastFigureWithoutAny) {
   Sell(company, "Acme", "Credit", D(1000), {}, "AP1");
   Sell(company, "Zero", "Bill", {}, {}, "AP1");
   company.run("UPDATE Transactions SET Paid = True WHERE Name = 'Settled'");
-  Update_Vendors(company.session());
+  Update_Vendors(*company.session);
   EXPECT_EQ(Balance_Of(company, "Vendors", "Acme"), "20");
   EXPECT_EQ(Balance_Of(company, "Vendors", "O'Brien"), "55");
   EXPECT_EQ(Balance_Of(company, "Vendors", "Settled"), "55");
   EXPECT_EQ(Balance_Of(company, "Vendors", "Zero"), "0");
-  EXPECT_EQ(company.prompts().labels, std::vector<std::string>{"Updating Vendors"});
+  EXPECT_EQ(company.prompts.labels, std::vector<std::string>{"Updating Vendors"});
 }
 
 }  // namespace

@@ -22,26 +22,26 @@ TEST(Ledger, SubCategoriesAreNamedAtAnyDepthAndInCircles) {
   company.add_category("fuel", "Expense", "car");
   company.add_category("diesel", "Expense", "FUEL", true);
   company.add_category("o'il", "Expense", "car");
-  EXPECT_EQ(SubAccount_Clause(company.session(), "car"),
+  EXPECT_EQ(SubAccount_Clause(*company.session, "car"),
             " OR Account = 'fuel' OR Account = 'diesel' OR Account = 'o''il'");
-  EXPECT_EQ(SubAccount_Clause(company.session(), "diesel"), "");
+  EXPECT_EQ(SubAccount_Clause(*company.session, "diesel"), "");
 
   company.run("UPDATE Accounts SET ParentAccount = 'diesel' WHERE CatID = 'car'");
-  EXPECT_EQ(SubAccount_Clause(company.session(), "fuel"),
+  EXPECT_EQ(SubAccount_Clause(*company.session, "fuel"),
             " OR Account = 'diesel' OR Account = 'car' OR Account = 'o''il'");
 }
 
 TEST(Ledger, NamesCategories) {
   TestCompany company;
-  EXPECT_EQ(Category_Name(company.session(), "UF1"), "Undeposited Funds");
-  EXPECT_EQ(Category_Name(company.session(), "<-Break Down->"), "<-Break Down->");
-  EXPECT_EQ(Category_Name(company.session(), "gone"), "");
-  EXPECT_EQ(Category_Name(company.session(), ""), "");
+  EXPECT_EQ(Category_Name(*company.session, "UF1"), "Undeposited Funds");
+  EXPECT_EQ(Category_Name(*company.session, "<-Break Down->"), "<-Break Down->");
+  EXPECT_EQ(Category_Name(*company.session, "gone"), "");
+  EXPECT_EQ(Category_Name(*company.session, ""), "");
 }
 
 TEST(Ledger, PostingsGoToLeavesOnly) {
   TestCompany company;
-  Session& session = company.session();
+  Session& session = *company.session;
   company.add_category("car", "Expense");
   EXPECT_EQ(Get_Postable_Category(session, "car"), "car");
   EXPECT_EQ(Get_Postable_Category(session, "<-Break Down->"), "<-Break Down->");
@@ -68,7 +68,7 @@ TEST(Ledger, AnOtherChildGoesWithTheSaveThatNeededIt) {
   company.add_category("fuel", "Expense", "car");
   {
     store::Transaction save(company.db(), "A save that fails");
-    EXPECT_NE(Get_Postable_Category(company.session(), "car"), "car");
+    EXPECT_NE(Get_Postable_Category(*company.session, "car"), "car");
   }
   EXPECT_EQ(company.db().value("SELECT COUNT(*) FROM Accounts WHERE ParentAccount = 'car'").integer(), 1);
 }
@@ -90,10 +90,10 @@ TEST(Ledger, CountsLinesWhateverEndsThem) {
 
 TEST(Ledger, OnlyAnotherYearAsksForAFullPass) {
   TestCompany company(Date(2026, 1, 1));
-  Set_Recalc_If_Other_Year(company.session(), Date(2026, 12, 31));
-  EXPECT_FALSE(company.session().RecalcAll);
-  Set_Recalc_If_Other_Year(company.session(), Date(2025, 12, 31));
-  EXPECT_TRUE(company.session().RecalcAll);
+  Set_Recalc_If_Other_Year(*company.session, Date(2026, 12, 31));
+  EXPECT_FALSE(company.session->RecalcAll);
+  Set_Recalc_If_Other_Year(*company.session, Date(2025, 12, 31));
+  EXPECT_TRUE(company.session->RecalcAll);
 }
 
 }  // namespace

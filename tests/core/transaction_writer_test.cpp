@@ -42,7 +42,7 @@ std::string Ledger_Of(store::Database& db, int64_t number) {
 
 TEST(TransactionWriter, RepeatsTheHeadAndFillsOneSide) {
   TestCompany company;
-  Write_Check(company.session(), 1, 25);
+  Write_Check(*company.session, 1, 25);
   auto rows = company.db().OpenRecordset("SELECT * FROM Transactions WHERE TransNum = 1 ORDER BY RowKey");
   ASSERT_EQ(rows.RecordCount(), 2);
   for (; !rows.Eof(); rows.MoveNext()) {
@@ -64,7 +64,7 @@ TEST(TransactionWriter, RepeatsTheHeadAndFillsOneSide) {
 TEST(TransactionWriter, EveryFieldOfALedgerRowReachesItsColumn) {
   TestCompany company;
   Transaction_Writer rows(
-      company.session(),
+      *company.session,
       {.TransNum = 3, .Type = "a", .Date = today, .Number = "b", .Name = "c", .Address = "d"});
   rows.add({.Account = "e",
             .Category = "f",
@@ -114,9 +114,9 @@ TEST(TransactionWriter, EveryFieldOfALedgerRowReachesItsColumn) {
 
 TEST(TransactionWriter, ReplacesAllRowsAndKeepsThemCleared) {
   TestCompany company;
-  Write_Check(company.session(), 5, 25);
-  Write_Check(company.session(), 6, 40);
-  EXPECT_EQ(Write_Check(company.session(), 5, 30, Probe::Of(company.db(), 5), true), 5);
+  Write_Check(*company.session, 5, 25);
+  Write_Check(*company.session, 6, 40);
+  EXPECT_EQ(Write_Check(*company.session, 5, 30, Probe::Of(company.db(), 5), true), 5);
   EXPECT_EQ(Ledger_Of(company.db(), 5), "0SS 0 30 cleared;9SS 30 0 cleared;");
   EXPECT_EQ(Ledger_Of(company.db(), 6), "0SS 0 40;9SS 40 0;");
 }
@@ -124,21 +124,21 @@ TEST(TransactionWriter, ReplacesAllRowsAndKeepsThemCleared) {
 TEST(TransactionWriter, ATakenNumberGivesTheNextFreeOne) {
   TestCompany company;
   auto other = company.another_user();
-  int64_t mine = Next_TransNum(company.db()), theirs = Next_TransNum(*other->session.dbCompany);
+  int64_t mine = Next_TransNum(company.db()), theirs = Next_TransNum(*other->dbCompany);
   ASSERT_EQ(mine, theirs);
-  EXPECT_EQ(Write_Check(other->session, theirs, 10), 1);
-  EXPECT_EQ(Write_Check(company.session(), mine, 20), 2);
-  EXPECT_EQ(Write_Check(company.session(), 0, 30), 3) << "a batch asks for the next number";
+  EXPECT_EQ(Write_Check(*other, theirs, 10), 1);
+  EXPECT_EQ(Write_Check(*company.session, mine, 20), 2);
+  EXPECT_EQ(Write_Check(*company.session, 0, 30), 3) << "a batch asks for the next number";
   EXPECT_EQ(Ledger_Of(company.db(), 1), "0SS 0 10;9SS 10 0;");
   EXPECT_EQ(Ledger_Of(company.db(), 2), "0SS 0 20;9SS 20 0;");
 }
 
 TEST(TransactionWriter, SavingTwiceFromOneWindowIsOneTransaction) {
   TestCompany company;
-  Transaction_Writer first(company.session(), {.TransNum = 1, .Type = "Check", .Date = today});
+  Transaction_Writer first(*company.session, {.TransNum = 1, .Type = "Check", .Date = today});
   first.add({.Account = "0SS", .Credit = Money::dollars(1)});
   first.commit();
-  EXPECT_EQ(Write_Check(company.session(), first.number(), 9, first.probe()), 1);
+  EXPECT_EQ(Write_Check(*company.session, first.number(), 9, first.probe()), 1);
   EXPECT_EQ(Next_TransNum(company.db()), 2);
 }
 
@@ -156,16 +156,16 @@ TEST(TransactionWriter, AnotherUsersChangeIsAConflictThatLosesNothing) {
       {"deleted", "DELETE FROM Transactions WHERE TransNum = 1"}};
   for (const Meddling& meddling : meddlings) {
     TestCompany company;
-    Write_Check(company.session(), 1, 25);
+    Write_Check(*company.session, 1, 25);
     Probe loaded = Probe::Of(company.db(), 1);
     auto other = company.another_user();
     {
-      store::Transaction tx(*other->session.dbCompany, "Meddling");
-      other->session.dbCompany->Execute(meddling.sql);
+      store::Transaction tx(*other->dbCompany, "Meddling");
+      other->dbCompany->Execute(meddling.sql);
       tx.commit();
     }
     std::string before = Ledger_Of(company.db(), 1);
-    auto conflict = Save_Or_Conflict([&] { Write_Check(company.session(), 1, 99, loaded); });
+    auto conflict = Save_Or_Conflict([&] { Write_Check(*company.session, 1, 99, loaded); });
     ASSERT_TRUE(conflict) << meddling.what;
     EXPECT_TRUE(conflict->reload);
     EXPECT_EQ(conflict->box.title, "Data has changed");
@@ -176,11 +176,11 @@ TEST(TransactionWriter, AnotherUsersChangeIsAConflictThatLosesNothing) {
 
 TEST(TransactionWriter, TheRowOfASetIsAProbeToo) {
   TestCompany company;
-  Write_Check(company.session(), 1, 25);
+  Write_Check(*company.session, 1, 25);
   auto shown = company.db().OpenRecordset("SELECT * FROM Transactions WHERE TransNum = 1 ORDER BY RowKey");
   Probe probe(shown);
-  EXPECT_EQ(Write_Check(company.session(), 1, 26, probe), 1);
-  EXPECT_TRUE(Save_Or_Conflict([&] { Write_Check(company.session(), 1, 27, probe); }))
+  EXPECT_EQ(Write_Check(*company.session, 1, 26, probe), 1);
+  EXPECT_TRUE(Save_Or_Conflict([&] { Write_Check(*company.session, 1, 27, probe); }))
       << "those rows are gone";
   EXPECT_EQ(Ledger_Of(company.db(), 1), "0SS 0 26;9SS 26 0;");
 }
@@ -188,8 +188,8 @@ TEST(TransactionWriter, TheRowOfASetIsAProbeToo) {
 TEST(TransactionWriter, ALockedFileSaysTryAgainLater) {
   TestCompany company;
   auto other = company.another_user();
-  store::Transaction busy(*other->session.dbCompany, "A long batch");
-  auto conflict = Save_Or_Conflict([&] { Write_Check(company.session(), 1, 25); });
+  store::Transaction busy(*other->dbCompany, "A long batch");
+  auto conflict = Save_Or_Conflict([&] { Write_Check(*company.session, 1, 25); });
   ASSERT_TRUE(conflict);
   EXPECT_FALSE(conflict->reload);
   EXPECT_EQ(conflict->box.text, "Could not update; currently locked. Try Again later.");
@@ -199,10 +199,10 @@ TEST(TransactionWriter, ALockedFileSaysTryAgainLater) {
 
 TEST(TransactionWriter, AFailureInTheMiddleLeavesTheOldRows) {
   TestCompany company;
-  Write_Check(company.session(), 1, 25);
+  Write_Check(*company.session, 1, 25);
   EXPECT_THROW(
       {
-        Transaction_Writer rows(company.session(), {.TransNum = 1, .Type = "Check", .Date = today},
+        Transaction_Writer rows(*company.session, {.TransNum = 1, .Type = "Check", .Date = today},
                                 Probe::Of(company.db(), 1));
         rows.add({.Account = "0SS", .Credit = Money::dollars(99)});
         company.db().Execute("INSERT INTO NoSuchTable VALUES (1)");
@@ -210,7 +210,7 @@ TEST(TransactionWriter, AFailureInTheMiddleLeavesTheOldRows) {
       store::Error);
   EXPECT_EQ(Ledger_Of(company.db(), 1), "0SS 0 25;9SS 25 0;");
   {
-    Transaction_Writer forgotten(company.session(), {.TransNum = 1, .Type = "Check", .Date = today},
+    Transaction_Writer forgotten(*company.session, {.TransNum = 1, .Type = "Check", .Date = today},
                                  Probe::Of(company.db(), 1));
   }
   EXPECT_EQ(Ledger_Of(company.db(), 1), "0SS 0 25;9SS 25 0;") << "without commit nothing has happened";
@@ -221,9 +221,9 @@ TEST(TransactionWriter, AFailureInTheMiddleLeavesTheOldRows) {
 
 TEST(TransactionWriter, RewritesAFewFieldsOfAllRows) {
   TestCompany company;
-  Write_Check(company.session(), 1, 25);
-  Write_Check(company.session(), 2, 40);
-  EXPECT_EQ(Rewrite_Fields(company.session(), 1, {{"Number", "77"}, {"Date", "6/14/2026"}}), 2);
+  Write_Check(*company.session, 1, 25);
+  Write_Check(*company.session, 2, 40);
+  EXPECT_EQ(Rewrite_Fields(*company.session, 1, {{"Number", "77"}, {"Date", "6/14/2026"}}), 2);
   EXPECT_EQ(company.db()
                 .OpenRecordset(
                     "SELECT * FROM Transactions WHERE TransNum = 1 AND Number = '77' AND Date = #6/14/2026#")
@@ -234,9 +234,9 @@ TEST(TransactionWriter, RewritesAFewFieldsOfAllRows) {
 
 TEST(TransactionWriter, DeletesWholeTransactionsAndCanTakeItBack) {
   TestCompany company;
-  Write_Check(company.session(), 1, 25);
-  Write_Check(company.session(), 2, 40);
-  EXPECT_EQ(Delete_Transaction(company.session(), 1), 2);
+  Write_Check(*company.session, 1, 25);
+  Write_Check(*company.session, 2, 40);
+  EXPECT_EQ(Delete_Transaction(*company.session, 1), 2);
   EXPECT_EQ(Ledger_Of(company.db(), 1), "");
   EXPECT_EQ(Ledger_Of(company.db(), 2), "0SS 0 40;9SS 40 0;");
   auto action = store::List_Actions(company.db(), 1).front();
@@ -249,7 +249,7 @@ TEST(TransactionWriter, DeletesWholeTransactionsAndCanTakeItBack) {
 
 TEST(TransactionWriter, RowsLeavingAnotherYearAskForAFullPassToo) {
   TestCompany company;
-  Session& session = company.session();
+  Session& session = *company.session;
   company.run("INSERT INTO Transactions (TransNum, Date) VALUES (1, '2025-12-31'), (2, '2025-12-31')");
   Write_Check(session, 1, 25, Probe::Of(company.db(), 1));
   EXPECT_TRUE(session.RecalcAll) << "moved into this year";
