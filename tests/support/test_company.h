@@ -26,9 +26,10 @@ class ScriptedPrompts : public Prompts {
   std::string save_file(const std::string&, const std::string&) override { return inputs.empty() ? "" : next(inputs); }
   bool progress(const std::string& label, int64_t, int64_t) override {
     if (labels.empty() || labels.back() != label) labels.push_back(label);
+    in_progress = true;
     return true;
   }
-  void progress_done() override {}
+  void progress_done() override { in_progress = false; }
   void hourglass(bool) override {}
   void sound(const std::string& file) override { sounds.push_back(file); }
 
@@ -36,6 +37,7 @@ class ScriptedPrompts : public Prompts {
   std::vector<std::string> labels, sounds;
   std::deque<bool> answers;
   std::deque<std::string> inputs;
+  bool in_progress = false;  ///< a progress is shown that nobody took away
 
  private:
   template <typename T>
@@ -64,7 +66,25 @@ struct TestCompany {
     Open_Company_File(other, Company_Path(other, "Acme"));
     Set_Recordsets(other);
   }
+  /// A colleague at work in the same company.
+  std::unique_ptr<Session> another_user() {
+    auto other = user();
+    open(*other);
+    return other;
+  }
   store::Database& db() { return *session->dbCompany; }
+
+  /// Writes behind the program's back: company.run("UPDATE Accounts SET ...", {...}).
+  void run(std::string_view sql, const store::Database::Params& params = {}) {
+    store::Transaction tx(db(), "Set up by a test");
+    db().Execute(sql, params);
+    tx.commit();
+  }
+  void add_category(const std::string& id, const std::string& type, const std::string& parent = "",
+                    bool dormant = false) {
+    run("INSERT INTO Accounts (CatID, AccountName, AccountType, ParentAccount, Dormant) VALUES (?, ?, ?, ?, ?)",
+        {id, "Name of " + id, type, parent, dormant});
+  }
 
   TempFolder folder;
   Clock clock;
