@@ -352,7 +352,8 @@ void Transaction::write_history() {
     if (changes.empty()) return;  // nothing was written that a history could tell
   }
   auto row = db_.connection_.prepare("INSERT INTO History (At, User, What, Undoes, Changes) VALUES (?, ?, ?, ?, ?)");
-  row.bind(1, db_.author_.now ? db_.author_.now() : "").bind(2, db_.author_.user).bind(3, what_);
+  const Author& author = db_.author_;
+  row.bind(1, author.now ? author.now() : "").bind(2, author.user ? author.user() : "").bind(3, what_);
   row.bind(4, undoes_ ? Value(undoes_) : Value());
   if (history_ == History::Rows) row.bind_bytes(5, changes);
   row.run();
