@@ -141,7 +141,8 @@ void Replace_Company(const fs::path& expanded, const fs::path& target, const std
 
 bool Backup_Company(Session& session, const std::string& file_name) {
   if (file_name.empty()) {
-    session.prompts.box({"Pick a File name that is shorter than 9 characters.", "Name To Long", Icon::Critical});
+    session.prompts.box(
+        {"Pick a File name that is shorter than 9 characters.", "Name To Long", Icon::Critical});
     return false;
   }
   if (!session.dbCompany) throw store::Error(store::errors::file_not_found, "No company is open.");
@@ -169,6 +170,8 @@ bool Restore_Company(Session& session, const fs::path& backup, const fs::path& t
   try {
     Replace_Company(expanded, target, [&] { Open_Company_File(session, target); });
   } catch (...) {
+    std::error_code ignored;
+    fs::remove(expanded, ignored);
     before.reopen(session);
     throw;
   }

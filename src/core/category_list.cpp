@@ -8,8 +8,9 @@ namespace {
 std::vector<CategoryRow> Read_Categories(store::Database& company) {
   std::vector<CategoryRow> rows;
   company.each(
-      "SELECT CatID, AccountName, AccountType, ParentAccount, Balance, Dormant FROM Accounts ORDER BY AccountName", {},
-      [&](const store::Row& row) {
+      "SELECT CatID, AccountName, AccountType, ParentAccount, Balance, Dormant FROM Accounts ORDER BY "
+      "AccountName",
+      {}, [&](const store::Row& row) {
         rows.push_back({std::string(row.text(0)), std::string(row.text(1)), std::string(row.text(2)),
                         std::string(row.text(3)), row.money(4), row.flag(5)});
       });
@@ -19,7 +20,8 @@ std::vector<CategoryRow> Read_Categories(store::Database& company) {
 std::vector<ItemRow> Read_Items(store::Database& company) {
   std::vector<ItemRow> rows;
   company.each(
-      "SELECT ItemName, ItemType, ParentItem, Description, InvPurchaseDesc, ItemCat, PayMethod, PayTo, PriceRate, Cost,"
+      "SELECT ItemName, ItemType, ParentItem, Description, InvPurchaseDesc, ItemCat, PayMethod, PayTo, "
+      "PriceRate, Cost,"
       " Dormant FROM Items ORDER BY ItemName",
       {}, [&](const store::Row& row) {
         const auto text = [&](int column) { return std::string(row.text(column)); };

@@ -12,10 +12,20 @@
 namespace tallymere {
 
 /// The category types in the order in which lists and reports show them.
-inline constexpr std::array<std::string_view, 14> Category_Types = {
-    "Bank",          "Accounts Receivable", "Current Asset",     "Fixed Asset",         "Accounts Payable",
-    "Credit Card",   "Current Liability",   "Long Term Liability", "Equity",            "Income",
-    "Other Income",  "Cost of Goods Sold",  "Expense",           "Other Expense"};
+inline constexpr std::array<std::string_view, 14> Category_Types = {"Bank",
+                                                                    "Accounts Receivable",
+                                                                    "Current Asset",
+                                                                    "Fixed Asset",
+                                                                    "Accounts Payable",
+                                                                    "Credit Card",
+                                                                    "Current Liability",
+                                                                    "Long Term Liability",
+                                                                    "Equity",
+                                                                    "Income",
+                                                                    "Other Income",
+                                                                    "Cost of Goods Sold",
+                                                                    "Expense",
+                                                                    "Other Expense"};
 
 struct CategoryRow {
   std::string CatID, AccountName, AccountType, ParentAccount;
@@ -27,8 +37,9 @@ struct CategoryRow {
   const std::string& parent() const { return ParentAccount; }
 };
 
-/// The list of categories: the top rows grouped by Category_Types, by name within a type, sub-categories by name below
-/// their parent whatever their own type. Without `show_dormant` a dormant category and all below it are left out.
+/// The list of categories: the top rows grouped by Category_Types, by name within a type, sub-categories by
+/// name below their parent whatever their own type. Without `show_dormant` a dormant category and all below
+/// it are left out.
 std::vector<CategoryRow> Make_Category_List(store::Database& company, bool show_dormant);
 
 /// The drop-down drpExpenseList of the entry windows: the top rows by AccountType, dormant ones too.

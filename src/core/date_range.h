@@ -19,8 +19,8 @@ inline constexpr std::array<std::string_view, 10> Date_Range_Names = {
     "Today",     "This Week", "This Month", "This Quarter", "This Year",
     "Yesterday", "Last Week", "Last Month", "Last Quarter", "Last Year"};
 
-/// Weeks run Sunday to Saturday, quarters and years follow the calendar, never a fiscal year. A name that is none of
-/// the presets is the current month up to today.
+/// Weeks run Sunday to Saturday, quarters and years follow the calendar, never a fiscal year. A name that is
+/// none of the presets is the current month up to today.
 DateRange Get_Date_Range(std::string_view name, Date today);
 
 }  // namespace tallymere

@@ -10,7 +10,8 @@
 namespace tallymere {
 namespace {
 
-/// What the log calls a fault: the store's and the compression's own numbers, else the class of the run-time fault.
+/// What the log calls a fault: the store's and the compression's own numbers, else the class of the run-time
+/// fault.
 int Number_Of(const std::exception& fault) {
   if (const auto* error = dynamic_cast<const store::Error*>(&fault)) return error->number;
   if (const auto* error = dynamic_cast<const HuffmanError*>(&fault)) return error->number;
@@ -23,10 +24,12 @@ int Number_Of(const std::exception& fault) {
 
 }  // namespace
 
-void Error_Box(Session& session, const std::string& object, const std::string& procedure, const std::exception& fault) {
+void Error_Box(Session& session, const std::string& object, const std::string& procedure,
+               const std::exception& fault) {
   session.log.write(object, procedure, Number_Of(fault), fault.what());
   session.prompts.box(
-      {"An Error Occured. Contact Quillbrook Software Inc.\r\nCall 555-010-2000 Locally or 1-800-555-0100 Nationwide",
+      {"An Error Occured. Contact Quillbrook Software Inc.\r\nCall 555-010-2000 Locally or 1-800-555-0100 "
+       "Nationwide",
        "Error", Icon::Critical});
 }
 

@@ -76,19 +76,26 @@ constexpr std::array rows = {
 
 bool Granted(Group group, std::string_view CurrentUser, const UserFlags& flags) {
   switch (group) {
-    case Group::Administration: return CurrentUser == Administrator;
-    case Group::AR: return flags.AR;
-    case Group::AP: return flags.AP;
-    case Group::BankCC: return flags.BankCC;
-    case Group::Inventory: return flags.Inventory;
-    case Group::Payroll: return flags.Payroll;
+    case Group::Administration:
+      return CurrentUser == Administrator;
+    case Group::AR:
+      return flags.AR;
+    case Group::AP:
+      return flags.AP;
+    case Group::BankCC:
+      return flags.BankCC;
+    case Group::Inventory:
+      return flags.Inventory;
+    case Group::Payroll:
+      return flags.Payroll;
   }
   return false;
 }
 
 }  // namespace
 
-std::vector<CommandRight> Apply_User_Rights(bool MultiUser, std::string_view CurrentUser, const UserFlags& flags) {
+std::vector<CommandRight> Apply_User_Rights(bool MultiUser, std::string_view CurrentUser,
+                                            const UserFlags& flags) {
   std::vector<CommandRight> rights;
   for (const Row& row : rows)
     rights.push_back({row.name, row.property, !MultiUser || Granted(row.group, CurrentUser, flags)});

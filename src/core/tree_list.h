@@ -18,9 +18,9 @@ inline std::string Indented(const std::string& name, int level) {
   return std::string(static_cast<size_t>(level * Blanks_Per_Level), ' ') + name;
 }
 
-/// Arranges the rows of one reading as lists show them: each top row followed by what stands below it, children in the
-/// order of `rows`. `Row` has key(), parent() and a `level`, which is set here. A row whose parent is missing does not
-/// show.
+/// Arranges the rows of one reading as lists show them: each top row followed by what stands below it,
+/// children in the order of `rows`. `Row` has key(), parent() and a `level`, which is set here. A row whose
+/// parent is missing does not show.
 template <typename Row>
 class TreeList {
  public:

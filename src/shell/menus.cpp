@@ -217,9 +217,9 @@ struct TypeRow {
   std::string_view window;
 };
 constexpr TypeRow type_rows[] = {
-    {"Payment", "frmPayments"},      {"Check", "frmCheck"},   {"Billcheck", "frmCheck"},
-    {"Liabilitycheck", "frmCheck"},  {"Paycheck", "frmCheck"}, {"Bill", "frmBills"},
-    {"Item Receipt", "frmBills"},    {"Credit", "frmBills"},   {"Invoice", "frmInvoice"},
+    {"Payment", "frmPayments"},     {"Check", "frmCheck"},    {"Billcheck", "frmCheck"},
+    {"Liabilitycheck", "frmCheck"}, {"Paycheck", "frmCheck"}, {"Bill", "frmBills"},
+    {"Item Receipt", "frmBills"},   {"Credit", "frmBills"},   {"Invoice", "frmInvoice"},
 };
 
 constexpr std::string_view category_columns = "Type,Date,Number,Name,Memo,Category,Amount,Balance,";
@@ -238,9 +238,15 @@ constexpr ColumnsRow columns_rows[] = {
 
 }  // namespace
 
-std::span<const MenuRow> Menu_Table() { return menu_rows; }
-std::span<const ToolRow> Toolbar_Table() { return tool_rows; }
-std::span<const ContextRow> Context_Table() { return context_rows; }
+std::span<const MenuRow> Menu_Table() {
+  return menu_rows;
+}
+std::span<const ToolRow> Toolbar_Table() {
+  return tool_rows;
+}
+std::span<const ContextRow> Context_Table() {
+  return context_rows;
+}
 
 std::string_view Window_Of_Type(std::string_view type) {
   for (const TypeRow& row : type_rows)

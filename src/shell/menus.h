@@ -3,14 +3,14 @@
 #include <span>
 #include <string_view>
 
-/// The tables of every command: the menu bar, the toolbar and the context menus. frmMain and frmMenus walk them; a new
-/// report or window is a row here.
+/// The tables of every command: the menu bar, the toolbar and the context menus. frmMain and frmMenus walk
+/// them; a new report or window is a row here.
 namespace tallymere {
 
 inline constexpr std::string_view Separator = "-";
 
-/// A row of the menu bar, below its parent in the order of the table. A row without a window is a submenu, a separator
-/// or one of frmMain's own commands, which it knows by name.
+/// A row of the menu bar, below its parent in the order of the table. A row without a window is a submenu, a
+/// separator or one of frmMain's own commands, which it knows by name.
 struct MenuRow {
   std::string_view parent;  ///< empty: in the bar itself
   std::string_view name;
@@ -38,10 +38,12 @@ struct ContextRow {
 std::span<const ContextRow> Context_Table();
 
 /// The keys under which frmBills is asked for.
-inline constexpr std::string_view Bills_Items = "Items";                ///< with the item tab selected
-inline constexpr std::string_view Bills_Item_Receipt = "Item Receipt";  ///< the same, with the item-receipt box set
+inline constexpr std::string_view Bills_Items = "Items";  ///< with the item tab selected
+inline constexpr std::string_view Bills_Item_Receipt =
+    "Item Receipt";  ///< the same, with the item-receipt box set
 
-/// The window in which a transaction of this type is entered. Types without a window of their own show in the ledger.
+/// The window in which a transaction of this type is entered. Types without a window of their own show in the
+/// ledger.
 std::string_view Window_Of_Type(std::string_view type);
 
 /// The columns with which a transaction report comes up; empty: all fields of Transactions.

@@ -26,7 +26,8 @@ TEST(Rights, OnlyTheExactNameAdminAdministers) {
   const Names refused = Refused(true, "admin", all);
   EXPECT_EQ(refused, Refused(true, "Karen", all));
   EXPECT_EQ(refused.size(), 21u);
-  for (const char* name : {"mnuUsers", "mnuSwitchMode", "mnuRestore", "mnuCompany", "mnuImport", "lin", "mnuPL"})
+  for (const char* name :
+       {"mnuUsers", "mnuSwitchMode", "mnuRestore", "mnuCompany", "mnuImport", "lin", "mnuPL"})
     EXPECT_TRUE(refused.contains(name)) << name;
   EXPECT_FALSE(refused.contains("mnuChecks"));
 }
@@ -37,12 +38,12 @@ TEST(Rights, EachFlagCarriesItsOwnGroupAlsoForAdmin) {
     Names refused;
   } cases[] = {
       {{.AR = false},
-       {"mnuInvoices", "mnuPO", "mnuPS", "mnuCreateEstimate", "mnuAR", "mnuCustomers", "mnuCusMes", "btnInvoices",
-        "btnCustomers"}},
+       {"mnuInvoices", "mnuPO", "mnuPS", "mnuCreateEstimate", "mnuAR", "mnuCustomers", "mnuCusMes",
+        "btnInvoices", "btnCustomers"}},
       {{.AP = false}, {"mnuBill", "mnuAP", "mnuVendors", "btnBills", "btnVendors"}},
       {{.BankCC = false},
-       {"mnuChecks", "mnuPayBill", "mnuPayments", "mnuDepositFunds", "mnuPrint", "L99", "mnuAccounts", "btnChecks",
-        "btnPayments", "btnAccounts"}},
+       {"mnuChecks", "mnuPayBill", "mnuPayments", "mnuDepositFunds", "mnuPrint", "L99", "mnuAccounts",
+        "btnChecks", "btnPayments", "btnAccounts"}},
       {{.Inventory = false},
        {"mnuInventory", "mnuItems", "mnuReportsInventory", "mnuPaySalesTax", "mnuSalesReport", "btnItems"}},
       {{.Payroll = false},
@@ -53,8 +54,8 @@ TEST(Rights, EachFlagCarriesItsOwnGroupAlsoForAdmin) {
 
 TEST(Rights, CategoriesStayVisibleButCannotBeOpenedWithoutBanking) {
   for (const CommandRight& right : Apply_User_Rights(true, "Karen", none)) {
-    const bool greyed = right.name == "mnuAccounts" || right.name == "mnuSwitchMode" || right.name == "mnuRestore" ||
-                        right.name == "mnuCompany";
+    const bool greyed = right.name == "mnuAccounts" || right.name == "mnuSwitchMode" ||
+                        right.name == "mnuRestore" || right.name == "mnuCompany";
     EXPECT_EQ(right.property == CommandRight::Property::Enabled, greyed) << right.name;
   }
 }
