@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -40,6 +41,7 @@ class Statement {
   int64_t integer(int column) const;
   double number(int column) const;
   std::string_view text(int column) const;  ///< valid until the next step
+  std::string bytes(int column) const;
   Value raw(int column) const;              ///< as the engine holds it: null, whole number, double or text
 
  private:

@@ -95,7 +95,6 @@ class Table : public RowSet {
   bool Seek(std::string_view comparison, const Value& key);  ///< comparison is "="
   bool NoMatch() const { return no_match_; }
   bool BOF() const { return at_ == At::Before; }
-  bool EOF_() const { return at_ == At::After; }
   bool Eof() const { return at_ == At::After; }
   void MoveFirst();  ///< on an empty table: Eof
   void MoveLast();

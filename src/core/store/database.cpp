@@ -1,0 +1,361 @@
+#include "core/store/database.h"
+
+#include <sodium.h>
+
+#include <algorithm>
+
+#include "core/store/recordset.h"
+#include "core/store/sql.h"
+#include "core/text.h"
+
+namespace tallymere::store {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::string_view history_table = "History";
+constexpr std::string_view password_table = "StorePassword";
+
+struct Declaration {
+  FieldType type;
+  std::string_view text;
+};
+/// The second word gives the engine's affinity, the first tells the program what the column means.
+constexpr std::array<Declaration, 8> declarations = {{{FieldType::Text, "TEXT"},
+                                                      {FieldType::Memo, "MEMO TEXT"},
+                                                      {FieldType::Long, "LONG INTEGER"},
+                                                      {FieldType::Integer, "SHORT INTEGER"},
+                                                      {FieldType::Money, "MONEY INTEGER"},
+                                                      {FieldType::Double, "DOUBLE"},
+                                                      {FieldType::Date, "DATE TEXT"},
+                                                      {FieldType::Flag, "FLAG INTEGER"}}};
+
+std::string Column_Definition(const Field& field) {
+  bool is_text = field.type == FieldType::Text || field.type == FieldType::Memo;
+  return Quoted(field.name) + " " + std::string(Declaration_Of_Type(field.type)) + (is_text ? " COLLATE NOCASE" : "");
+}
+
+std::string Decimal_View(const TableDef& table) {
+  std::string columns;
+  for (const Field& field : table.fields) {
+    std::string name = Quoted(field.name);
+    columns += columns.empty() ? "" : ", ";
+    columns += field.type == FieldType::Money ? name + " / 10000.0 AS " + name : name;
+  }
+  return "CREATE VIEW " + Quoted(table.name + "_decimal") + " AS SELECT " + columns + " FROM " + Quoted(table.name);
+}
+
+bool Is_Own(std::string_view name) {
+  return name == history_table || name == password_table || name.starts_with("sqlite_");
+}
+
+/// A slow hash is not needed here: this password is the program's own, the same in every file.
+std::string Salted_Hash(std::string_view password, std::string_view salt) {
+  std::array<unsigned char, crypto_generichash_BYTES> hash{};
+  std::string salted = std::string(salt) + std::string(password);
+  crypto_generichash(hash.data(), hash.size(), reinterpret_cast<const unsigned char*>(salted.data()), salted.size(),
+                     nullptr, 0);
+  std::string hex(hash.size() * 2 + 1, '\0');
+  sodium_bin2hex(hex.data(), hex.size(), hash.data(), hash.size());
+  hex.pop_back();
+  return hex;
+}
+
+std::string New_Salt() {
+  std::array<unsigned char, 16> bytes{};
+  randombytes_buf(bytes.data(), bytes.size());
+  std::string hex(33, '\0');
+  sodium_bin2hex(hex.data(), hex.size(), bytes.data(), bytes.size());
+  hex.pop_back();
+  return hex;
+}
+
+bool Password_Fits(Connection& connection, std::string_view password) {
+  auto row = connection.prepare("SELECT Salt, Hash FROM StorePassword");
+  if (!row.step()) return password.empty();
+  return Salted_Hash(password, row.text(0)) == row.text(1);
+}
+
+std::string Password_Of(std::string_view connect) {
+  for (const std::string& part : split(connect, ";"))
+    if (starts_with_same_text(part, "pwd=")) return part.substr(4);
+  return {};
+}
+
+int64_t Pragma(Connection& connection, const std::string& name) {
+  auto row = connection.prepare("PRAGMA " + name);
+  return row.step() ? row.integer(0) : 0;
+}
+
+void Check_Kind(Connection& connection, FileKind kind, const fs::path& path, int newest) {
+  if (Pragma(connection, "application_id") != static_cast<int64_t>(kind))
+    throw Error(errors::not_a_database, "Unrecognized database format '" + path.string() + "'.");
+  if (Pragma(connection, "user_version") > newest)
+    throw Error(errors::newer_file,
+                "'" + path.filename().string() + "' was written by a newer version of this program.");
+}
+
+}  // namespace
+
+FieldType Type_Of_Declaration(std::string_view declared) {
+  for (const auto& declaration : declarations)
+    if (declaration.text == declared) return declaration.type;
+  return FieldType::Text;
+}
+
+std::string_view Declaration_Of_Type(FieldType type) {
+  auto found = std::find_if(declarations.begin(), declarations.end(), [&](auto& d) { return d.type == type; });
+  return found->text;
+}
+
+Value Typed(const Value& raw, FieldType type) {
+  auto number = std::get_if<int64_t>(&raw.content());
+  if (raw.is_null()) return {};
+  if (type == FieldType::Money && number) return Money::from_units(*number);
+  if (type == FieldType::Flag && number) return *number != 0;
+  if (type == FieldType::Date) return Date::from_iso(raw.text());
+  if (type == FieldType::Double) return raw.number();
+  return raw;
+}
+
+TableDef& TableDef::CreateField(std::string field, FieldType type) {
+  fields.push_back({std::move(field), type});
+  return *this;
+}
+
+TableDef& TableDef::CreateIndex(std::string index, std::string field) {
+  indexes.push_back({std::move(index), std::move(field)});
+  return *this;
+}
+
+const Field* TableDef::find(std::string_view field) const {
+  auto found = std::find_if(fields.begin(), fields.end(), [&](auto& f) { return same_text(f.name, field); });
+  return found == fields.end() ? nullptr : &*found;
+}
+
+// --- opening ------------------------------------------------------------------------------------------------
+
+Database::Database(const fs::path& path, Connection::Mode mode) : path_(path), connection_(path, mode) {}
+Database::~Database() = default;
+
+std::unique_ptr<Database> Database::CreateDatabase(const fs::path& path, FileKind kind) {
+  if (fs::exists(path)) throw Error(errors::database_exists, "Database already exists.");
+  if (!fs::is_directory(fs::absolute(path).parent_path()))
+    throw Error(errors::bad_path, "'" + path.string() + "' isn't a valid path.");
+  std::unique_ptr<Database> db(new Database(path, Connection::Mode::Create));
+  db->connection_.execute("PRAGMA application_id = " + std::to_string(static_cast<int32_t>(kind)));
+  db->connection_.execute(
+      "BEGIN IMMEDIATE; CREATE TABLE StorePassword (Salt TEXT NOT NULL, Hash TEXT NOT NULL);"
+      "CREATE TABLE History (RowKey INTEGER PRIMARY KEY AUTOINCREMENT, At TEXT NOT NULL, User TEXT NOT NULL,"
+      " What TEXT NOT NULL, Undoes INTEGER, Changes BLOB); COMMIT");
+  db->keeps_history_ = kind == FileKind::Company;
+  return db;
+}
+
+std::unique_ptr<Database> Database::OpenDatabase(const fs::path& path, FileKind kind, std::string_view connect,
+                                                 int newest) {
+  if (!fs::exists(path)) throw Error(errors::file_not_found, "Could not find file '" + path.string() + "'.");
+  std::unique_ptr<Database> db(new Database(path, Connection::Mode::ReadWrite));
+  Check_Kind(db->connection_, kind, path, newest);
+  if (!Password_Fits(db->connection_, Password_Of(connect)))
+    throw Error(errors::wrong_password, "Not a valid password.");
+  db->keeps_history_ = kind == FileKind::Company;
+  return db;
+}
+
+void Database::NewPassword(std::string_view old_password, std::string_view new_password) {
+  if (!Password_Fits(connection_, old_password)) throw Error(errors::wrong_password, "Not a valid password.");
+  std::string salt = New_Salt();
+  Transaction change(*this, "Database password");
+  connection_.prepare("DELETE FROM StorePassword").run();
+  connection_.prepare("INSERT INTO StorePassword VALUES (?, ?)")
+      .bind(1, salt)
+      .bind(2, Salted_Hash(new_password, salt))
+      .run();
+  change.commit();
+}
+
+int Database::version() const { return static_cast<int>(Pragma(connection_, "user_version")); }
+
+void Database::set_version(int version) {
+  require_transaction();
+  connection_.execute("PRAGMA user_version = " + std::to_string(version));
+}
+
+// --- definitions --------------------------------------------------------------------------------------------
+
+void Database::read_definitions() const {
+  tables_.emplace();
+  auto names = connection_.prepare("SELECT name FROM sqlite_schema WHERE type = 'table' ORDER BY rowid");
+  while (names.step()) {
+    if (Is_Own(names.text(0))) continue;
+    TableDef& table = tables_->emplace_back();
+    table.name = names.text(0);
+    auto fields = connection_.prepare("SELECT name, type FROM pragma_table_info(?)");
+    fields.bind(1, table.name);
+    while (fields.step())
+      if (fields.text(0) != hidden_key)
+        table.CreateField(std::string(fields.text(0)), Type_Of_Declaration(fields.text(1)));
+    auto indexes = connection_.prepare(
+        "SELECT l.name, i.name FROM pragma_index_list(?) AS l, pragma_index_info(l.name) AS i"
+        " WHERE l.name LIKE '%.%' AND i.seqno = 0 ORDER BY l.seq DESC");
+    indexes.bind(1, table.name);
+    while (indexes.step()) {
+      auto name = indexes.text(0);
+      table.CreateIndex(std::string(name.substr(name.find('.') + 1)), std::string(indexes.text(1)));
+    }
+  }
+}
+
+std::vector<TableDef> Database::TableDefs() const {
+  if (!tables_) read_definitions();
+  return *tables_;
+}
+
+const TableDef* Database::find_table(std::string_view name) const {
+  if (!tables_) read_definitions();
+  auto found = std::find_if(tables_->begin(), tables_->end(), [&](auto& t) { return same_text(t.name, name); });
+  return found == tables_->end() ? nullptr : &*found;
+}
+
+void Database::CreateTableDef(const TableDef& table) {
+  require_transaction();
+  std::string columns = "RowKey INTEGER PRIMARY KEY AUTOINCREMENT";
+  bool has_money = false;
+  for (const Field& field : table.fields) {
+    columns += ", " + Column_Definition(field);
+    has_money = has_money || field.type == FieldType::Money;
+  }
+  connection_.execute("CREATE TABLE " + Quoted(table.name) + " (" + columns + ")");
+  for (const Index& index : table.indexes)
+    connection_.execute("CREATE INDEX " + Quoted(table.name + "." + index.name) + " ON " + Quoted(table.name) + " (" +
+                        Quoted(index.field) + ")");
+  if (has_money) connection_.execute(Decimal_View(table));
+  tables_.reset();
+}
+
+void Database::add_field(const std::string& table, const Field& field) {
+  require_transaction();
+  connection_.execute("ALTER TABLE " + Quoted(table) + " ADD COLUMN " + Column_Definition(field));
+  tables_.reset();
+  const TableDef* now = find_table(table);
+  connection_.execute("DROP VIEW IF EXISTS " + Quoted(table + "_decimal"));
+  bool has_money = std::any_of(now->fields.begin(), now->fields.end(), [](auto& f) { return f.type == FieldType::Money; });
+  if (has_money) connection_.execute(Decimal_View(*now));
+}
+
+void Database::create_reading_index(const std::string& name, const std::string& table, const std::string& columns,
+                                    const std::string& where) {
+  require_transaction();
+  connection_.execute("CREATE INDEX IF NOT EXISTS " + Quoted(name) + " ON " + Quoted(table) + " (" + columns + ")" +
+                      (where.empty() ? "" : " WHERE " + where));
+}
+
+std::vector<QueryDef> Database::QueryDefs() const {
+  std::vector<QueryDef> queries;
+  auto views = connection_.prepare(
+      "SELECT name, sql FROM sqlite_schema WHERE type = 'view' AND name NOT LIKE '%\\_decimal' ESCAPE '\\' ORDER BY rowid");
+  while (views.step()) {
+    auto sql = views.text(1);
+    queries.push_back({std::string(views.text(0)), std::string(sql.substr(sql.find(" AS ") + 4))});
+  }
+  return queries;
+}
+
+void Database::CreateQueryDef(const QueryDef& query) {
+  require_transaction();
+  connection_.execute("CREATE VIEW " + Quoted(query.name) + " AS " + Translate(query.sql));
+}
+
+// --- reading and writing ------------------------------------------------------------------------------------
+
+std::unique_ptr<Table> Database::OpenTable(std::string_view name) { return std::make_unique<Table>(*this, name); }
+
+Recordset Database::OpenRecordset(std::string_view sql, const Params& params) { return {*this, sql, params}; }
+
+const std::string& Database::translated(std::string_view sql) {
+  auto found = translations_.find(sql);
+  if (found != translations_.end()) return found->second;
+  if (translations_.size() > 1000) translations_.clear();
+  return translations_.emplace(sql, Translate(sql)).first->second;
+}
+
+Statement Database::query(std::string_view sql, const Params& params) {
+  Statement statement = connection_.prepare(translated(sql));
+  if (statement.parameter_count() != static_cast<int>(params.size()))
+    throw Error(errors::bad_statement, "Too few parameters. Expected " + std::to_string(statement.parameter_count()) + ".");
+  statement.bind_all(params);
+  return statement;
+}
+
+int64_t Database::Execute(std::string_view sql, const Params& params) {
+  require_transaction();
+  return query(sql, params).run();
+}
+
+Value Database::value(std::string_view sql, const Params& params) {
+  Statement statement = query(sql, params);
+  if (!statement.step()) return {};
+  return Typed(statement.raw(0), Type_Of_Declaration(statement.declared_type(0)));
+}
+
+void Database::require_transaction() const {
+  if (depth_ == 0) throw std::logic_error("a database is written only inside a store::Transaction");
+}
+
+// --- transactions -------------------------------------------------------------------------------------------
+
+Transaction::Transaction(Database& db, std::string what, History history)
+    : db_(db), what_(std::move(what)), history_(history), level_(db.depth_) {
+  Connection& connection = db_.connection_;
+  if (level_ > 0) {
+    connection.savepoint("level" + std::to_string(level_));
+  } else {
+    connection.begin();
+    try {
+      if (db_.keeps_history_ && history_ == History::Rows) connection.record_changes(std::string(history_table));
+    } catch (...) {
+      connection.rollback();
+      throw;
+    }
+  }
+  ++db_.depth_;
+}
+
+Transaction::~Transaction() {
+  if (!open_) return;
+  --db_.depth_;
+  db_.tables_.reset();
+  if (level_ > 0) {
+    db_.connection_.rollback_to("level" + std::to_string(level_));
+  } else {
+    db_.connection_.drop_changes();
+    db_.connection_.rollback();
+  }
+}
+
+void Transaction::commit() {
+  if (level_ > 0) {
+    db_.connection_.release("level" + std::to_string(level_));
+  } else {
+    if (db_.keeps_history_) write_history();
+    db_.connection_.commit();
+  }
+  open_ = false;
+  --db_.depth_;
+}
+
+void Transaction::write_history() {
+  std::string changes;
+  if (history_ == History::Rows) {
+    changes = db_.connection_.take_changes();
+    if (changes.empty()) return;  // nothing was written that a history could tell
+  }
+  auto row = db_.connection_.prepare("INSERT INTO History (At, User, What, Undoes, Changes) VALUES (?, ?, ?, ?, ?)");
+  row.bind(1, db_.author_.now ? db_.author_.now() : "").bind(2, db_.author_.user).bind(3, what_);
+  row.bind(4, undoes_ ? Value(undoes_) : Value());
+  if (history_ == History::Rows) row.bind_bytes(5, changes);
+  row.run();
+}
+
+}  // namespace tallymere::store

@@ -1,0 +1,354 @@
+#include "core/store/engine.h"
+
+#define SQLITE_ENABLE_SESSION 1
+#define SQLITE_ENABLE_PREUPDATE_HOOK 1
+#include <sqlite3.h>
+
+#include <algorithm>
+#include <set>
+#include <utility>
+
+#include "core/store/error.h"
+
+namespace tallymere::store {
+namespace {
+
+constexpr int lock_patience_ms = 4000;  // "a few seconds", then 3218
+constexpr size_t most_statements = 400;
+
+int Number_Of(int code) {
+  switch (code & 0xff) {
+    case SQLITE_BUSY:
+    case SQLITE_LOCKED: return errors::locked;
+    case SQLITE_NOTADB: return errors::not_a_database;
+    case SQLITE_CORRUPT: return errors::file_damaged;
+    case SQLITE_CANTOPEN: return errors::cannot_open;
+    case SQLITE_READONLY:
+    case SQLITE_PERM: return errors::read_only;
+    case SQLITE_FULL: return errors::disk_full;
+    case SQLITE_CONSTRAINT: return errors::duplicate_key;
+    default: return errors::bad_statement;
+  }
+}
+
+std::string Words_Of(int number, const std::string& engine_words, const std::string& doing) {
+  switch (number) {
+    case errors::locked: return "Could not update; currently locked.";
+    case errors::not_a_database: return "Unrecognized database format '" + doing + "'.";
+    case errors::file_damaged: return "The database file is damaged: " + engine_words + ".";
+    case errors::disk_full: return "The disk is full.";
+    case errors::read_only: return "Cannot update. Database or object is read-only.";
+    default: return doing.empty() ? engine_words : engine_words + " (" + doing + ")";
+  }
+}
+
+void Bind(sqlite3_stmt* handle, int position, const Value& value) {
+  struct Binder {
+    sqlite3_stmt* handle;
+    int at;
+    void operator()(std::monostate) const { sqlite3_bind_null(handle, at); }
+    void operator()(const std::string& text) const { bind_text(text); }
+    void operator()(int64_t number) const { sqlite3_bind_int64(handle, at, number); }
+    void operator()(double number) const { sqlite3_bind_double(handle, at, number); }
+    void operator()(Money amount) const { sqlite3_bind_int64(handle, at, amount.units()); }
+    void operator()(Date day) const { bind_text(day.to_iso()); }
+    void operator()(bool flag) const { sqlite3_bind_int64(handle, at, flag ? -1 : 0); }
+    void bind_text(const std::string& text) const {
+      sqlite3_bind_text64(handle, at, text.data(), text.size(), SQLITE_TRANSIENT, SQLITE_UTF8);
+    }
+  };
+  std::visit(Binder{handle, position}, value.content());
+}
+
+Value From_Engine(sqlite3_value* cell) {
+  if (!cell) return {};
+  switch (sqlite3_value_type(cell)) {
+    case SQLITE_INTEGER: return int64_t{sqlite3_value_int64(cell)};
+    case SQLITE_FLOAT: return sqlite3_value_double(cell);
+    case SQLITE_TEXT:
+      return std::string(reinterpret_cast<const char*>(sqlite3_value_text(cell)),
+                         static_cast<size_t>(sqlite3_value_bytes(cell)));
+    default: return {};
+  }
+}
+
+/// Memory that the engine hands out.
+struct EngineBytes {
+  int size = 0;
+  void* data = nullptr;
+  ~EngineBytes() { sqlite3_free(data); }
+};
+
+}  // namespace
+
+// --- Statement ----------------------------------------------------------------------------------------------
+
+Statement::Statement(Statement&& other) noexcept
+    : slot_(std::exchange(other.slot_, nullptr)), connection_(other.connection_) {}
+
+Statement::~Statement() {
+  if (!slot_) return;
+  sqlite3_reset(slot_->handle);
+  sqlite3_clear_bindings(slot_->handle);
+  slot_->on_loan = false;
+}
+
+Statement& Statement::bind(int position, const Value& value) {
+  Bind(slot_->handle, position, value);
+  return *this;
+}
+
+Statement& Statement::bind_all(const std::vector<Value>& values) {
+  int position = 0;
+  for (const Value& value : values) bind(++position, value);
+  return *this;
+}
+
+Statement& Statement::bind_bytes(int position, std::string_view bytes) {
+  sqlite3_bind_blob64(slot_->handle, position, bytes.data(), bytes.size(), SQLITE_TRANSIENT);
+  return *this;
+}
+
+bool Statement::step() {
+  int code = sqlite3_step(slot_->handle);
+  if (code == SQLITE_ROW) return true;
+  if (code != SQLITE_DONE) connection_->check(code, sqlite3_sql(slot_->handle));
+  return false;
+}
+
+int64_t Statement::run() {
+  while (step()) {
+  }
+  return sqlite3_changes64(connection_->handle_);
+}
+
+int Statement::parameter_count() const { return sqlite3_bind_parameter_count(slot_->handle); }
+int Statement::columns() const { return sqlite3_column_count(slot_->handle); }
+std::string Statement::column_name(int column) const { return sqlite3_column_name(slot_->handle, column); }
+
+std::string Statement::declared_type(int column) const {
+  const char* declared = sqlite3_column_decltype(slot_->handle, column);
+  return declared ? declared : "";
+}
+
+bool Statement::is_null(int column) const {
+  return sqlite3_column_type(slot_->handle, column) == SQLITE_NULL;
+}
+
+bool Statement::is_text(int column) const {
+  return sqlite3_column_type(slot_->handle, column) == SQLITE_TEXT;
+}
+
+int64_t Statement::integer(int column) const { return sqlite3_column_int64(slot_->handle, column); }
+double Statement::number(int column) const { return sqlite3_column_double(slot_->handle, column); }
+
+std::string_view Statement::text(int column) const {
+  auto data = static_cast<const char*>(sqlite3_column_blob(slot_->handle, column));
+  if (!data) return {};
+  if (!is_text(column)) data = reinterpret_cast<const char*>(sqlite3_column_text(slot_->handle, column));
+  return {data, static_cast<size_t>(sqlite3_column_bytes(slot_->handle, column))};
+}
+
+std::string Statement::bytes(int column) const {
+  auto data = static_cast<const char*>(sqlite3_column_blob(slot_->handle, column));
+  return data ? std::string(data, static_cast<size_t>(sqlite3_column_bytes(slot_->handle, column))) : std::string();
+}
+
+Value Statement::raw(int column) const {
+  switch (sqlite3_column_type(slot_->handle, column)) {
+    case SQLITE_NULL: return {};
+    case SQLITE_INTEGER: return integer(column);
+    case SQLITE_FLOAT: return number(column);
+    default: return text(column);
+  }
+}
+
+// --- Connection ---------------------------------------------------------------------------------------------
+
+Connection::Connection(const std::filesystem::path& path, Mode mode) {
+  int flags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_EXRESCODE | SQLITE_OPEN_NOMUTEX;
+  if (mode == Mode::Create) flags |= SQLITE_OPEN_CREATE;
+  int code = sqlite3_open_v2(path.string().c_str(), &handle_, flags, nullptr);
+  try {
+    check(code, path.string());
+    sqlite3_busy_timeout(handle_, lock_patience_ms);
+    // One file at rest, no shared memory: what a folder on a file server can carry.
+    execute("PRAGMA journal_mode = DELETE; PRAGMA synchronous = FULL; PRAGMA foreign_keys = OFF;"
+            "PRAGMA cache_size = -16000; PRAGMA temp_store = MEMORY; PRAGMA trusted_schema = OFF;");
+  } catch (...) {
+    sqlite3_close_v2(std::exchange(handle_, nullptr));
+    throw;
+  }
+}
+
+Connection::~Connection() {
+  drop_changes();
+  for (auto& [sql, slots] : statements_)
+    for (auto& slot : slots) sqlite3_finalize(slot->handle);
+  sqlite3_close_v2(handle_);
+}
+
+void Connection::raise(const std::string& doing) { check(sqlite3_extended_errcode(handle_), doing); std::abort(); }
+
+void Connection::check(int code, const std::string& doing) {
+  if (code == SQLITE_OK || code == SQLITE_DONE || code == SQLITE_ROW) return;
+  int number = Number_Of(code);
+  throw Error(number, Words_Of(number, handle_ ? sqlite3_errmsg(handle_) : sqlite3_errstr(code), doing));
+}
+
+Statement Connection::prepare(std::string_view sql) {
+  if (statements_.size() > most_statements) {
+    std::erase_if(statements_, [](auto& entry) {
+      if (std::any_of(entry.second.begin(), entry.second.end(), [](auto& slot) { return slot->on_loan; }))
+        return false;
+      for (auto& slot : entry.second) sqlite3_finalize(slot->handle);
+      return true;
+    });
+  }
+  auto& slots = statements_[std::string(sql)];
+  for (auto& slot : slots) {
+    if (slot->on_loan) continue;
+    slot->on_loan = true;
+    return Statement(slot.get(), this);
+  }
+  auto slot = std::make_unique<Statement::Slot>(nullptr, true);
+  check(sqlite3_prepare_v3(handle_, sql.data(), static_cast<int>(sql.size()), SQLITE_PREPARE_PERSISTENT,
+                           &slot->handle, nullptr),
+        std::string(sql));
+  if (!slot->handle) throw Error(errors::bad_statement, "An empty statement.");
+  slots.push_back(std::move(slot));
+  return Statement(slots.back().get(), this);
+}
+
+void Connection::execute(const std::string& sql) {
+  check(sqlite3_exec(handle_, sql.c_str(), nullptr, nullptr, nullptr), sql);
+}
+
+int64_t Connection::last_key() const { return sqlite3_last_insert_rowid(handle_); }
+int64_t Connection::changes() const { return sqlite3_changes64(handle_); }
+bool Connection::in_transaction() const { return !sqlite3_get_autocommit(handle_); }
+
+void Connection::begin() { prepare("BEGIN IMMEDIATE").run(); }
+void Connection::commit() { prepare("COMMIT").run(); }
+void Connection::rollback() {
+  if (in_transaction()) sqlite3_exec(handle_, "ROLLBACK", nullptr, nullptr, nullptr);
+}
+void Connection::savepoint(const std::string& name) { prepare("SAVEPOINT " + name).run(); }
+void Connection::release(const std::string& name) { prepare("RELEASE " + name).run(); }
+void Connection::rollback_to(const std::string& name) {
+  sqlite3_exec(handle_, ("ROLLBACK TO " + name + "; RELEASE " + name).c_str(), nullptr, nullptr, nullptr);
+}
+
+// --- changesets ---------------------------------------------------------------------------------------------
+
+void Connection::record_changes(std::string except) {
+  drop_changes();
+  unrecorded_table_ = std::move(except);
+  check(sqlite3session_create(handle_, "main", &session_), "history");
+  sqlite3session_table_filter(
+      session_,
+      [](void* self, const char* table) {
+        return static_cast<Connection*>(self)->unrecorded_table_ == table ? 0 : 1;
+      },
+      this);
+  check(sqlite3session_attach(session_, nullptr), "history");
+}
+
+std::string Connection::take_changes() {
+  if (!session_) return {};
+  EngineBytes bytes;
+  check(sqlite3session_changeset(session_, &bytes.size, &bytes.data), "history");
+  drop_changes();
+  return {static_cast<const char*>(bytes.data), static_cast<size_t>(bytes.size)};
+}
+
+void Connection::drop_changes() {
+  if (session_) sqlite3session_delete(std::exchange(session_, nullptr));
+}
+
+std::vector<RowChange> Connection::read_changes(std::string_view changeset) {
+  std::vector<RowChange> changes;
+  sqlite3_changeset_iter* at = nullptr;
+  sqlite3changeset_start(&at, static_cast<int>(changeset.size()), const_cast<char*>(changeset.data()));
+  while (sqlite3changeset_next(at) == SQLITE_ROW) {
+    const char* table = nullptr;
+    int columns = 0, operation = 0, indirect = 0;
+    sqlite3changeset_op(at, &table, &columns, &operation, &indirect);
+    RowChange change{table, RowChange::Kind::Changed, {}};
+    if (operation == SQLITE_INSERT) change.kind = RowChange::Kind::Added;
+    if (operation == SQLITE_DELETE) change.kind = RowChange::Kind::Deleted;
+    for (int column = 0; column < columns; ++column) {
+      sqlite3_value *before = nullptr, *after = nullptr;
+      if (operation != SQLITE_INSERT) sqlite3changeset_old(at, column, &before);
+      if (operation != SQLITE_DELETE) sqlite3changeset_new(at, column, &after);
+      bool changed = change.kind != RowChange::Kind::Changed || after || column == 0;
+      if (changed) change.cells.push_back({column, From_Engine(before), From_Engine(after)});
+    }
+    changes.push_back(std::move(change));
+  }
+  if (sqlite3changeset_finalize(at) != SQLITE_OK)
+    throw Error(errors::file_damaged, "The recorded change cannot be read.");
+  return changes;
+}
+
+namespace {
+
+struct InverseApplication {
+  const std::function<bool(const std::string&, int)>& is_cache;
+  std::set<std::string> refused;
+};
+
+/// A deleted or changed row differs from what the action left: only in caches?
+bool Differs_Only_In_Caches(const InverseApplication& application, sqlite3_changeset_iter* at) {
+  const char* table = nullptr;
+  int columns = 0, operation = 0, indirect = 0;
+  sqlite3changeset_op(at, &table, &columns, &operation, &indirect);
+  for (int column = 0; column < columns; ++column) {
+    sqlite3_value *expected = nullptr, *found = nullptr;
+    sqlite3changeset_old(at, column, &expected);
+    sqlite3changeset_conflict(at, column, &found);
+    if (!expected || !found || application.is_cache(table, column)) continue;
+    if (!(From_Engine(expected) == From_Engine(found))) return false;
+  }
+  return true;
+}
+
+int On_Conflict(void* context, int kind, sqlite3_changeset_iter* at) {
+  auto& application = *static_cast<InverseApplication*>(context);
+  if (kind == SQLITE_CHANGESET_DATA && Differs_Only_In_Caches(application, at)) return SQLITE_CHANGESET_REPLACE;
+  const char* table = nullptr;
+  int columns = 0, operation = 0, indirect = 0;
+  sqlite3changeset_op(at, &table, &columns, &operation, &indirect);
+  application.refused.insert(table);
+  return SQLITE_CHANGESET_ABORT;
+}
+
+}  // namespace
+
+std::vector<std::string> Connection::apply_inverse(std::string_view changeset,
+                                                   const std::function<bool(const std::string&, int)>& is_cache) {
+  EngineBytes inverse;
+  check(sqlite3changeset_invert(static_cast<int>(changeset.size()), changeset.data(), &inverse.size, &inverse.data),
+        "history");
+  InverseApplication application{is_cache, {}};
+  int code = sqlite3changeset_apply(handle_, inverse.size, inverse.data, nullptr, On_Conflict, &application);
+  if (code != SQLITE_ABORT) check(code, "history");
+  return {application.refused.begin(), application.refused.end()};
+}
+
+void Connection::copy_to(const std::filesystem::path& destination) {
+  sqlite3* copy = nullptr;
+  int code = sqlite3_open_v2(destination.string().c_str(), &copy, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr);
+  sqlite3_backup* backup = code == SQLITE_OK ? sqlite3_backup_init(copy, "main", handle_, "main") : nullptr;
+  if (backup) {
+    do code = sqlite3_backup_step(backup, -1);  // all pages in one step: one read lock, one moment
+    while (code == SQLITE_BUSY && (sqlite3_sleep(100), true));
+    code = sqlite3_backup_finish(backup);
+  } else if (copy) {
+    code = sqlite3_errcode(copy);
+  }
+  sqlite3_close_v2(copy);
+  check(code, destination.string());
+}
+
+}  // namespace tallymere::store

@@ -1,0 +1,167 @@
+#include "core/store/sql.h"
+
+#include <array>
+
+#include "core/date.h"
+#include "core/store/error.h"
+#include "core/text.h"
+
+namespace tallymere::store {
+namespace {
+
+/// Column names of the program that the engine would take for words of its own.
+constexpr std::array<std::string_view, 6> reserved_columns = {"Index", "Default", "Group", "Order", "To", "Check"};
+
+bool Is_Word_Character(char c) {
+  return std::isalnum(static_cast<unsigned char>(c)) || c == '_' || (c & 0x80);
+}
+
+/// Walks a statement word by word; texts, quoted names and comments come as one piece each.
+class Pieces {
+ public:
+  explicit Pieces(std::string_view sql) : sql_(sql) {}
+
+  bool next() {
+    start_ = end_;
+    if (start_ >= sql_.size()) return false;
+    end_ = end_of_piece();
+    return true;
+  }
+  std::string_view text() const { return sql_.substr(start_, end_ - start_); }
+  size_t start() const { return start_; }
+  size_t end() const { return end_; }
+  char first() const { return sql_[start_]; }
+  bool is_word() const { return Is_Word_Character(first()); }
+  bool is_blank() const { return std::isspace(static_cast<unsigned char>(first())); }
+
+ private:
+  size_t end_of_piece() const {
+    char c = sql_[start_];
+    if (c == '\'' || c == '"' || c == '#' || c == '`') return closing(c);
+    if (c == '[') return closing(']');
+    size_t at = start_ + 1;
+    if (Is_Word_Character(c))
+      while (at < sql_.size() && Is_Word_Character(sql_[at])) ++at;
+    return at;
+  }
+  size_t closing(char mark) const {
+    size_t at = sql_.find(mark, start_ + 1);
+    while (at != std::string_view::npos && mark == '\'' && at + 1 < sql_.size() && sql_[at + 1] == '\'')
+      at = sql_.find(mark, at + 2);
+    if (at == std::string_view::npos)
+      throw Error(errors::bad_statement, "Syntax error in query: unclosed " + std::string(1, mark) + ".");
+    return at + 1;
+  }
+  std::string_view sql_;
+  size_t start_ = 0, end_ = 0;
+};
+
+std::string Day_Literal(std::string_view piece) {
+  auto day = Date::parse(piece.substr(1, piece.size() - 2));
+  if (!day) throw Error(errors::bad_statement, "Syntax error in date in query: " + std::string(piece));
+  return "'" + day->to_iso() + "'";
+}
+
+std::string Like_Pattern(std::string_view piece) {
+  std::string pattern;
+  for (char c : piece) {
+    if (c == '%' || c == '_' || c == '\\') pattern += '\\';
+    pattern += c == '*' ? '%' : c == '?' ? '_' : c;
+  }
+  return pattern + " ESCAPE '\\'";
+}
+
+bool Is_Reserved_Column(std::string_view word, std::string_view rest) {
+  for (auto name : reserved_columns) {
+    if (!same_text(word, name)) continue;
+    auto next = ltrim(rest.substr(0, 16));
+    bool clause = (same_text(word, "Group") || same_text(word, "Order")) && starts_with_same_text(next, "BY");
+    return !clause;
+  }
+  return false;
+}
+
+bool Begins_With_Digit_But_Names(std::string_view word) {
+  if (!std::isdigit(static_cast<unsigned char>(word[0]))) return false;
+  for (size_t at = 0; at < word.size(); ++at)
+    if (!std::isdigit(static_cast<unsigned char>(word[at]))) return word[at] != 'e' && word[at] != 'E' && word[at] != 'x';
+  return false;
+}
+
+}  // namespace
+
+std::string Quoted(std::string_view name) { return "\"" + replace_all(std::string(name), "\"", "\"\"") + "\""; }
+
+std::string Translate(std::string_view sql) {
+  std::string out;
+  bool after_like = false;
+  for (Pieces piece(sql); piece.next();) {
+    auto text = piece.text();
+    if (piece.first() == '#') {
+      out += Day_Literal(text);
+    } else if (piece.first() == '\'' && after_like) {
+      out += Like_Pattern(text);
+    } else if (!piece.is_word()) {
+      out += text;
+    } else if (same_text(text, "True")) {
+      out += "-1";
+    } else if (same_text(text, "False")) {
+      out += "0";
+    } else if (Begins_With_Digit_But_Names(text) || Is_Reserved_Column(text, sql.substr(piece.end()))) {
+      out += Quoted(text);
+    } else {
+      out += text;
+    }
+    if (!piece.is_blank()) after_like = piece.is_word() && same_text(text, "LIKE");
+  }
+  return out;
+}
+
+namespace {
+
+std::string Without_Quotes(std::string_view name) {
+  bool quoted = name.size() > 2 && (name[0] == '[' || name[0] == '"' || name[0] == '`');
+  return std::string(quoted ? name.substr(1, name.size() - 2) : name);
+}
+
+/// A word behind the table's name that makes the query one over several tables or of grouped rows.
+bool Joins_Or_Groups(std::string_view word, bool in_conditions) {
+  if (word == ",") return !in_conditions;
+  for (auto other : {"JOIN", "INNER", "LEFT", "RIGHT", "UNION", "GROUP", "HAVING", "LIMIT", "AS"})
+    if (same_text(word, other)) return true;
+  return false;
+}
+
+}  // namespace
+
+SingleTableQuery Split_Query(std::string_view sql) {
+  SingleTableQuery query;
+  size_t select_end = 0, from_start = 0, table_end = 0;
+  int depth = 0;
+  bool in_conditions = false;
+  for (Pieces piece(sql); piece.next();) {
+    if (piece.is_blank()) continue;
+    auto text = piece.text();
+    if (!select_end) {
+      if (!same_text(text, "SELECT")) return {};
+      select_end = piece.end();
+    } else if (!from_start) {
+      if (text == "(" || same_text(text, "DISTINCT")) return {};
+      if (same_text(text, "FROM")) from_start = piece.start();
+    } else if (query.table.empty()) {
+      if (text == "(") return {};
+      query.table = Without_Quotes(text);
+      table_end = piece.end();
+    } else {
+      depth += text == "(" ? 1 : text == ")" ? -1 : 0;
+      if (depth == 0 && Joins_Or_Groups(text, in_conditions)) return {};
+      in_conditions = in_conditions || same_text(text, "WHERE") || same_text(text, "ORDER");
+    }
+  }
+  if (query.table.empty()) return {};
+  query.columns = trim(sql.substr(select_end, from_start - select_end));
+  query.rest = sql.substr(table_end);
+  return query;
+}
+
+}  // namespace tallymere::store
