@@ -24,9 +24,7 @@ std::string cell(std::string_view text) {
 }
 
 std::string index_text(const IndexDef& index) {
-  std::string text = code(index.name) + " on " + code(index.field);
-  if (!index.then.empty()) text += ", " + code(index.then);
-  return text;
+  return code(index.name) + " on " + code(index.field);
 }
 
 std::string table_text(const TableDef& table) {

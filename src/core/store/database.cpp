@@ -32,7 +32,9 @@ constexpr std::array<Declaration, 8> declarations = {{{FieldType::Text, "TEXT"},
 
 std::string Column_Definition(const Field& field) {
   bool is_text = field.type == FieldType::Text || field.type == FieldType::Memo;
-  return Quoted(field.name) + " " + std::string(Declaration_Of_Type(field.type)) + (is_text ? " COLLATE NOCASE" : "");
+  // A flag that nobody set is false, so that "Dormant = False" finds it.
+  std::string_view more = is_text ? " COLLATE NOCASE" : field.type == FieldType::Flag ? " DEFAULT 0" : "";
+  return Quoted(field.name) + " " + std::string(Declaration_Of_Type(field.type)) + std::string(more);
 }
 
 std::string Decimal_View(const TableDef& table) {
