@@ -30,4 +30,14 @@ struct CliSession {
   Session session;
 };
 
+// The commands themselves, by what they are about.
+int New(Arguments& arguments);
+int Verify(Arguments& arguments);
+int Figures(Arguments& arguments);
+int Back_Up(Arguments& arguments);
+int Restore(Arguments& arguments);
+int Enter(Arguments& arguments);
+int History(Arguments& arguments);
+int Undo(Arguments& arguments);
+
 }  // namespace tallymere::cli
