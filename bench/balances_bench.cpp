@@ -27,6 +27,10 @@ testing::TestCompany& Large_Company() {
   if (filled) return company;
   store::Transaction load(company.db(), "A large ledger", store::Transaction::History::Summary);
   company.db().Execute(fill_ledger);
+  company.db().Execute(
+      "INSERT INTO Accounts (CatID, AccountName, AccountType)"
+      " SELECT DISTINCT Account, Account, 'Fixed Asset' FROM Transactions"
+      " WHERE Account NOT IN (SELECT CatID FROM Accounts)");
   for (std::string table : {"Customers", "Vendors"})
     for (int at = 0; at < 500; ++at)
       company.db().Execute("INSERT INTO " + table + " (Name) VALUES (?)", {"Person " + std::to_string(at)});

@@ -257,6 +257,12 @@ TEST(TransactionWriter, RowsLeavingAnotherYearAskForAFullPassToo) {
   session.RecalcAll = false;
   Delete_Transaction(session, 1);
   EXPECT_FALSE(session.RecalcAll);
+
+  Write_Check(session, 3, 25);
+  Rewrite_Fields(session, 3, {{"Number", "8"}, {"Date", today}});
+  EXPECT_FALSE(session.RecalcAll);
+  Rewrite_Fields(session, 3, {{"Date", Date(2025, 12, 31)}});
+  EXPECT_TRUE(session.RecalcAll);
 }
 
 }  // namespace
