@@ -265,7 +265,7 @@ TEST(UpdateAccounts, AgreesWithTheWalkRowByRow) {
     Expect_Same(ledger, false, Categories::All);
     Expect_Same(ledger, true, Categories::All);
 
-    Fix_Accounts(ledger.*company.session);
+    Fix_Accounts(*ledger.company.session);
     for (const auto& id : ledger.ids) {
       auto row = ledger.company.db().OpenRecordset("SELECT * FROM Accounts WHERE CatID = ?", {id});
       if (Is_Profit_And_Loss(row["AccountType"].text())) continue;
