@@ -92,11 +92,12 @@ SaveResult Enter_Check(Session& session, Check& check);
 /// "Print" is no number to print a check under.
 std::optional<Fault> Cannot_Print(const Check& check);
 
-/// Asks, frees the bills that this check alone paid, and deletes its rows.
 struct DeleteResult {
   bool deleted = false;
   std::optional<Conflict> conflict = {};
+  std::optional<Check> show = {};  ///< after deleting: the previous check, or a blank one
 };
+/// Asks, frees the bills that this check alone paid, and deletes its rows, all in one step.
 DeleteResult Delete_Check(Session& session, const Check& check);
 
 }  // namespace tallymere

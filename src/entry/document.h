@@ -22,7 +22,6 @@ struct ExpenseLine {
   std::string Class = {};
   std::string CatID = {};
 
-  bool blank() const { return Category.empty() && CatID.empty() && !Amount; }
   friend bool operator==(const ExpenseLine&, const ExpenseLine&) = default;
 };
 
