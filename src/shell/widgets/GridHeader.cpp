@@ -117,7 +117,7 @@ void GridHeader::paintSection(QPainter* painter, const QRect& rect, int column) 
     arrow.initFrom(this);
     arrow.sortIndicator = sortIndicatorOrder() == Qt::AscendingOrder ? QStyleOptionHeader::SortDown
                                                                      : QStyleOptionHeader::SortUp;
-    const int size = theme::unit;
+    const int size = theme::unit + 4;
     const bool right =
         (model()->headerData(column, Qt::Horizontal, Qt::TextAlignmentRole).toInt() & Qt::AlignRight) != 0;
     arrow.rect = QRect(right ? room.left() - size / 2 : room.right() - size / 2, head.center().y() - size / 2,

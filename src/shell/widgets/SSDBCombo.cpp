@@ -11,6 +11,7 @@
 #include <QWheelEvent>
 
 #include "core/text.h"
+#include "shell/widgets/GridHeader.h"
 #include "shell/widgets/theme.h"
 
 namespace tallymere {
@@ -26,7 +27,7 @@ QTableView* make_popup(QWidget* parent) {
   table->setShowGrid(false);
   table->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   table->verticalHeader()->hide();
-  table->horizontalHeader()->setHighlightSections(false);
+  table->setHorizontalHeader(new GridHeader(table));
   table->horizontalHeader()->setStretchLastSection(true);
   return table;
 }

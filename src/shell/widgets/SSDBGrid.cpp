@@ -29,6 +29,7 @@ SSDBGrid::SSDBGrid(QWidget* parent)
   model_->read_only = true;
   settle_modes();
   changeEvent(nullptr);
+  connect(header_, &QHeaderView::sectionResized, this, &SSDBGrid::dragged);
   connect(header_, &QHeaderView::sectionClicked, this, &SSDBGrid::sort_clicked);
 }
 
@@ -83,6 +84,7 @@ void SSDBGrid::set_locked(int column, bool locked) {
   model_->column(column).locked = locked;
 }
 void SSDBGrid::show_column(int column, bool shown) {
+  const QScopedValueRollback code(by_code_, true);
   setColumnHidden(column, !shown);
   share_widths();
 }
@@ -92,7 +94,9 @@ int SSDBGrid::char_width(int characters) const {
 }
 
 void SSDBGrid::set_widths() {
-  widened_.assign(static_cast<size_t>(columns()), false);
+  const QScopedValueRollback code(by_code_, true);
+  least_.assign(static_cast<size_t>(columns()), 0);
+  dragged_.assign(static_cast<size_t>(columns()), false);
   for (int column = 0; column < columns(); ++column)
     if (const int width = this->column(column).width; width > 0)
       setColumnWidth(column, std::max(char_width(width), header_->width_for(column)));
@@ -100,35 +104,48 @@ void SSDBGrid::set_widths() {
 }
 
 void SSDBGrid::share_widths() {
+  const QScopedValueRollback code(by_code_, true);
   int room = viewport()->width();
   std::vector<int> sharing;
   for (int column = 0; column < columns(); ++column) {
     if (isColumnHidden(column)) continue;
-    if (this->column(column).width == 0 && !widened_[static_cast<size_t>(column)])
+    if (this->column(column).width == 0 && !dragged_[static_cast<size_t>(column)])
       sharing.push_back(column);
     else
       room -= columnWidth(column);
   }
   for (size_t at = 0; at < sharing.size(); ++at) {
     const int left = static_cast<int>(sharing.size() - at);
-    const int share = std::max({room / left, header_->width_for(sharing[at]), char_width(12)});
+    const int least = least_[static_cast<size_t>(sharing[at])];
+    const int share =
+        std::max({room / left, header_->width_for(sharing[at]), least > 0 ? least : char_width(12)});
     setColumnWidth(sharing[at], share);
     room -= share;
   }
 }
 
+void SSDBGrid::dragged(int column) {
+  if (!by_code_ && !isColumnHidden(column)) dragged_[static_cast<size_t>(column)] = true;
+}
+
+int SSDBGrid::content_width(int column, int rows_looked_at) const {
+  int width = std::max(header_->width_for(column), char_width(4));
+  for (int row = 0; row < std::min(rows(), rows_looked_at); ++row) {
+    const QModelIndex cell = model_->index(row, column);
+    const QFontMetrics metrics(cell.data(Qt::FontRole).value<QFont>());
+    width = std::max(width, metrics.horizontalAdvance(cell.data().toString()) + 2 * theme::unit + 2);
+  }
+  return std::min(width, char_width(48));
+}
+
 void SSDBGrid::fit_columns(int rows_looked_at) {
+  const QScopedValueRollback code(by_code_, true);
   for (int column = 0; column < columns(); ++column) {
     if (isColumnHidden(column)) continue;
-    int width = std::max(header_->width_for(column), char_width(4));
-    for (int row = 0; row < std::min(rows(), rows_looked_at); ++row) {
-      const QModelIndex cell = model_->index(row, column);
-      const QFontMetrics metrics(cell.data(Qt::FontRole).value<QFont>());
-      width = std::max(width, metrics.horizontalAdvance(cell.data().toString()) + 2 * theme::unit);
-    }
-    setColumnWidth(column, std::min(width, char_width(48)));
-    widened_[static_cast<size_t>(column)] = true;
+    least_[static_cast<size_t>(column)] = content_width(column, rows_looked_at);
+    setColumnWidth(column, least_[static_cast<size_t>(column)]);
   }
+  share_widths();
 }
 
 // --- rows ---
@@ -261,10 +278,12 @@ void SSDBGrid::select_rows(const std::vector<int>& chosen) {
 void SSDBGrid::settle_modes() {
   const bool list = model_->read_only || multi_;
   setSelectionBehavior(list ? SelectRows : SelectItems);
-  setSelectionMode(multi_ ? ExtendedSelection : SingleSelection);
-  setTabKeyNavigation(false);  // Tab is ours, see focusNextPrevChild
+  setSelectionMode(multi_ ? ExtendedSelection
+                   : list ? SingleSelection
+                          : NoSelection);  // entry grids light a cell, not a row
+  setTabKeyNavigation(false);              // Tab is ours, see focusNextPrevChild
   setEditTriggers(model_->read_only ? EditTriggers(NoEditTriggers)
-                                    : DoubleClicked | SelectedClicked | EditKeyPressed | AnyKeyPressed);
+                                    : DoubleClicked | EditKeyPressed | AnyKeyPressed);
 }
 
 void SSDBGrid::set_multi_select(bool allowed) {

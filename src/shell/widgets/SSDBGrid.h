@@ -30,7 +30,8 @@ class SSDBGrid : public QTableView {
   void set_caption(int column, const std::string& caption);
   void set_locked(int column, bool locked);
   void show_column(int column, bool shown);
-  void fit_columns(int rows_looked_at = 200);  ///< widths as the captions and first rows need
+  /// Widths as the captions and first rows need; columns of width 0 share what is left beyond that.
+  void fit_columns(int rows_looked_at = 200);
 
   // --- rows ---
   void AddItem(const std::string& tab_separated, const std::string& style = {});
@@ -157,15 +158,18 @@ class SSDBGrid : public QTableView {
   void remove_selected();
   void settle_modes();
   int char_width(int characters) const;
+  int content_width(int column, int rows_looked_at) const;
   void set_widths();
   void share_widths();
+  void dragged(int column);
   void sort_clicked(int column);
   void go_to(int row, int column);  ///< by code: no RowColChange
 
   GridModel* model_;
   GridHeader* header_;
   QString hint_;
-  std::vector<bool> widened_;  ///< columns the user or fit_columns gave a width of their own
+  std::vector<int> least_;     ///< widths fit_columns found, in pixels
+  std::vector<bool> dragged_;  ///< columns the user gave a width of their own
   bool delete_ = false;
   bool multi_ = false;
   bool valid_ = true;

@@ -225,12 +225,14 @@ void SSDBGrid::keyPressEvent(QKeyEvent* event) {
 // --- mouse ---
 
 void SSDBGrid::mousePressEvent(QMouseEvent* event) {
-  const QModelIndex cell = indexAt(event->position().toPoint());
-  const bool was_here = cell.isValid() && cell == currentIndex();
+  const QPoint place = event->position().toPoint();
+  const QModelIndex cell = indexAt(place);
+  const bool was_here = cell.isValid() && cell == currentIndex() && hasFocus();
   QTableView::mousePressEvent(event);
-  if (event->button() != Qt::LeftButton || !cell.isValid() || model_->read_only) return;
-  if (was_here && GridDelegate::arrow_of(visualRect(cell)).contains(event->position().toPoint()))
-    open_list(cell);
+  if (event->button() != Qt::LeftButton || !was_here || !(cell.flags() & Qt::ItemIsEditable)) return;
+  const bool on_arrow =
+      column(cell.column()).list && GridDelegate::arrow_of(visualRect(cell)).contains(place);
+  if (!on_arrow || !open_list(cell)) edit(cell);
 }
 
 void SSDBGrid::mouseReleaseEvent(QMouseEvent* event) {

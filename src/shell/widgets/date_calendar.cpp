@@ -4,6 +4,7 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QTextCharFormat>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 #include "shell/widgets/theme.h"
@@ -36,6 +37,12 @@ QCalendarWidget* month_of(Date shown, Date today, QWidget* parent) {
   now.setFontWeight(QFont::Bold);
   now.setForeground(parent->palette().color(QPalette::Link));
   month->setDateTextFormat(q_date(today), now);
+  for (const auto& [name, mark] :
+       {std::pair("qt_calendar_prevmonth", 0x2039), std::pair("qt_calendar_nextmonth", 0x203A)})
+    if (auto* button = month->findChild<QToolButton*>(QLatin1String(name))) {
+      button->setIcon({});
+      button->setText(QString(QChar(mark)));
+    }
   return month;
 }
 

@@ -2,10 +2,51 @@
 
 #include <QComboBox>
 #include <QStyleOptionButton>
+#include <QTableView>
 
 #include "shell/widgets/theme.h"
 
 namespace tallymere {
+
+namespace {
+
+/// Fusion draws outlines darker than the window: on a dark desktop nobody sees them. While this lives the
+/// option's window is a light one, so that boxes and fields keep an edge.
+class VisibleEdges {
+ public:
+  explicit VisibleEdges(const QStyleOption* option)
+      : option_(const_cast<QStyleOption*>(option)), palette_(option->palette) {
+    if (theme::is_dark()) option_->palette.setColor(QPalette::Window, QColor(0x7d, 0x8d, 0x93));
+  }
+  ~VisibleEdges() { option_->palette = palette_; }
+  VisibleEdges(const VisibleEdges&) = delete;
+  VisibleEdges& operator=(const VisibleEdges&) = delete;
+
+ private:
+  QStyleOption* option_;
+  QPalette palette_;
+};
+
+bool has_edge(QStyle::PrimitiveElement element) {
+  switch (element) {
+    case QStyle::PE_Frame:
+    case QStyle::PE_FrameLineEdit:
+    case QStyle::PE_FrameGroupBox:
+    case QStyle::PE_IndicatorCheckBox:
+    case QStyle::PE_IndicatorRadioButton:
+    case QStyle::PE_IndicatorItemViewItemCheck:
+      return true;
+    default:
+      return false;
+  }
+}
+
+/// Grids and the lists of combos; the months of a calendar need every pixel.
+bool is_grid(const QWidget* widget) {
+  return qobject_cast<const QTableView*>(widget) && !widget->inherits("QCalendarView");
+}
+
+}  // namespace
 
 ThemeStyle::ThemeStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
 
@@ -23,6 +64,21 @@ void ThemeStyle::drawControl(ControlElement element, const QStyleOption* option,
   QProxyStyle::drawControl(element, &filled, painter, widget);
 }
 
+void ThemeStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                               const QWidget* widget) const {
+  if (!has_edge(element)) return QProxyStyle::drawPrimitive(element, option, painter, widget);
+  const VisibleEdges edges(option);
+  QProxyStyle::drawPrimitive(element, option, painter, widget);
+}
+
+void ThemeStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                                    QPainter* painter, const QWidget* widget) const {
+  if (control != CC_ComboBox && control != CC_SpinBox)
+    return QProxyStyle::drawComplexControl(control, option, painter, widget);
+  const VisibleEdges edges(option);
+  QProxyStyle::drawComplexControl(control, option, painter, widget);
+}
+
 int ThemeStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {
   switch (metric) {
     case PM_LayoutLeftMargin:
@@ -30,6 +86,8 @@ int ThemeStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, cons
     case PM_LayoutTopMargin:
     case PM_LayoutBottomMargin:
       return theme::margin;
+    case PM_FocusFrameHMargin:  // cells begin where their heads begin
+      return is_grid(widget) ? theme::unit - 1 : QProxyStyle::pixelMetric(metric, option, widget);
     case PM_LayoutHorizontalSpacing:
     case PM_LayoutVerticalSpacing:
       return theme::gap;
@@ -63,6 +121,8 @@ int ThemeStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWid
       return 0;
     case SH_FormLayoutLabelAlignment:
       return static_cast<int>(Qt::AlignRight | Qt::AlignVCenter);
+    case SH_Table_GridLineColor:
+      return static_cast<int>(theme::grid_line().rgba());
     case SH_EtchDisabledText:
       return 0;
     default:
