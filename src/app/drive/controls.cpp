@@ -18,6 +18,7 @@
 #include "app/drive/failed.h"
 #include "app/drive/hands.h"
 #include "app/drive/lookup.h"
+#include "shell/widgets/Form.h"
 #include "shell/widgets/SSDBCombo.h"
 
 namespace tallymere::drive::controls {
@@ -117,6 +118,20 @@ QPoint Spot(const QWidget& widget) {
   return marked ? QPoint(mark, middle.y()) : middle;
 }
 
+/// A command is enabled when a person can reach it: with every menu above it.
+QVariant Property_Of_Command(const QAction& command, const QString& word) {
+  if (word == QLatin1String("visible")) return command.isVisible();
+  if (word == QLatin1String("checked")) return command.isChecked();
+  if (word == QLatin1String("caption") || word == QLatin1String("value")) return command.text();
+  if (word != QLatin1String("enabled")) return {};
+  try {
+    lookup::Require_Usable(command);
+    return true;
+  } catch (const Failed&) {
+    return false;
+  }
+}
+
 }  // namespace
 
 QString Text_Of(const QObject& control) {
@@ -144,6 +159,8 @@ QStringList Items_Of(const QObject& control) {
 }
 
 QVariant Property_Of(const QObject& control, const QString& word) {
+  if (const auto* command = qobject_cast<const QAction*>(&control))
+    return Property_Of_Command(*command, word);
   const auto* widget = qobject_cast<const QWidget*>(&control);
   if (word == QLatin1String("value")) return Text_Of(control);
   if (word == QLatin1String("items")) return Items_Of(control);

@@ -55,7 +55,8 @@ void Expectations::fail_at(const std::string& where, const Failed& failed) {
 }
 
 void Expectations::finish() {
-  for (const Expected& left : queue_) {
+  // After a failure what was left over says nothing.
+  for (const Expected& left : failed() ? std::deque<Expected>() : queue_) {
     fail_at(left.where, {"expected and never came", Describe(left.kind, left.title, left.text), "nothing"});
   }
   queue_.clear();

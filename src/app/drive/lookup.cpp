@@ -41,23 +41,25 @@ bool Is_Window(const QWidget& widget) {
 
 bool Is_Control(const QObject& object) {
   if (object.objectName().isEmpty() || object.objectName().startsWith(QLatin1String("qt_"))) return false;
-  return object.isWidgetType() || qobject_cast<const QButtonGroup*>(&object);
+  return object.isWidgetType() || qobject_cast<const QButtonGroup*>(&object) ||
+         qobject_cast<const QAction*>(&object);
 }
 
-bool Shown(const QObject& object) {
+/// Of two with the same name the command stands before its menu, the one on show before the hidden one.
+bool Comes_First(const QObject& object) {
   const auto* widget = qobject_cast<const QWidget*>(&object);
-  return widget && widget->isVisible();
+  return !widget || widget->isVisible();
+}
+
+/// A submenu is named on its action or on the menu itself.
+QString Name_Of(const QAction& action) {
+  return action.objectName().isEmpty() && action.menu() ? action.menu()->objectName() : action.objectName();
 }
 
 QStringList Names_Of(const QList<QAction*>& actions) {
   QStringList names;
-  for (const QAction* action : actions) names << action->objectName();
+  for (const QAction* action : actions) names << Name_Of(*action);
   return names;
-}
-
-/// A menu's own items; a submenu is named on its action or on the menu itself.
-bool Is_Named(const QAction& action, const QString& name) {
-  return action.objectName() == name || (action.menu() && action.menu()->objectName() == name);
 }
 
 void Collect(const QList<QAction*>& actions, QList<QAction*>& all) {
@@ -69,7 +71,7 @@ void Collect(const QList<QAction*>& actions, QList<QAction*>& all) {
 
 QAction& Named(const QList<QAction*>& actions, const QString& name, const std::string& where) {
   for (QAction* action : actions) {
-    if (Is_Named(*action, name)) return *action;
+    if (Name_Of(*action) == name) return *action;
   }
   throw Failed{"no command " + name.toStdString() + " in " + where, {}, Near_Names(name, Names_Of(actions))};
 }
@@ -120,9 +122,14 @@ QObject& Control(QWidget& window, const QString& name) {
   for (QObject* child : window.findChildren<QObject*>()) {
     if (!Is_Control(*child)) continue;
     names << child->objectName();
-    if (child->objectName() == name && (!found || (!Shown(*found) && Shown(*child)))) found = child;
+    if (child->objectName() == name && (!found || (!Comes_First(*found) && Comes_First(*child))))
+      found = child;
   }
+  if (auto* menu = qobject_cast<QMenu*>(found)) return *menu->menuAction();
   if (found) return *found;
+  for (const QString& other : names) {
+    if (other.compare(name, Qt::CaseInsensitive) == 0) return Control(window, other);
+  }
   for (const QString& form : {QStringLiteral("%1_0"), QStringLiteral("%1(0)"), QStringLiteral("%10")}) {
     if (QObject* first = window.findChild<QAbstractButton*>(form.arg(name))) return *first;
   }
@@ -155,11 +162,7 @@ QAction& Menu_Command(const QString& name) {
 
 QAction& Tool_Command(const QString& name) {
   QList<QAction*> all;
-  for (const QToolBar* bar : Frame().findChildren<QToolBar*>()) {
-    if (!bar->isEnabled() || !bar->isVisible()) continue;
-    all << bar->actions();
-  }
-  if (all.isEmpty()) throw Failed{"the toolbar is disabled or hidden"};
+  for (const QToolBar* bar : Frame().findChildren<QToolBar*>()) all << bar->actions();
   return Named(all, name, "the toolbar");
 }
 
@@ -168,10 +171,13 @@ QAction& Item_Of(const QWidget& menu, const QString& name) {
 }
 
 void Require_Usable(const QAction& command) {
-  const std::string name = command.objectName().toStdString();
+  const std::string name = Name_Of(command).toStdString();
   if (!command.isVisible()) throw Failed{name + " is hidden"};
   if (!command.isEnabled()) throw Failed{name + " is disabled"};
   for (const QObject* place : command.associatedObjects()) {
+    const auto* bar = qobject_cast<const QToolBar*>(place);
+    if (bar && !bar->isEnabled()) throw Failed{"the toolbar of " + name + " is disabled"};
+    if (bar && !bar->isVisible()) throw Failed{"the toolbar of " + name + " is hidden"};
     const auto* menu = qobject_cast<const QMenu*>(place);
     if (menu && !menu->menuAction()->associatedObjects().isEmpty()) Require_Usable(*menu->menuAction());
   }

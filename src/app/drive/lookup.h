@@ -20,7 +20,7 @@ std::vector<QWidget*> Windows(const QString& name);
 QWidget& Window(const QString& name);  ///< the newest of that name
 inline constexpr char shown_number[] = "drive_shown";
 
-/// A control or a group of option buttons of a window.
+/// A control, a group of option buttons or a command of a window.
 QObject& Control(QWidget& window, const QString& name);
 /// Button `index` of a group: by the group's id, by the index behind its name, or by its place in the frame.
 QAbstractButton& Option(QObject& group, int index);

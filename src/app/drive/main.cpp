@@ -2,8 +2,10 @@
 #include <QCommandLineParser>
 #include <QLocale>
 #include <QStandardPaths>
+#include <array>
 #include <iostream>
 
+#include "app/desktop.h"
 #include "app/drive/script.h"
 #include "shell/widgets/Form.h"
 
@@ -44,9 +46,19 @@ std::string Read(const QCommandLineParser& parser, Options& options) {
   return options.patience > 0 ? "" : "--patience is not a number of seconds";
 }
 
+/// What the offscreen platform cannot do is no news to anybody.
+void Pass_On(QtMsgType type, const QMessageLogContext& context, const QString& message) {
+  static constexpr std::array known{"This plugin does not support", "QStandardPaths: XDG_RUNTIME_DIR"};
+  for (const char* start : known) {
+    if (message.startsWith(QLatin1String(start))) return;
+  }
+  std::cerr << utf8(qFormatLogMessage(type, context, message)) << std::endl;
+}
+
 /// Nothing of this machine and its user may show in a script's outcome.
 void Stand_Alone() {
   if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+  qInstallMessageHandler(Pass_On);
   QStandardPaths::setTestModeEnabled(true);
   QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
 }
@@ -64,7 +76,7 @@ int Run(const Options& options) {
 int main(int argc, char** argv) {
   Stand_Alone();
   QApplication app(argc, argv);
-  QApplication::setApplicationName(QStringLiteral("tallymere-drive"));
+  Prepare_Application(app);
   QApplication::setQuitOnLastWindowClosed(false);
   QApplication::setCursorFlashTime(0);
   QCommandLineParser parser;

@@ -5,7 +5,7 @@ namespace tallymere::drive {
 // Windows and controls are proxies over a number: `w.txtAmount` finds a child, `w.txtAmount.value` reads it,
 // and `g.set(...)` is a verb of a grid. Errors carry the stack, so that the driver can name the script's
 // line.
-const char* const prelude = R"JS((function (drive) {
+const char* const prelude = R"JS((function (drive, global) {
   'use strict';
 
   function call(verb, args) { return drive.call(verb, new Error().stack, Array.from(args)); }
@@ -61,7 +61,7 @@ const char* const prelude = R"JS((function (drive) {
   for (const verb of drive.verbs()) {
     if (!(verb in named) && verb[0] !== '$') named[verb] = function () { return call(verb, arguments); };
   }
-  for (const name in named) globalThis[name] = named[name];
+  for (const name in named) global[name] = named[name];
   return wrap;
 }))JS";
 

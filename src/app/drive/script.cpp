@@ -20,8 +20,9 @@ Script::Script(const Options& options, Stage& stage, Expectations& expectations,
   engine_.installExtensions(QJSEngine::ConsoleExtension);
   QJSEngine::setObjectOwnership(this, QJSEngine::CppOwnership);
   const QJSValue set_up = engine_.evaluate(QString::fromUtf8(prelude), QStringLiteral("driver"));
-  wrap_ = set_up.call({engine_.newQObject(this)});
-  Q_ASSERT(wrap_.isCallable());
+  wrap_ = set_up.call({engine_.newQObject(this), engine_.globalObject()});
+  if (!wrap_.isCallable())
+    throw std::logic_error("the prelude fails: " + utf8(wrap_.toString() + set_up.toString()));
 }
 
 Script::~Script() {
