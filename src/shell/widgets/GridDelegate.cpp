@@ -63,6 +63,9 @@ QWidget* GridDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&
     if (column.kind != Kind::text) line->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   }
   if (line) line->setFrame(false);
+  if (QLineEdit* text = line ? line : static_cast<SSDBCombo*>(editor)->lineEdit())
+    text->setTextMargins(theme::unit / 2, 0, theme::unit / 2,
+                         0);  // the text does not jump when the cell opens
   editor->setObjectName(grid_.objectName() + QStringLiteral("_cell"));
   editor->setAccessibleName(column.name);
   editor->setFont(index.data(Qt::FontRole).value<QFont>());

@@ -195,9 +195,9 @@ void GridModel::set(int row, int column, const std::string& text, const store::V
 
 void GridModel::set_new_line(bool allowed) {
   if (allowed == new_line_) return;
-  allowed ? beginInsertRows({}, rows(), rows()) : beginRemoveRows({}, rows(), rows());
+  if (filling_ == 0) allowed ? beginInsertRows({}, rows(), rows()) : beginRemoveRows({}, rows(), rows());
   new_line_ = allowed;
-  allowed ? endInsertRows() : endRemoveRows();
+  if (filling_ == 0) allowed ? endInsertRows() : endRemoveRows();
 }
 
 void GridModel::tell(int row, int column) {

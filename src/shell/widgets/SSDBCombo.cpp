@@ -42,8 +42,9 @@ SSDBCombo::SSDBCombo(QWidget* parent) : QComboBox(parent), list_(new SSDBDropDow
   setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
   setMinimumContentsLength(12);
   setFocusPolicy(Qt::StrongFocus);
+  setPlaceholderText(QStringLiteral(" "));  // the first row added is not chosen unasked
   setView(make_popup(this));
-  setModel(list_);
+  take_list(list_);
   setCurrentIndex(-1);
   connect(lineEdit(), &QLineEdit::textEdited, this, &SSDBCombo::typed);
   connect(this, &QComboBox::activated, this, &SSDBCombo::picked);
@@ -51,11 +52,19 @@ SSDBCombo::SSDBCombo(QWidget* parent) : QComboBox(parent), list_(new SSDBDropDow
 
 void SSDBCombo::set_list(SSDBDropDown* shared) {
   const std::string before = text();
+  disconnect(list_, nullptr, this, nullptr);
   if (list_->parent() == this) list_->deleteLater();
-  list_ = shared;
-  setModel(shared);
-  chosen_ = -1;
+  take_list(shared);
   set_text(before);
+}
+
+void SSDBCombo::take_list(SSDBDropDown* list) {
+  list_ = list;
+  chosen_ = -1;
+  setModel(list);
+  // A list filled anew leaves the text in the box alone.
+  connect(list, &SSDBDropDown::modelAboutToBeReset, this, [this] { kept_ = text(); });
+  connect(list, &SSDBDropDown::modelReset, this, [this] { set_text(kept_); });
 }
 
 void SSDBCombo::set_list_only(bool only) {

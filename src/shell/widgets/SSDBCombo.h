@@ -52,6 +52,7 @@ class SSDBCombo : public QComboBox {
   void wheelEvent(QWheelEvent* event) override;
 
  private:
+  void take_list(SSDBDropDown* list);
   void typed();
   void picked(int row);
   void settle();  ///< on leaving a list-only box: no name, no text
@@ -59,6 +60,7 @@ class SSDBCombo : public QComboBox {
   bool holds(int row) const;  ///< the row's name stands in the box
 
   SSDBDropDown* list_;
+  std::string kept_;        ///< the text while the list is filled anew
   int chosen_ = -1;         ///< the row picked or completed, while its name still stands in the box
   bool completes_ = false;  ///< the last key wrote a letter
   bool list_only_ = false;

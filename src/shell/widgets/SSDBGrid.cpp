@@ -4,6 +4,7 @@
 #include <QResizeEvent>
 #include <QScopedValueRollback>
 #include <QScrollBar>
+#include <QStackedWidget>
 
 #include "core/text.h"
 #include "shell/widgets/GridDelegate.h"
@@ -370,6 +371,12 @@ void SSDBGrid::changeEvent(QEvent* event) {
   model_->set_font(font());
   verticalHeader()->setMinimumSectionSize(0);
   verticalHeader()->setDefaultSectionSize(QFontMetrics(font()).height() + 10);
+}
+
+void SSDBGrid::showEvent(QShowEvent* event) {
+  if (qobject_cast<QStackedWidget*>(parentWidget()))
+    setFrameShape(NoFrame);  // a tab's page has an edge already
+  QTableView::showEvent(event);
 }
 
 void SSDBGrid::paintEvent(QPaintEvent* event) {
