@@ -99,7 +99,8 @@ int main(int argc, char** argv) {
   try {
     return tallymere::run(app);
   } catch (const std::exception& fault) {
-    // Without its folder and its databases the program cannot begin; say why instead of going on without them.
+    // Without its folder and its databases the program cannot begin; say why instead of going on without
+    // them.
     qCritical("%s", fault.what());
     QMessageBox::critical(nullptr, QStringLiteral("Error"), QString::fromUtf8(fault.what()));
     return 1;

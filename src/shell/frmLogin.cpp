@@ -53,8 +53,10 @@ bool frmLogin::may_log_in(const std::string& user) const {
 
 void frmLogin::cmdLogin_AfterClick() {
   const std::string user = cmbUser->text();
-  if (user.empty()) return show_fault({{"Please enter a User name.", "No User", Icon::Information}, "cmbUser"});
-  if (!may_log_in(user)) return show_fault({{"Invlaid Login", "Access Denied", Icon::Critical}, "txtPassord"});
+  if (user.empty())
+    return show_fault({{"Please enter a User name.", "No User", Icon::Information}, "cmbUser"});
+  if (!may_log_in(user))
+    return show_fault({{"Invlaid Login", "Access Denied", Icon::Critical}, "txtPassord"});
   session.CurrentUser = user;
   finish(true);
 }
