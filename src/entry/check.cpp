@@ -174,15 +174,15 @@ std::string Employee_Address(store::Recordset& employee) {
 
 std::string Load_Address_Box(Session& session, const std::string& name) {
   if (name.empty()) return "";
-  constexpr std::pair<const char*, const char*> lists[] = {{"Vendors", "Address"},
-                                                           {"Customers", "ShippingAddress"}};
-  for (const auto& [table, address] : lists) {
+  for (const char* list : {"Vendors", "Customers", "Employees"}) {
     auto row =
-        session.dbCompany->OpenRecordset("SELECT * FROM " + std::string(table) + " WHERE Name = ?", {name});
-    if (row.has_row()) return row[address].text();
+        session.dbCompany->OpenRecordset("SELECT * FROM " + std::string(list) + " WHERE Name = ?", {name});
+    if (!row.has_row()) continue;
+    if (row.has_field("AddressOne")) return Employee_Address(row);
+    const bool older = row["ShippingAddress"].blank() && row.has_field("Address");
+    return row[older ? "Address" : "ShippingAddress"].text();
   }
-  auto employee = session.dbCompany->OpenRecordset("SELECT * FROM Employees WHERE Name = ?", {name});
-  return employee.has_row() ? Employee_Address(employee) : "";
+  return "";
 }
 
 std::string Without_Last_Line_End(std::string address) {

@@ -227,6 +227,9 @@ void Write_Entry(Session& session, const Register& reg, const Stored& stored, Re
   rows.commit();
   entry.TransNum = rows.number();
   entry.probe = rows.probe();
+  entry.key =
+      session.dbCompany->value("SELECT MIN(RowKey) FROM Transactions WHERE TransNum = ?", {entry.TransNum})
+          .integer();
 }
 
 Fault Access_Denied() {

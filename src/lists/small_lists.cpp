@@ -79,7 +79,6 @@ void Add_Payee(Session& session, const std::string& name, PayeeType type) {
   auto rows = session.dbCompany->OpenRecordset("SELECT * FROM " + table + " WHERE 1 = 0");
   rows.AddNew();
   rows["Name"] = name;
-  rows["Dormant"] = false;  // lists look for what is not dormant, and find no null
   rows.Update();
   tx.commit();
 }

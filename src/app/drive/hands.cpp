@@ -1,6 +1,8 @@
 #include "app/drive/hands.h"
 
+#include <QAbstractButton>
 #include <QApplication>
+#include <QElapsedTimer>
 #include <QKeyEvent>
 #include <QKeySequence>
 #include <QMdiArea>
@@ -8,6 +10,7 @@
 #include <QMenu>
 #include <QMouseEvent>
 #include <QPointer>
+#include <algorithm>
 
 #include "app/drive/failed.h"
 
@@ -19,6 +22,14 @@ extern Q_GUI_EXPORT bool qt_sendShortcutOverrideEvent(QObject* receiver, ulong t
 namespace tallymere::drive::hands {
 
 namespace {
+
+/// A button pressed by its mnemonic goes down, and acts a moment later.
+bool A_Button_Is_Down() {
+  return std::ranges::any_of(QApplication::allWidgets(), [](const QWidget* widget) {
+    const auto* button = qobject_cast<const QAbstractButton*>(widget);
+    return button && button->isDown() && button->isVisible();
+  });
+}
 
 bool Holds(const QWidget& control, const QWidget* inner) {
   return inner && (inner == &control || control.isAncestorOf(inner));
@@ -66,6 +77,15 @@ void Press(Qt::Key key, Qt::KeyboardModifiers modifiers, const QString& text) {
   QApplication::sendEvent(now, &release);
 }
 
+/// After a mnemonic: until its button came up again.
+static void Wait_For_Buttons() {
+  constexpr int patience_ms = 1000;
+  QElapsedTimer waited;
+  waited.start();
+  while (A_Button_Is_Down() && waited.elapsed() < patience_ms)
+    QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
+}
+
 void Press(const QString& name) {
   const QKeySequence keys = QKeySequence::fromString(name, QKeySequence::PortableText);
   if (keys.count() != 1 || keys[0].key() == Qt::Key_unknown) {
@@ -76,6 +96,7 @@ void Press(const QString& name) {
   const bool plain = name.size() == 1;
   const QString text = plain ? name : key == Qt::Key_Return ? QStringLiteral("\r") : QString();
   Press(key, keys[0].keyboardModifiers(), text);
+  Wait_For_Buttons();
 }
 
 void Type(const QString& text) {
