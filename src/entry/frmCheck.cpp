@@ -40,9 +40,10 @@ QString text_of(double hours) {
 
 void frmCheck::load() {
   lists_->fill();
+  lblCompany->setText(qt(session.dbCompany->value("SELECT Name FROM CompanyInfo").text()));
   on_changed("Accounts");
   on_changed("Colors");
-  show_check(New_Check(session));
+  show_check(Open_Checks(session));
   cmbPayee->setFocus();
 }
 

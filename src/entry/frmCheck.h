@@ -90,7 +90,7 @@ class frmCheck : public EntryForm {
 
   QFrame* fraCheck;
   SSDBCombo *cmbAccount, *cmbPayee;
-  QLabel *lblBankID, *lblBalance, *lblAmount, *lblPayPeriod, *lblHours, *lblPaidThrough;
+  QLabel *lblCompany, *lblBankID, *lblBalance, *lblAmount, *lblPayPeriod, *lblHours, *lblPaidThrough;
   QLineEdit *txtIndex, *txtNumber, *txtMemo;
   QuillbrookDatePick* DTPicker1;
   MoneyEdit* txtAmount;

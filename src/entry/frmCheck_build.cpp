@@ -121,6 +121,12 @@ QFrame* frmCheck::build_check() {
   auto* grid = new QGridLayout(fraCheck);
   grid->setContentsMargins(3 * theme::unit, 2 * theme::unit, 3 * theme::unit, 2 * theme::unit);
   grid->setSpacing(theme::gap);
+  lblCompany = named("lblCompany", new QLabel);
+  QFont heading = lblCompany->font();
+  heading.setBold(true);
+  heading.setPointSizeF(heading.pointSizeF() * 1.2);
+  lblCompany->setFont(heading);
+  grid->addWidget(lblCompany, 0, 0, 1, 3);
   grid->addWidget(label("N&umber", txtNumber), 0, 3);
   grid->addWidget(txtNumber, 0, 4);
   grid->addWidget(label("D&ate", DTPicker1), 1, 3);
@@ -136,11 +142,10 @@ QFrame* frmCheck::build_check() {
   address->setAlignment(Qt::AlignRight | Qt::AlignTop);
   address->setContentsMargins(0, theme::unit / 2, 0, 0);
   grid->addWidget(address, 5, 0);
-  grid->addWidget(txtAddress, 5, 1);
+  grid->addWidget(txtAddress, 5, 1, 1, 2);
   grid->addWidget(label("&Memo", txtMemo), 6, 0);
-  grid->addWidget(txtMemo, 6, 1);
-  grid->setColumnStretch(1, 4);
-  grid->setColumnStretch(2, 3);
+  grid->addWidget(txtMemo, 6, 1, 1, 2);
+  grid->setColumnStretch(1, 1);
   grid->setColumnMinimumWidth(4, 18 * theme::unit);
   return fraCheck;
 }
