@@ -63,7 +63,6 @@ class frmCheck : public EntryForm {
   bool settle();  ///< what leaving the fields and lines sets off, before saving; false: something was refused
   void set_bank(const std::string& CatID);
   void cmbAccount_LostFocus();
-  void cmbPayee_LostFocus();
   void Load_Address_Box();
   void Check_New_Payee();
   bool txtAmount_LostFocus();

@@ -262,7 +262,7 @@ void frmCheck::connect_controls() {
         field, signal, this, [this, procedure, handler] { guard(procedure, [&] { (this->*handler)(); }); },
         Qt::QueuedConnection);
   };
-  later_on(cmbPayee, &SSDBCombo::LostFocus, "cmbPayee_LostFocus", &frmCheck::cmbPayee_LostFocus);
+  later_on(cmbPayee, &SSDBCombo::LostFocus, "cmbPayee_LostFocus", &frmCheck::Load_Address_Box);
   later_on(txtAmount, &MoneyEdit::LostFocus, "txtAmount_LostFocus", &frmCheck::txtAmount_LostFocus);
   on(SSTab1, &QTabWidget::currentChanged, "SSTab1_Click", [this] { go_to_lines(); });
   on(cmdPrint, "cmdPrint_Click", [this] { cmdPrint_Click(); });
