@@ -13,9 +13,9 @@ namespace tallymere {
 /// A window's row: {"frmCheck", Make_Window<frmCheck>}.
 const WindowTable& Windows() {
   static const WindowTable windows = {
-      {"frmAccounts", Make_Window<frmAccounts>},     {"frmCheck", Make_Window<frmCheck>},
-      {"frmClass", Make_Window<frmClass>},           {"frmModAccount", Make_Window<frmModAccount>},
-      {"frmNewPayee", Make_Window<frmNewPayee>},     {"frmOtherNames", Make_Window<frmOtherNames>},
+      {"frmAccounts", Make_Window<frmAccounts>}, {"frmCheck", Make_Window<frmCheck>},
+      {"frmClass", Make_Window<frmClass>},       {"frmModAccount", Make_Window<frmModAccount>},
+      {"frmNewPayee", Make_Window<frmNewPayee>}, {"frmOtherNames", Make_Window<frmOtherNames>},
   };
   return windows;
 }

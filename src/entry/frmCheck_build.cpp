@@ -48,9 +48,7 @@ class WordsLine : public QLabel {
     setAlignment(Qt::AlignRight | Qt::AlignBottom);
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
   }
-  QSize sizeHint() const override {
-    return {60 * theme::unit, QFontMetrics(font()).height() + theme::unit};
-  }
+  QSize sizeHint() const override { return {60 * theme::unit, QFontMetrics(font()).height() + theme::unit}; }
   QSize minimumSizeHint() const override { return {20 * theme::unit, sizeHint().height()}; }
 
  protected:
@@ -77,14 +75,17 @@ QHBoxLayout* figure(const char* text, QLabel* value) {
 QPushButton* later(QPushButton* button, bool there, const char* window) {
   button->setEnabled(there);
   if (!there)
-    button->setToolTip(QStringLiteral("%1 is not part of this version yet.").arg(QString::fromLatin1(window)));
+    button->setToolTip(
+        QStringLiteral("%1 is not part of this version yet.").arg(QString::fromLatin1(window)));
   return button;
 }
 
 }  // namespace
 
 frmCheck::frmCheck(Shell& shell_of_frame)
-    : EntryForm(shell_of_frame, "frmCheck"), check_{.Date = session.today()}, lists_(new DropDowns(session, this)) {
+    : EntryForm(shell_of_frame, "frmCheck"),
+      check_{.Date = session.today()},
+      lists_(new DropDowns(session, this)) {
   setWindowTitle(QStringLiteral("Checks"));
   build_fields();
   build_lines();
@@ -246,9 +247,10 @@ void frmCheck::build() {
 
 /// As a check is written: payee and amount before address and memo, then the lines.
 void frmCheck::order_tabs() {
-  QWidget* const order[] = {cmbAccount, txtNumber, DTPicker1,  cmbPayee,        txtAmount, txtAddress,
-                            txtMemo,    grdExpense, grdItems,  grdBills,        cmdEditPayCheck,
-                            grdLiabilities, cmdLiaEdit, cmdPrev, cmdNext, cmdOk, cmdPrint, cmdDelete, cmdRepeat};
+  QWidget* const order[] = {cmbAccount,      txtNumber,      DTPicker1,  cmbPayee, txtAmount,
+                            txtAddress,      txtMemo,        grdExpense, grdItems, grdBills,
+                            cmdEditPayCheck, grdLiabilities, cmdLiaEdit, cmdPrev,  cmdNext,
+                            cmdOk,           cmdPrint,       cmdDelete,  cmdRepeat};
   for (size_t i = 1; i < std::size(order); ++i) setTabOrder(order[i - 1], order[i]);
 }
 
