@@ -43,11 +43,17 @@ QuillbrookDatePick::QuillbrookDatePick(QWidget* parent) : QLineEdit(parent) {
   setPlaceholderText(QStringLiteral("m/d/yyyy"));
   setMinimumWidth(QFontMetrics(font()).horizontalAdvance(QStringLiteral("00/00/0000")) + 6 * theme::unit);
   setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
-  auto* open = addAction(calendar_icon(palette().color(QPalette::Text)), QLineEdit::TrailingPosition);
-  open->setToolTip(QStringLiteral("Calendar (Alt+Down)"));
-  connect(open, &QAction::triggered, this, &QuillbrookDatePick::show_calendar);
+  open_ = addAction(calendar_icon(palette().color(QPalette::Text)), QLineEdit::TrailingPosition);
+  open_->setToolTip(QStringLiteral("Calendar (Alt+Down)"));
+  connect(open_, &QAction::triggered, this, &QuillbrookDatePick::show_calendar);
   connect(this, &QLineEdit::textEdited, this,
           [this] { mark_faulty(this, !text().trimmed().isEmpty() && !typed()); });
+}
+
+void QuillbrookDatePick::changeEvent(QEvent* event) {
+  QLineEdit::changeEvent(event);
+  if (event->type() == QEvent::PaletteChange && open_)
+    open_->setIcon(calendar_icon(palette().color(QPalette::Text)));
 }
 
 Date QuillbrookDatePick::value() const {
