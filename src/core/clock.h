@@ -30,6 +30,14 @@ class Clock {
     return std::to_string((now.tm_hour + 11) % 12 + 1) + rest.data() + (now.tm_hour < 12 ? "AM" : "PM");
   }
 
+  // Day and time of day as the history keeps them: "yyyy-mm-dd hh:mm:ss".
+  std::string stamp() const {
+    const std::tm now = local_now();
+    std::array<char, 16> time{};
+    std::strftime(time.data(), time.size(), " %H:%M:%S", &now);
+    return today().to_iso() + time.data();
+  }
+
  private:
   explicit Clock(std::optional<Date> day) : day_(day) {}
 

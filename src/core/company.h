@@ -8,31 +8,28 @@
 /// How a company becomes current, and how it goes.
 namespace tallymere {
 
-/// The first steps of the program: Accounts.mdb and the tax table check; the log is open since the session began.
+/// The first steps of the program: Accounts.mdb, then the tax table check. The log is open since the session began.
 void Main(Session& session);
 
-/// Prepares the program's folder on first start: builds Model.mdb and Accounts.mdb from the rows in `data` where they
-/// are missing, and upgrades older ones.
-void Prepare_Folder(const std::filesystem::path& folder, const std::filesystem::path& data);
+void Set_Recordsets(Session& session);  ///< opens every long-lived set, loads the number words
+void Close_Sets(Session& session);      ///< all but CustomerMessages, which the next Set_Recordsets opens over
 
-void Set_Recordsets(Session& session);
-void Close_Sets(Session& session);
-
-/// Builds a new company file from Model.mdb in the program's folder. An existing name gives the box
-/// "Company name already exisits." and LastCompanyError 3204.
+/// Builds a new company file from Model.mdb, in the program's folder. An existing name gives the box
+/// "Company name already exisits." and LastCompanyError 3204; another fault goes on as store::Error and leaves no file.
 void New_Company(Session& session, const std::string& name);
 
-/// Opens a company file as session.dbCompany with CompanyPath and CompanyFile, upgrading an older one.
-/// store::Error when it cannot be opened; the session is then as it was.
+/// Makes a company file dbCompany, with CompanyPath and CompanyFile; an older file is brought up to date.
+/// The company that was current is let go only when the new one has opened: on store::Error all is as it was.
+/// Sets are not opened yet: that is Set_Recordsets, after the password steps.
 void Open_Company_File(Session& session, const std::filesystem::path& path);
-/// Lets go of the current company: sets, database; CompanyPath stays for the caller to decide.
+
+/// Lets go of dbCompany and its sets. CompanyPath stays; the caller decides.
 void Close_Company_File(Session& session);
 
-/// "Acme - Main Display": the file's name less its last four characters, or "Main Display" without a company.
+/// "Acme - Main Display": the file's name less its last four characters; without a company "Main Display".
 std::string Main_Title(const Session& session);
 
-/// The answer's hash or plain text as kept in Users.Password and CompanyInfo.Password; comparison is exact.
-std::string Hash_Password(const std::string& password);  ///< "" stays ""
-bool Password_Matches(const std::string& kept, const std::string& typed);
+/// Where a company of this name lives: the program's folder, name and ".cmf". Error 3044 for a name no file can have.
+std::filesystem::path Company_Path(const Session& session, const std::string& name);
 
 }  // namespace tallymere

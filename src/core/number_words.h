@@ -11,4 +11,6 @@ struct NumberWords {
       Thousand, Million;
 };
 
+void Load_Number_Words(NumberWords& words);
+
 }  // namespace tallymere

@@ -45,7 +45,6 @@ constexpr FieldDef Transactions_fields[] = {
     {"PayPeriod", Text, "pay period of a paycheck"},
     {"Hours", Double, "hours of a pay row"},
 };
-constexpr IndexDef Transactions_indexes[] = {{"Name", "Name", "Account"}};
 
 constexpr FieldDef Accounts_fields[] = {
     {"CatID", Text, "internal key: AR1, AP1, UF1, RE1, OE1 or a number followed by SS"},
@@ -485,7 +484,7 @@ constexpr IndexDef CustomerMessages_indexes[] = {{"Message", "Message"}};
 
 constexpr TableDef tables[] = {
     {"Transactions", "general ledger and every sub-ledger: one row posts to one category",
-     Transactions_fields, Transactions_indexes},
+     Transactions_fields, {}},
     {"Accounts", "categories: the chart of accounts", Accounts_fields, Accounts_indexes},
     {"Customers", "customers and their jobs", Customers_fields, Customers_indexes},
     {"Vendors", "vendors", Vendors_fields, Vendors_indexes},

@@ -3,20 +3,13 @@
 #include <span>
 #include <string_view>
 
+#include "core/store/value.h"
+
 // The one place that names every table, field, type and index. Databases, docs/schema.md, the shipped rows
 // and the whole-book checks derive from it.
 namespace tallymere {
 
-enum class FieldType {
-  Text,     // compared without case; null and empty read alike
-  Memo,     // long text
-  Long,     // 32-bit whole number
-  Integer,  // 16-bit whole number
-  Money,    // fixed point, four decimals
-  Double,
-  Date,  // a calendar day
-  Flag,  // 0 or -1
-};
+using store::FieldType;
 
 struct FieldDef {
   std::string_view name;
@@ -29,7 +22,6 @@ struct FieldDef {
 struct IndexDef {
   std::string_view name;
   std::string_view field;
-  std::string_view then = {};  // one more column behind the key, only to make reading fast
 };
 
 struct TableDef {

@@ -12,6 +12,8 @@ constexpr ReadingIndex reading[] = {
     {"Transactions_TransNum", "Transactions", "TransNum", ""},
     // registers, balances and every report sum one category over a range of days, from the index alone
     {"Transactions_Account", "Transactions", "Account, Date, Debit, Credit", ""},
+    // one customer's, vendor's or payee's rows, of one category or all
+    {"Transactions_Name", "Transactions", "Name, Account", ""},
     // find by day, the list of years, reports over all categories of a period
     {"Transactions_Date", "Transactions", "Date", ""},
     // stock, sales and sales tax of one item; most rows have none

@@ -23,6 +23,7 @@ struct Session {
 
   Date today() const { return clock.today(); }
   bool company_open() const { return !CompanyPath.empty(); }
+  std::string acting_user() const;  ///< CurrentUser, or who is logged in to the machine: the history's "who"
 
   const std::filesystem::path folder;  ///< "the program's folder": databases, log, new companies
   Clock clock;

@@ -32,7 +32,9 @@ constexpr std::array<Declaration, 8> declarations = {{{FieldType::Text, "TEXT"},
 
 std::string Column_Definition(const Field& field) {
   bool is_text = field.type == FieldType::Text || field.type == FieldType::Memo;
-  return Quoted(field.name) + " " + std::string(Declaration_Of_Type(field.type)) + (is_text ? " COLLATE NOCASE" : "");
+  // A flag that nobody set is false, so that "Dormant = False" finds it.
+  std::string_view more = is_text ? " COLLATE NOCASE" : field.type == FieldType::Flag ? " DEFAULT 0" : "";
+  return Quoted(field.name) + " " + std::string(Declaration_Of_Type(field.type)) + std::string(more);
 }
 
 std::string Decimal_View(const TableDef& table) {
@@ -352,7 +354,8 @@ void Transaction::write_history() {
     if (changes.empty()) return;  // nothing was written that a history could tell
   }
   auto row = db_.connection_.prepare("INSERT INTO History (At, User, What, Undoes, Changes) VALUES (?, ?, ?, ?, ?)");
-  row.bind(1, db_.author_.now ? db_.author_.now() : "").bind(2, db_.author_.user).bind(3, what_);
+  const Author& author = db_.author_;
+  row.bind(1, author.now ? author.now() : "").bind(2, author.user ? author.user() : "").bind(3, what_);
   row.bind(4, undoes_ ? Value(undoes_) : Value());
   if (history_ == History::Rows) row.bind_bytes(5, changes);
   row.run();

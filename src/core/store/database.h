@@ -69,7 +69,7 @@ class Row {
 
 /// Who writes, and when: stamped on each row of the history.
 struct Author {
-  std::string user;
+  std::function<std::string()> user;
   std::function<std::string()> now;  ///< "yyyy-mm-dd hh:mm:ss"
 };
 

@@ -188,8 +188,6 @@ Connection::~Connection() {
   sqlite3_close_v2(handle_);
 }
 
-void Connection::raise(const std::string& doing) { check(sqlite3_extended_errcode(handle_), doing); std::abort(); }
-
 void Connection::check(int code, const std::string& doing) {
   if (code == SQLITE_OK || code == SQLITE_DONE || code == SQLITE_ROW) return;
   int number = Number_Of(code);
@@ -334,6 +332,14 @@ std::vector<std::string> Connection::apply_inverse(std::string_view changeset,
   int code = sqlite3changeset_apply(handle_, inverse.size, inverse.data, nullptr, On_Conflict, &application);
   if (code != SQLITE_ABORT) check(code, "history");
   return {application.refused.begin(), application.refused.end()};
+}
+
+std::vector<std::string> Connection::integrity_faults() {
+  std::vector<std::string> faults;
+  auto rows = prepare("PRAGMA integrity_check(20)");
+  while (rows.step())
+    if (rows.text(0) != "ok") faults.emplace_back(rows.text(0));
+  return faults;
 }
 
 void Connection::copy_to(const std::filesystem::path& destination) {

@@ -100,10 +100,11 @@ class Connection {
   std::vector<std::string> apply_inverse(std::string_view changeset,
                                          const std::function<bool(const std::string&, int)>& is_cache);
 
-  /// Copies the whole file as it stands under a read lock. progress gets 0..100.
+  /// Copies the whole file as it stands, under one read lock.
   void copy_to(const std::filesystem::path& destination);
 
-  [[noreturn]] void raise(const std::string& doing);
+  /// What is wrong with the file itself, page by page and index by index; empty: sound.
+  std::vector<std::string> integrity_faults();
 
  private:
   void check(int code, const std::string& doing);

@@ -3,13 +3,15 @@
 #include <QAbstractButton>
 #include <QWidget>
 #include <functional>
+#include <type_traits>
 
 #include "shell/shell.h"
 
 namespace tallymere {
 
-/// The base of every window: caption, hourglass, Enter to the next field, one error box at the edge, closing that asks.
-/// Controls are members with the screen's names and the same objectName, built in the constructor with layouts.
+/// The base of every window: caption, hourglass, Enter to the next field, one error box at the edge, closing
+/// that asks. Controls are members with the screen's names and the same objectName, built in the constructor
+/// with layouts.
 class Form : public QWidget {
   Q_OBJECT
 
@@ -32,16 +34,22 @@ class Form : public QWidget {
   virtual void unloading() {}
   /// Something in the company changed elsewhere: a table's name.
   virtual void on_changed(const std::string& /*table*/) {}
+  /// Control+Enter anywhere in the window: entry windows save and go on. false: nothing done.
+  virtual bool control_enter() { return false; }
 
-  /// Runs a procedure of this window: a fault of the store shows the program's error box, writes the log line with
-  /// window and procedure and leaves the window as it is. false when it failed.
+  /// Runs a procedure of this window: a fault of the store shows the program's error box, writes the log line
+  /// with window and procedure and leaves the window as it is. false when it failed.
   bool guard(const char* procedure, const std::function<void()>& work);
 
   /// The first faulty entry's box, then the focus on its control with its text selected.
   void show_fault(const Fault& fault);
+  /// Goes to a control, bringing its tab page to the front and selecting its text.
+  void go_to(QWidget* control);
 
   void finish(bool accepted);  ///< ends a modal run, or closes
   bool accepted() const { return accepted_; }
+  const Clock& clock() const { return session.clock; }
+  QSize sizeHint() const override;  ///< as the user last left it, where sizes are remembered
 
  Q_SIGNALS:
   void finished();
@@ -51,10 +59,7 @@ class Form : public QWidget {
   template <typename Sender, typename Signal, typename Handler>
   void on(Sender* sender, Signal signal, const char* procedure, Handler handler) {
     connect(sender, signal, this, [this, procedure, handler](auto&&... args) {
-      guard(procedure, [&] {
-        if constexpr (std::is_invocable_v<Handler, decltype(args)...>) handler(args...);
-        else handler();
-      });
+      guard(procedure, [&] { call(handler, args...); });
     });
   }
   template <typename Handler>
@@ -69,19 +74,42 @@ class Form : public QWidget {
   }
 
   void closeEvent(QCloseEvent* event) override;
-  bool eventFilter(QObject* watched, QEvent* event) override;
-  bool event(QEvent* event) override;
+  void showEvent(QShowEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;  ///< what the controls left over
 
   Shell& shell;
   Session& session;
 
  private:
+  /// A handler may take all of a signal's arguments, the first one, or none.
+  template <typename Handler>
+  static void call(Handler& handler) {
+    handler();
+  }
+  template <typename Handler, typename First, typename... Rest>
+  static void call(Handler& handler, First& first, Rest&... rest) {
+    if constexpr (std::is_invocable_v<Handler&, First&, Rest&...>)
+      handler(first, rest...);
+    else if constexpr (std::is_invocable_v<Handler&, First&>)
+      handler(first);
+    else
+      handler();
+  }
+  void failed(const char* procedure, int number, const std::string& description);
+  void enter_pressed();
+  void prepare_controls();
+
   Place place_;
   bool accepted_ = false;
+  bool prepared_ = false;
 };
 
 /// std::string is UTF-8 everywhere; these are the two doors to Qt.
-inline QString qt(const std::string& text) { return QString::fromStdString(text); }
-inline std::string utf8(const QString& text) { return text.toStdString(); }
+inline QString qt(const std::string& text) {
+  return QString::fromStdString(text);
+}
+inline std::string utf8(const QString& text) {
+  return text.toStdString();
+}
 
 }  // namespace tallymere

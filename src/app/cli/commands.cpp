@@ -1,0 +1,68 @@
+#include "app/cli/commands.h"
+
+#include <iostream>
+
+#include "core/company.h"
+#include "core/folder.h"
+#include "core/program_folder.h"
+#include "core/schema_doc.h"
+
+namespace tallymere::cli {
+namespace {
+
+namespace fs = std::filesystem;
+
+fs::path Folder_Of(Arguments& arguments) {
+  fs::path folder = arguments.option("folder", "");
+  return folder.empty() ? Program_Folder() : fs::absolute(folder);
+}
+
+Clock Clock_Of(Arguments& arguments) {
+  auto today = arguments.date("today");
+  return today ? Clock::standing_on(*today) : Clock::system();
+}
+
+fs::path Prepared(const fs::path& folder) {
+  Prepare_Folder(folder, Shipped_Data());
+  return folder;
+}
+
+int Schema(Arguments& arguments) {
+  arguments.finish();
+  std::cout << Schema_Document();
+  return 0;
+}
+
+constexpr Command commands[] = {
+    {"new", "new NAME [--folder DIR]", "makes a new company in the program's folder", New},
+    {"enter", "enter --company FILE --name PAYEE --from BANK --to CATEGORY=AMOUNT[,...] [--number N] [--date m/d/yyyy]"
+     " [--memo TEXT] [--times N]",
+     "writes a check, or the same one several times; each number is told once it is safely kept", Enter},
+    {"verify", "verify --company FILE", "checks the whole of the books and the file; exit 1 with what is wrong", Verify},
+    {"figures", "figures --company FILE", "the balances of the company's categories", Figures},
+    {"backup", "backup --company FILE --out FILE.cbk", "writes a backup of the company as it stands", Back_Up},
+    {"restore", "restore --backup FILE.cbk --company FILE", "puts a backup in a company's place, once it has proved sound",
+     Restore},
+    {"history", "history [NUMBER] --company FILE [--limit N]",
+     "who did what and when, newest first; with a number its rows before and after", History},
+    {"undo", "undo NUMBER --company FILE", "takes an action back whole, or says what later work stands on it", Undo},
+    {"schema", "schema", "the tables, fields and indexes of a company, as docs/schema.md shows them", Schema},
+};
+
+}  // namespace
+
+std::span<const Command> Commands() { return commands; }
+
+CliSession::CliSession(Arguments& arguments)
+    : session(Prepared(Folder_Of(arguments)), Clock_Of(arguments), console) {
+  Main(session);
+}
+
+void CliSession::open(Arguments& arguments) { open(fs::absolute(arguments.option("company"))); }
+
+void CliSession::open(const fs::path& company) {
+  Open_Company_File(session, company);
+  Set_Recordsets(session);
+}
+
+}  // namespace tallymere::cli

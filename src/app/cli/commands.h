@@ -1,0 +1,43 @@
+#pragma once
+
+#include <span>
+#include <string_view>
+
+#include "app/cli/arguments.h"
+#include "app/cli/console.h"
+#include "core/session.h"
+
+namespace tallymere::cli {
+
+struct Command {
+  std::string_view name;
+  std::string_view usage;
+  std::string_view what;
+  int (*run)(Arguments&);
+};
+
+/// Every command of the command line, in the order of the help.
+std::span<const Command> Commands();
+
+/// A session of the command line on the program's folder (--folder), on today or --today.
+struct CliSession {
+  explicit CliSession(Arguments& arguments);
+  /// Makes --company the current company, with its sets.
+  void open(Arguments& arguments);
+  void open(const std::filesystem::path& company);
+
+  Console console;
+  Session session;
+};
+
+// The commands themselves, by what they are about.
+int New(Arguments& arguments);
+int Verify(Arguments& arguments);
+int Figures(Arguments& arguments);
+int Back_Up(Arguments& arguments);
+int Restore(Arguments& arguments);
+int Enter(Arguments& arguments);
+int History(Arguments& arguments);
+int Undo(Arguments& arguments);
+
+}  // namespace tallymere::cli

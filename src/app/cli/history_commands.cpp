@@ -1,0 +1,57 @@
+#include <iostream>
+
+#include "app/cli/commands.h"
+#include "core/store/history.h"
+#include "core/undo.h"
+
+namespace tallymere::cli {
+namespace {
+
+const char* Word_For(store::RowChange::Kind kind) {
+  switch (kind) {
+    case store::RowChange::Kind::Added: return "added";
+    case store::RowChange::Kind::Changed: return "changed";
+    case store::RowChange::Kind::Deleted: return "deleted";
+  }
+  return "";
+}
+
+void Show_Action(const store::Action& action) {
+  std::cout << action.number << "\t" << action.at << "\t" << action.user << "\t" << action.what
+            << (action.undoable ? "" : "\t(cannot be taken back)") << "\n";
+}
+
+}  // namespace
+
+int History(Arguments& arguments) {
+  CliSession cli(arguments);
+  cli.open(arguments);
+  auto number = arguments.maybe_word();
+  int64_t limit = arguments.number("limit").value_or(50);
+  arguments.finish();
+  auto& db = *cli.session.dbCompany;
+  if (!number) {
+    for (const auto& action : store::List_Actions(db, limit)) Show_Action(action);
+    return 0;
+  }
+  int64_t wanted = store::Value(*number).integer();
+  Show_Action(store::Find_Action(db, wanted));
+  for (const auto& change : store::Changes_Of(db, wanted)) {
+    std::cout << "  " << Word_For(change.kind) << " in " << change.table << "\n";
+    for (const auto& cell : change.cells)
+      std::cout << "    " << cell.field << ": " << cell.before.text() << " -> " << cell.after.text() << "\n";
+  }
+  return 0;
+}
+
+int Undo(Arguments& arguments) {
+  CliSession cli(arguments);
+  cli.open(arguments);
+  int64_t number = store::Value(arguments.word("the number of an action (see history)")).integer();
+  arguments.finish();
+  Undo_Action(*cli.session.dbCompany, number);
+  Show_Action(store::List_Actions(*cli.session.dbCompany, 1).at(0));
+  return 0;
+}
+
+}  // namespace tallymere::cli

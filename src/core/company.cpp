@@ -1,0 +1,174 @@
+#include "core/company.h"
+
+#include "core/folder.h"
+#include "core/tax_update.h"
+#include "core/text.h"
+
+namespace tallymere {
+namespace {
+
+namespace fs = std::filesystem;
+using store::Database;
+using store::FileKind;
+
+/// The long-lived sets in the order of their opening: table, whether it is one of Accounts.mdb's, index selected.
+struct LongLivedSet {
+  RecordSets::Set RecordSets::*set;
+  std::string_view table;
+  bool shared;
+  std::string_view index;
+};
+constexpr LongLivedSet long_lived_sets[] = {
+    {&RecordSets::Colors, "Colors", false, "Items"},
+    {&RecordSets::GeneralPrefs, "GeneralPrefs", false, "Preference"},
+    {&RecordSets::Items, "Items", false, "Item"},
+    {&RecordSets::Customers, "Customers", false, "Company"},
+    {&RecordSets::Vendors, "Vendors", false, "Vendor"},
+    {&RecordSets::Accounts, "Accounts", false, "CatID"},
+    {&RecordSets::CompanyInfo, "CompanyInfo", false, ""},
+    {&RecordSets::PaymentMethod, "PaymentMethod", false, "Method"},
+    {&RecordSets::Terms, "Terms", false, "Term"},
+    {&RecordSets::VIA, "VIA", false, "Method"},
+    {&RecordSets::RepNames, "RepNames", false, "Name"},
+    {&RecordSets::Class, "Class", false, "Class"},
+    {&RecordSets::Employees, "Employees", false, "SSNum"},
+    {&RecordSets::EmployeeEarnings, "EmployeeEarnings", false, "SSNum"},
+    {&RecordSets::EmployeeAdjustments, "EmployeeAdjustments", false, "SSNum"},
+    {&RecordSets::EmployeeTaxes, "EmployeeTaxes", false, "SSNum"},
+    {&RecordSets::PayrollItems, "PayrollItems", false, "Name"},
+    {&RecordSets::TaxTracking, "TaxTracking", true, "Type"},
+    {&RecordSets::PreTaxTable, "PreTaxTable", false, "Name"},
+    {&RecordSets::PreWageTable, "PreWageTable", false, "Name"},
+    {&RecordSets::PreDeducTable, "PreDeducTable", false, "Name"},
+    {&RecordSets::FedWithholdAllowance, "FedWithholdAllowance", true, "PayPeriod"},
+    {&RecordSets::RepeatTrans, "RepeatTrans", false, "Name"},
+    {&RecordSets::Threshold, "Threshold", true, "Box"},
+    {&RecordSets::POs, "POs", false, "Index"},
+    {&RecordSets::POItems, "POItems", false, "Index"},
+    {&RecordSets::PSlips, "PSlips", false, "Index"},
+    {&RecordSets::PSlipItems, "PSlipItems", false, "Index"},
+    {&RecordSets::Estimates, "Estimates", false, "Index"},
+    {&RecordSets::EstItems, "EstItems", false, "Index"},
+    {&RecordSets::SavedReports, "SavedReports", false, "ReportName"},
+    {&RecordSets::CustomerMessages, "CustomerMessages", false, "Message"},
+};
+
+/// Tables whose rows a new company takes over from the model, in this order.
+constexpr std::string_view copied_tables[] = {"Colors", "GeneralPrefs", "PayrollItems", "PreTaxSet", "Accounts", "Users"};
+
+void Copy_Structure(const Database& model, Database& company) {
+  for (const store::TableDef& table : model.TableDefs())
+    if (!table.fields.empty()) company.CreateTableDef(table);
+  for (const store::QueryDef& query : model.QueryDefs()) company.CreateQueryDef(query);
+}
+
+void Copy_Rows(Database& model, Database& company, std::string_view table, Date today) {
+  auto from = model.OpenTable(table);
+  auto to = company.OpenTable(table);
+  for (from->MoveFirst(); !from->Eof(); from->MoveNext()) {
+    to->AddNew();
+    for (const store::Field& field : from->Fields()) (*to)[field.name] = (*from)[field.name].value();
+    if (table == "Accounts") (*to)["OpeningDate"] = today;
+    to->Update();
+  }
+}
+
+void Add_Company_Info(Database& company, const std::string& name) {
+  auto info = company.OpenTable("CompanyInfo");
+  info->AddNew();
+  (*info)["Name"] = name;
+  (*info)["UserMode"] = "Single";
+  info->Update();
+}
+
+void Fill_New_Company(Session& session, Database& company, const std::string& name) {
+  auto model = Open_Current(session.folder / "Model.mdb", FileKind::Model);
+  store::Transaction fill(company, "New company", store::Transaction::History::Summary);
+  Copy_Structure(*model, company);
+  Create_Reading_Indexes(company);
+  for (std::string_view table : copied_tables) {
+    Copy_Rows(*model, company, table, session.today());
+    if (table == "Colors") Add_Company_Info(company, name);
+  }
+  company.set_version(schema_version);
+  fill.commit();
+}
+
+void Sign(Session& session, Database& db) {
+  db.set_author({[&session] { return session.acting_user(); }, [&session] { return session.clock.stamp(); }});
+}
+
+}  // namespace
+
+void Main(Session& session) {
+  session.dbAccounts = Open_Current(session.folder / "Accounts.mdb", FileKind::Shared);
+  session.RecalcAll = false;
+  Check_Updates(session);
+}
+
+void Set_Recordsets(Session& session) {
+  Hourglass hourglass(session.prompts);
+  Load_Number_Words(session.words);
+  for (const LongLivedSet& entry : long_lived_sets) {
+    Database& db = entry.shared ? *session.dbAccounts : *session.dbCompany;
+    auto& set = session.sets.*entry.set;
+    set = db.OpenTable(entry.table);
+    if (!entry.index.empty()) set->Index(entry.index);
+  }
+}
+
+void Close_Sets(Session& session) {
+  for (const LongLivedSet& entry : long_lived_sets)
+    if (entry.table != "CustomerMessages") (session.sets.*entry.set).reset();
+}
+
+fs::path Company_Path(const Session& session, const std::string& name) {
+  bool impossible = name.empty() || name.find_first_of("/\\:*?\"<>|") != std::string::npos || name[0] == '.';
+  if (impossible || name.size() > 200)
+    throw store::Error(store::errors::bad_path, "'" + name + "' isn't a valid name for a company file.");
+  return session.folder / (name + ".cmf");
+}
+
+void New_Company(Session& session, const std::string& name) {
+  session.LastCompanyError = 0;
+  fs::path path = Company_Path(session, name);
+  if (fs::exists(path)) {
+    session.LastCompanyError = store::errors::database_exists;
+    session.prompts.box({"Company name already exisits.", "Error", Icon::Critical});
+    return;
+  }
+  try {
+    auto company = Database::CreateDatabase(path, FileKind::Company);
+    company->NewPassword("", database_password);
+    Sign(session, *company);
+    Fill_New_Company(session, *company, name);
+  } catch (...) {
+    std::error_code ignored;
+    fs::remove(path, ignored);  // nobody meets a company without its tables
+    throw;
+  }
+  session.MultiUser = false;
+}
+
+void Open_Company_File(Session& session, const fs::path& path) {
+  auto opened = Open_Current(path, FileKind::Company);
+  Sign(session, *opened);
+  Close_Company_File(session);
+  session.dbCompany = std::move(opened);
+  session.CompanyPath = path.string();
+  session.CompanyFile = path.filename().string();
+}
+
+void Close_Company_File(Session& session) {
+  Close_Sets(session);
+  session.sets.CustomerMessages.reset();  // its database goes with the company
+  session.dbCompany.reset();
+}
+
+std::string Main_Title(const Session& session) {
+  if (!session.company_open()) return "Main Display";
+  const std::string& file = session.CompanyFile;
+  return file.substr(0, file.size() - std::min<size_t>(4, file.size())) + " - Main Display";
+}
+
+}  // namespace tallymere

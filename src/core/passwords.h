@@ -1,0 +1,12 @@
+#pragma once
+
+#include <string>
+
+namespace tallymere {
+
+/// What CompanyInfo.Password and Users.Password keep: a salted Argon2id hash; "" stays "".
+std::string Hash_Password(const std::string& password);
+/// Exact: case and blanks count. Nothing kept is matched by nothing typed.
+bool Password_Matches(const std::string& kept, const std::string& typed);
+
+}  // namespace tallymere

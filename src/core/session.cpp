@@ -1,0 +1,23 @@
+#include "core/session.h"
+
+#include <pwd.h>
+#include <unistd.h>
+
+namespace tallymere {
+namespace {
+
+std::string Logged_In_Person() {
+  const passwd* entry = getpwuid(getuid());
+  return entry ? entry->pw_name : "";
+}
+
+}  // namespace
+
+Session::Session(std::filesystem::path program_folder, Clock session_clock, Prompts& session_prompts)
+    : folder(std::move(program_folder)), clock(session_clock), prompts(session_prompts), log(folder, clock) {}
+
+Session::~Session() = default;
+
+std::string Session::acting_user() const { return CurrentUser.empty() ? Logged_In_Person() : CurrentUser; }
+
+}  // namespace tallymere

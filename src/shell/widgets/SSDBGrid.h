@@ -1,0 +1,165 @@
+#pragma once
+
+#include <QTableView>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "shell/widgets/GridModel.h"
+
+namespace tallymere {
+
+class GridHeader;
+
+/// Rows and columns of typed cells: lists, entry lines, reports. Rows count from 0; the new line, where
+/// allowed, is row rows(). What code does raises no signal; what the user does, does.
+class SSDBGrid : public QTableView {
+  Q_OBJECT
+
+ public:
+  explicit SSDBGrid(QWidget* parent = nullptr);
+  ~SSDBGrid() override;
+
+  // --- columns ---
+  void set_columns(std::vector<GridColumn> columns);  ///< rows go
+  void set_groups(std::vector<GridGroup> groups);
+  const std::vector<GridGroup>& groups() const;
+  int columns() const;
+  const GridColumn& column(int column) const;
+  int column_named(const std::string& caption) const;  ///< -1: none
+  void set_caption(int column, const std::string& caption);
+  void set_locked(int column, bool locked);
+  void show_column(int column, bool shown);
+  void fit_columns(int rows_looked_at = 200);  ///< widths as the captions and first rows need
+
+  // --- rows ---
+  void AddItem(const std::string& tab_separated, const std::string& style = {});
+  void InsertItem(int row, const std::string& tab_separated, const std::string& style = {});
+  void AddValues(const std::vector<store::Value>& values, const std::string& style = {});
+  void RemoveItem(int row);
+  void RemoveAll();
+  /// `count` rows that `provider` describes when they come into view or are read: any number of rows opens at
+  /// once.
+  void set_rows(int count, GridModel::Provider provider);
+  int rows() const;  ///< without the new line
+  /// Many changes, one repaint: lives while rows are added.
+  class Fill {
+   public:
+    explicit Fill(SSDBGrid& grid);
+    ~Fill();
+    Fill(const Fill&) = delete;
+    Fill& operator=(const Fill&) = delete;
+
+   private:
+    SSDBGrid& grid_;
+  };
+
+  // --- cells: text as it was given or typed; value what it stands for ---
+  std::string text(int row, int column) const;  ///< "" outside
+  void set_text(int row, int column, const std::string& text);
+  /// Null when blank; text that does not read as the column's kind comes as text, so that money() of it is
+  /// Error 3421.
+  store::Value value(int row, int column) const;
+  void set_value(int row, int column, const store::Value& value);
+  bool checked(int row, int column) const;
+  int list_row(int row,
+               int column) const;  ///< of the column's drop-down: where the cell's text stands; -1: nowhere
+  bool Valid() const { return valid_; }  ///< the text last typed or picked in a drop-down cell is in its list
+  void set_Valid(bool valid) { valid_ = valid; }
+
+  // --- where the user is ---
+  int Row() const;  ///< -1: nowhere; rows() on the new line
+  int Col() const;
+  void set_Row(int row);
+  void set_cell(int row, int column);  ///< moves there and brings it into view
+  void MoveFirst() { set_Row(0); }
+  void MoveNext() { set_Row(Row() + 1); }
+  void MovePrevious() { set_Row(Row() - 1); }
+  void MoveLast() { set_Row(rows() - 1); }
+  bool on_new_line() const { return Row() >= 0 && Row() == rows(); }
+  void set_multi_select(bool allowed);
+  std::vector<int> selected_rows() const;  ///< ascending, without the new line
+  void select_rows(const std::vector<int>& rows);
+
+  // --- what the user may do ---
+  void set_read_only(bool read_only);  ///< true at first: a list; entry grids say false
+  void set_new_line(bool allowed);     ///< typing in it makes a row, Insert goes to it
+  void set_delete(bool allowed);       ///< the Delete key (not while typing) and drop rows
+  void set_sorting(bool allowed);      ///< a click on a column's head sorts by value
+  void set_empty_hint(const QString& text);
+  void set_may_edit(std::function<bool(int row, int column)> may_edit);
+  void commit();  ///< takes what is being typed, as leaving the cell does
+  bool editing() const { return state() == EditingState; }
+
+  // --- looks ---
+  void define_style(const std::string& name,
+                    const GridStyle& style);  ///< "Bold", "sBold", "Small", "Underline" exist
+  void set_row_style(int row, const std::string& style);
+  void set_cell_style(int row, int column, const std::string& style);
+  std::string row_style(int row) const;
+  std::string cell_style(int row, int column) const;       ///< the cell's own, else the row's
+  void set_row_loaded(std::function<void(int row)> hook);  ///< styles a row when it is first shown or read
+  void set_sheet_color(const QColor& color);  ///< a register's own paper; an invalid colour: the theme's
+
+  // --- as the user does it, signals and all (for tools that drive windows) ---
+  bool type_text(int row, int column, const std::string& text);  ///< false: refused or locked
+  bool toggle(int row, int column);                              ///< a check cell
+  bool delete_row(int row);                                      ///< asks BeforeDelete
+  void double_click(int row, int column = 0);
+  void request_menu(int row, const QPoint& global);
+
+  GridModel& cells() { return *model_; }
+
+ Q_SIGNALS:
+  void RowColChange(int last_row, int last_column);  ///< the current cell moved
+  /// A cell is about to take what was typed or picked; cancel leaves it as it was.
+  void BeforeColUpdate(int row, int column, const std::string& typed, bool& cancel);
+  void AfterColUpdate(int row, int column);
+  void CloseUp(int row, int column);         ///< a drop-down was closed by picking; the cell holds it already
+  void AfterInsert(int row);                 ///< typing in the new line made this row
+  void BeforeUpdate(int row, bool& cancel);  ///< a changed row is being left; cancel stays in it
+  void AfterUpdate(int row);                 ///< a changed row was left
+  void BeforeDelete(int row, bool& cancel);
+  void AfterDelete();
+  void DblClick(int row);  ///< never the new line
+  void MenuRequested(int row,
+                     const QPoint& global);  ///< right click below the head; the row is current by then
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void changeEvent(QEvent* event) override;
+  void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+  QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
+  void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override;
+
+ private:
+  friend class GridDelegate;
+  bool take(int row, int column, const std::string& typed,
+            int list_row);  ///< the one way a user's text gets into a cell
+  void store_choice(int row, int column, int list_row);
+  bool open_list(const QModelIndex& index);
+  bool leave_row(int row);
+  QModelIndex next_cell(const QModelIndex& from, int step) const;
+  void share_widths();
+  void set_heights();
+  void sort_clicked(int column);
+
+  GridModel* model_;
+  GridHeader* header_;
+  QString hint_;
+  bool delete_ = false;
+  bool valid_ = true;
+  int changed_row_ = -1;
+  bool by_code_ = false;
+  bool returning_ = false;
+  int sorted_by_ = -1;
+  bool descending_ = false;
+};
+
+}  // namespace tallymere

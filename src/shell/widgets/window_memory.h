@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QSize>
+#include <QString>
+#include <optional>
+
+namespace tallymere::window_memory {
+
+/// Off until the desktop program turns it on: tests and the driver see every window at its own size.
+void set_enabled(bool enabled);
+std::optional<QSize> size_of(const QString& window);
+void remember(const QString& window, QSize size);
+
+}  // namespace tallymere::window_memory

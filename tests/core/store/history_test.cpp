@@ -1,0 +1,102 @@
+#include "core/store/history.h"
+
+#include <gtest/gtest.h>
+
+#include "core/store/recordset.h"
+#include "support/temp_folder.h"
+
+namespace tallymere::store {
+namespace {
+
+class HistoryOf : public ::testing::Test {
+ protected:
+  HistoryOf() {
+    db = Database::CreateDatabase(folder / "a.cmf", FileKind::Company);
+    db->set_author({[] { return "Ann"; }, [] { return "2026-01-02 10:11:12"; }});
+    Transaction make(*db, "make");
+    db->CreateTableDef(TableDef{"Accounts", {}, {}}.CreateField("Name", FieldType::Text).CreateField("Balance", FieldType::Money));
+    make.commit();
+  }
+  int64_t act(const std::string& what, const std::string& sql) {
+    Transaction tx(*db, what);
+    db->Execute(sql);
+    tx.commit();
+    return List_Actions(*db, 1).at(0).number;
+  }
+  int undo(int64_t number) {
+    try {
+      Transaction tx(*db, "Undo " + std::to_string(number));
+      Revert_Changes(*db, number, [](auto&, auto& field) { return field == "Balance"; });
+      tx.undoes(number);
+      tx.commit();
+      return 0;
+    } catch (const Error& error) {
+      return error.number;
+    }
+  }
+  std::string names() {
+    std::string list;
+    db->each("SELECT Name FROM Accounts ORDER BY RowKey", {}, [&](const Row& row) { list += row.text(0), list += ' '; });
+    return list;
+  }
+  tallymere::testing::TempFolder folder;
+  std::unique_ptr<Database> db;
+};
+
+TEST_F(HistoryOf, EveryCommitTellsWhoWhenWhatAndTheChange) {
+  int64_t added = act("Add bank", "INSERT INTO Accounts (Name, Balance) VALUES ('Bank', 125000)");
+  int64_t renamed = act("Rename", "UPDATE Accounts SET Name = 'Checking'");
+  act("Nothing", "UPDATE Accounts SET Name = 'Checking'");
+  auto actions = List_Actions(*db, 10);
+  ASSERT_EQ(actions.size(), 2u) << "what changed nothing leaves nothing";
+  EXPECT_EQ(actions[0].number, renamed);
+  EXPECT_EQ(actions[1].user + " " + actions[1].at + " " + actions[1].what, "Ann 2026-01-02 10:11:12 Add bank");
+  auto change = Changes_Of(*db, added).at(0);
+  EXPECT_EQ(change.kind, RowChange::Kind::Added);
+  EXPECT_EQ(change.cells.at(1).after, Value(Money::dollars(12, 50)));
+  change = Changes_Of(*db, renamed).at(0);
+  ASSERT_EQ(change.cells.size(), 1u);
+  EXPECT_EQ(change.cells[0].before.text() + ">" + change.cells[0].after.text(), "Bank>Checking");
+}
+
+TEST_F(HistoryOf, AnyActionIsTakenBackWholeInAnyOrderUnlessLaterWorkStandsOnIt) {
+  int64_t one = act("One", "INSERT INTO Accounts (Name) VALUES ('one')");
+  int64_t two = act("Two", "INSERT INTO Accounts (Name) VALUES ('two'), ('too')");
+  int64_t three = act("Three", "UPDATE Accounts SET Name = 'drei' WHERE Name = 'one'");
+  EXPECT_EQ(undo(two), 0);
+  EXPECT_EQ(names(), "drei ");
+  EXPECT_EQ(undo(one), errors::undo_refused) << "its row was renamed since";
+  EXPECT_EQ(names(), "drei ");
+  EXPECT_EQ(undo(three), 0);
+  EXPECT_EQ(undo(one), 0);
+  EXPECT_EQ(names(), "");
+  auto undo_of_two = List_Actions(*db, 10).at(2);
+  EXPECT_EQ(undo_of_two.undoes, two);
+  EXPECT_EQ(undo(undo_of_two.number), 0) << "an undo is an action like any other";
+  EXPECT_EQ(names(), "two too ");
+  EXPECT_EQ(undo(two), 0);
+  EXPECT_EQ(undo(two), errors::undo_refused) << "twice is once too often";
+}
+
+TEST_F(HistoryOf, ARefreshedBalanceIsNoLaterWork) {
+  int64_t added = act("Add", "INSERT INTO Accounts (Name, Balance) VALUES ('Bank', 0)");
+  act("Updating Categories", "UPDATE Accounts SET Balance = 990000");
+  EXPECT_EQ(undo(added), 0);
+  EXPECT_EQ(names(), "");
+}
+
+TEST_F(HistoryOf, ABulkLoadIsOneLineThatCannotBeTakenBack) {
+  {
+    Transaction load(*db, "Import", Transaction::History::Summary);
+    db->Execute("INSERT INTO Accounts (Name) VALUES ('a'), ('b')");
+    load.commit();
+  }
+  auto action = List_Actions(*db, 1).at(0);
+  EXPECT_EQ(action.what, "Import");
+  EXPECT_FALSE(action.undoable);
+  EXPECT_EQ(undo(action.number), errors::undo_refused);
+  EXPECT_EQ(undo(99), errors::no_current_record);
+}
+
+}  // namespace
+}  // namespace tallymere::store
