@@ -35,8 +35,11 @@ Document& Books::Open_Check(std::string_view type, std::string_view payee, std::
 }
 
 void Books::Close(Document& document) {
-  for (const Posting& row : document.rows)
+  for (const Posting& row : document.rows) {
     if (row.account == chart.checking) bank_ += row.debit - row.credit;
+    if (row.item == items.state_tax->name) state_tax_ += row.credit - row.debit;
+    if (row.item == items.city_tax->name) city_tax_ += row.credit - row.debit;
+  }
 }
 
 Document& Books::Entry(std::string_view debited, std::string_view credited, Money amount, std::string_view memo,

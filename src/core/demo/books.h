@@ -28,7 +28,7 @@ struct Books {
   Document& Open(std::string_view type) { return loader.Add(day, type); }
   /// A check of any kind under the next number; the latest are still to be printed.
   Document& Open_Check(std::string_view type, std::string_view payee, std::string_view address);
-  /// Tells the desk that a document's rows are complete. Keeps track of the bank.
+  /// Tells the desk that a document's rows are complete. Keeps track of the bank and of the sales tax.
   void Close(Document& document);
   /// Two rows that mirror each other, as the register and the ledger write them.
   Document& Entry(std::string_view debited, std::string_view credited, Money amount, std::string_view memo,
@@ -44,11 +44,12 @@ struct Books {
   /// An amount for one business of many: the size of the overhead grows with the staff.
   Money sized(Money amount) const { return amount.times(size_); }
   Money bank() const { return bank_; }
+  Money tax_owed(const Item* tax) const { return tax == items.state_tax ? state_tax_ : city_tax_; }
 
  private:
   std::map<int, std::vector<std::function<void()>>> due_;
   double size_;
-  Money bank_;
+  Money bank_, state_tax_, city_tax_;
   int next_check_ = 1001;
 };
 

@@ -20,22 +20,21 @@ inline constexpr std::string_view to_print = "Print";
 
 /// One row of a transaction. Texts belong to the lists, which outlive every document.
 struct Posting {
-  std::string_view account;  ///< empty: a line without a category, a subtotal or the head of a group
-  std::string_view category;
-  Money debit;
-  Money credit;
-  std::string_view memo;
-  std::string_view class_name;
-  std::string_view source_name;
-  std::string_view name;  ///< empty: the document's
-  std::string_view item;
-  std::string_view item_description;
-  std::string_view payroll_item;
-  std::optional<double> qty;
-  std::optional<double> hours;
-  std::optional<Money> sale_price;
+  std::string_view account = {};  ///< empty: a line without a category, a subtotal or the head of a group
+  std::string_view category = {};
+  Money debit = {};
+  Money credit = {};
+  std::string_view memo = {};
+  std::string_view class_name = {};
+  std::string_view source_name = {};
+  std::string_view name = {};  ///< empty: the document's
+  std::string_view item = {};
+  std::string_view item_description = {};
+  std::string_view payroll_item = {};
+  std::optional<double> qty = {};
+  std::optional<double> hours = {};
+  std::optional<Money> sale_price = {};
   bool taxable = false;
-  bool extra_part_row = false;  ///< second or third row of an inventory part
 
   Money amount() const { return debit.is_zero() ? credit.abs() : debit.abs(); }
 };

@@ -25,6 +25,8 @@ struct Vendor {
   int days = 30;
 };
 
+inline constexpr std::string_view federal_id = "36-5550142";
+
 inline constexpr std::string_view treasury = "United States Treasury";
 inline constexpr std::string_view state_revenue = "Illinois Department of Revenue";
 inline constexpr std::string_view state_employment = "Illinois Department of Employment Security";

@@ -108,16 +108,13 @@ void Payroll::Add_Taxes(Slip& slip, const Employee& person) {
 
 void Payroll::Post(Document& check, const Share& share, std::string_view bank, bool wage) {
   const Pay_Item& item = staff_.item(share.item);
-  Posting row{.category = bank, .payroll_item = item.name};
   if (!item.expense.empty()) {
-    row.account = item.expense;
-    row.debit = share.amount;
+    Posting& row = check.add({.account = item.expense, .category = bank, .debit = share.amount});
+    row.payroll_item = item.name;
     if (wage) row.hours = share.hours;
-    check.add(row);
   }
   if (item.liability.empty()) return;
-  row = {.account = item.liability, .category = bank, .credit = share.amount, .payroll_item = item.name};
-  check.add(row);
+  check.add({.account = item.liability, .category = bank, .credit = share.amount}).payroll_item = item.name;
   Owe(item.name, share.amount);
 }
 
@@ -204,7 +201,7 @@ void Payroll::Pay_Agency(const std::string& agency) {
     check.add({.account = item->liability,
                .category = bank,
                .debit = amount,
-               .memo = item->federal ? std::string_view(federal_id) : std::string_view(item->number),
+               .memo = item->federal ? federal_id : std::string_view(item->number),
                .payroll_item = item->name});
     Owe(item->name, -amount);
   }

@@ -35,7 +35,7 @@ class Payroll {
   void Add_Earnings(Slip& slip, const Employee& person, Date payday);
   void Add_Taxes(Slip& slip, const Employee& person);
   void Write_Paycheck(const Employee& person, const Slip& slip);
-  void Post(Document& check, const Share& share, std::string_view bank, bool earned);
+  void Post(Document& check, const Share& share, std::string_view bank, bool wage);
   void Pay_Agency(const std::string& agency);
   void Owe(std::string_view item, Money amount) { owed_[std::string(item)] += amount; }
   void Write_History(Date period_end);

@@ -48,6 +48,10 @@ Names Names_Where(store::Database& db, std::string_view condition) {
 
 std::string Category_Of(const Chart& chart, std::string Chart::* member) { return member ? chart.*member : ""; }
 
+std::optional<Money> Limit_Of(const Definition& item) {
+  return item.limit ? std::optional(Money::dollars(item.limit)) : std::nullopt;
+}
+
 void Write_Item(store::Database& db, const Chart& chart, const Definition& item) {
   const bool state = item.type == "State Tax";
   const bool adjusts = item.type == "Addition" || item.type == "Deduction";
@@ -58,7 +62,7 @@ void Write_Item(store::Database& db, const Chart& chart, const Definition& item)
            {"SState", state ? "IL" : ""}, {"LiabilityAcct", Category_Of(chart, item.liability)},
            {"ExpenseAcct", Category_Of(chart, item.expense)}, {"LiabilityAgency", item.agency},
            {"LiabilityNumber", item.number}, {"DefaultRate", item.rate},
-           {"DefaultLimit", item.limit ? store::Value(Money::dollars(item.limit)) : store::Value()},
+           {"DefaultLimit", Limit_Of(item)},
            {"UnempTaxRate", unemployment ? "3.35%" : ""}, {"TaxPaid", item.tax_paid}, {"QuantityBased", false},
            {"FUTACredit", unemployment}});
 }

@@ -139,8 +139,14 @@ void Purchases::Vendor_Credit() {
 // --- stock --------------------------------------------------------------------------------------------------
 
 void Purchases::Reorder_Stock() {
+  constexpr int orders_a_day = 3;
+  int orders = 0;
   for (Item* part : books_.items.parts)
-    if (part->stock < part->reorder) return Order_Part(*part);
+    if (part->stock < part->reorder && orders++ < orders_a_day) Order_Part(*part);
+}
+
+void Purchases::Order_Ahead() {
+  Order_Part(**std::ranges::min_element(books_.items.parts, {}, &Item::stock));
 }
 
 /// The order; some days later the goods, and with them or soon after the bill under the receipt's number.

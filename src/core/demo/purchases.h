@@ -17,7 +17,8 @@ class Purchases {
   void Item_Check();             ///< a check on its Items tab
   void Card_Charge();
   void Vendor_Credit();
-  void Reorder_Stock();          ///< one part that runs low: order, receipt, bill
+  void Reorder_Stock();          ///< parts that run low: order, receipt, bill
+  void Order_Ahead();            ///< the part of which there is least
   void Pay_Bills();              ///< all that fall due within a week, one payment per vendor
   void Pay_Card();
   /// Two users pay one bill; the vendor sends the second payment back.

@@ -1,7 +1,6 @@
 #include "core/demo/staff.h"
 
 #include <algorithm>
-#include <cstdio>
 
 #include "core/demo/rows.h"
 #include "core/demo/words.h"
@@ -9,14 +8,10 @@
 namespace tallymere::demo {
 namespace {
 
-/// From the range that is kept for examples and never given to a person.
+/// No Social Security number begins with a 9.
 std::string Example_Number(int index) {
-  char text[16];
-  std::snprintf(text, sizeof text, "987-65-%04d", 4320 + index);
-  return text;
+  return "987-65-" + std::to_string(4320 + index);
 }
-
-std::string Amount_Text(Money amount) { return amount.to_text() + (amount.to_text().contains('.') ? "" : ".00"); }
 
 void Write_Pay(store::Database& db, const Employee& person) {
   const std::string_view regular = person.salaried ? pay_items::salary : pay_items::hourly;
@@ -32,7 +27,7 @@ void Write_Pay(store::Database& db, const Employee& person) {
   };
   if (person.in_plan) adjust(pay_items::retirement, "4%", "24500");
   if (person.in_plan) adjust(pay_items::match, "2%", "");
-  if (person.insured) adjust(pay_items::health, Amount_Text(Money::dollars(85)), "");
+  if (person.insured) adjust(pay_items::health, "85.00", "");
   Add_Row(db, "EmployeeTaxes", {{"SSNum", person.ss_num}, {"Tax", pay_items::training}, {"AmountRate", "0.1%"}, {"Limit", "14250"}});
 }
 
@@ -51,10 +46,10 @@ Staff::Staff(Books& books) {
 void Staff::Hire(Books& books) {
   Random& random = books.random;
   const int index = static_cast<int>(employees.size());
-  Employee person{.hired = books.plan.first.plus_days(-random.between(30, 1500))};
+  Employee person(books.plan.first.plus_days(-random.between(30, 1500)));
   do {
     person.name = std::string(random.pick(words::first_names)) + " " + std::string(random.pick(words::last_names));
-  } while (std::ranges::contains(employees, person.name, &Employee::name));
+  } while (std::ranges::count(employees, person.name, &Employee::name) > 0);
   const auto& place = random.pick(words::places);
   person.ss_num = Example_Number(index);
   person.address_one = std::to_string(random.between(10, 4900)) + " " + std::string(random.pick(words::streets));

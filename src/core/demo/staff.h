@@ -40,6 +40,8 @@ struct Employee {
   std::optional<Date> released;
   Money year_gross;  ///< paid so far in `year`
   int year = 0;
+
+  explicit Employee(Date day) : hired(day) {}
 };
 
 struct Staff {
