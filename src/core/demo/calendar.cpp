@@ -6,7 +6,7 @@
 namespace tallymere::demo {
 namespace {
 
-constexpr int64_t small_business_a_year = 900;
+constexpr int64_t small_business_a_year = 1250;
 constexpr int64_t largest = 250'000;  // where the lists stop growing
 constexpr int64_t bulk_from = 20'000;
 
@@ -38,16 +38,17 @@ Date Workday_From(Date day) {
 }
 
 Plan::Plan(const DemoOptions& options)
-    : first(options.today.add_months(-12 * std::max(options.years, 1)).plus_days(1)), last(options.today) {
+    : first(options.today.add_months(-12 * std::max(options.years, 1)).plus_days(1)), last(options.today), last_workday(last) {
   const int years = std::max(options.years, 1);
   transactions = options.transactions.value_or(small_business_a_year * years);
   days = days_between(first, last) + 1;
   const int64_t a_year = transactions / years;
-  customers = Scaled(transactions, static_cast<int>(std::clamp<int64_t>(a_year / 20, 10, 40)), 500);
+  customers = Scaled(transactions, static_cast<int>(std::clamp<int64_t>(a_year / 30, 10, 40)), 500);
   vendors = Scaled(transactions, 12, 200);
-  employees = Scaled(transactions, static_cast<int>(std::clamp<int64_t>(a_year / 180, 2, 5)), 50);
+  employees = Scaled(transactions, static_cast<int>(std::clamp<int64_t>(a_year / 300, 2, 4)), 50);
   parts = Scaled(transactions, 12, 120);
   bulk = transactions > bulk_from;
+  while (!Is_Workday(last_workday)) last_workday = last_workday.plus_days(-1);
 
   std::vector<int64_t> sums;
   int64_t sum = 0;

@@ -74,6 +74,7 @@ void Year::Work() {
   }
   purchases_.Reorder_Stock();
   Business();
+  if (books_.day == books_.plan.last_workday) sales_.Leave_A_Check();
 }
 
 void Year::Scheduled() {

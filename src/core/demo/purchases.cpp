@@ -119,7 +119,7 @@ void Purchases::Supplier_Bill() {
   Document& bill = Open_Bill("Bill", vendor);
   bill.add({.account = category,
             .category = payable,
-            .debit = books_.between(90, labor ? 780 : 620),
+            .debit = books_.plan.bulk ? books_.between(350, 2600) : books_.between(120, labor ? 1400 : 950),
             .class_name = class_name(),
             .source_name = random.chance(50) ? std::string_view(job.name) : ""});
   if (!labor && random.chance(35))

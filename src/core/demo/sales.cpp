@@ -28,7 +28,7 @@ std::vector<Line> Sales::Make_Lines() {
   Random& random = books_.random;
   std::vector<Line> lines;
   const int kind = random.below(100);
-  if (kind < 55) lines.push_back(Line_Of(*random.pick(books_.items.services), random.between(4, 26)));
+  if (kind < 55) lines.push_back(Line_Of(*random.pick(books_.items.services), books_.plan.bulk ? random.between(2, 12) : random.between(8, 56)));
   if (kind >= 30 && kind < 92) Add_Goods(lines);
   if (kind >= 88 && kind < 97) Add_Part(lines);
   if (kind >= 97) Add_Group(lines);
@@ -150,9 +150,10 @@ void Sales::Plan_Payment(Customer& customer, Document& invoice) {
             [this, &customer, &invoice] { Receive(customer, invoice, invoice.open()); });
 }
 
-Document& Sales::Open_Payment(const Customer& customer) {
+Document& Sales::Open_Payment(const Customer& customer, bool by_check) {
   Random& random = books_.random;
-  const size_t method = static_cast<size_t>(std::max(0, random.below(10) - 6));  // seven of ten are checks
+  const int other_way = random.below(10) - 6;  // seven of ten are checks
+  const size_t method = by_check || other_way < 0 ? 0 : static_cast<size_t>(other_way);
   Document& payment = books_.Open("Payment");
   payment.name = customer.name;
   payment.pay_method = words::payment_methods[method];
@@ -160,13 +161,13 @@ Document& Sales::Open_Payment(const Customer& customer) {
   return payment;
 }
 
-void Sales::Receive(Customer& customer, Document& first, Money amount) {
+void Sales::Receive(Customer& customer, Document& first, Money amount, bool by_check) {
   if (first.paid || amount <= Money()) return;
   std::vector<std::pair<Document*, Money>> applied = {{&first, std::min(amount, first.open())}};
   if (amount == first.open() && books_.random.chance(25))
     for (Document* other : customer.open)
       if (other != &first && other->date < first.date) applied.emplace_back(other, other->open());
-  Document& payment = Open_Payment(customer);
+  Document& payment = Open_Payment(customer, by_check);
   for (auto& [invoice, share] : applied) {
     payment.total += share;
     invoice->received += share;
@@ -188,6 +189,14 @@ void Sales::Deposit_Waiting() {
   for (size_t at = 0; at < waiting_.size(); at += slip_lines)
     Write_Deposit(std::span(waiting_).subspan(at, std::min(slip_lines, waiting_.size() - at)));
   waiting_.clear();
+}
+
+void Sales::Leave_A_Check() {
+  if (!waiting_.empty()) return;
+  for (Customer& customer : books_.parties.customers) {
+    const auto open = std::ranges::find(customer.open, std::string_view("Invoice"), &Document::type);
+    if (open != customer.open.end()) return Receive(customer, **open, (*open)->open(), true);
+  }
 }
 
 void Sales::Write_Deposit(std::span<Document* const> payments) {
@@ -221,12 +230,14 @@ Money Sales::Balance_Of(const Customer& customer) const {
 
 void Sales::Charge_Late_Customers() {
   constexpr double yearly_rate = 0.18;
-  constexpr int patience = 60;
+  constexpr int patience = 45;
+  size_t most = 2 + books_.parties.customers.size() / 20;
   for (Customer& customer : books_.parties.customers) {
     const bool late = std::ranges::any_of(customer.open, [&](const Document* document) {
       return document->type == "Invoice" && days_between(document->date, books_.day) > patience;
     });
-    if (!late || !books_.behind()) continue;
+    if (!late) continue;
+    if (most-- == 0) return;
     const Money balance = Balance_Of(customer);
     double charge = 0;
     for (const Document* invoice : customer.open)

@@ -24,6 +24,7 @@ class Sales {
   void Estimate();
   void Package_Slip();
   void Deposit_Waiting();      ///< what lies in Undeposited Funds goes to the bank
+  void Leave_A_Check();        ///< somebody pays by check if nothing waits for a deposit
   void Charge_Late_Customers();
   int64_t repeat_template() const { return repeat_template_; }  ///< an invoice worth repeating
   Money repeat_amount() const { return repeat_amount_; }
@@ -37,8 +38,8 @@ class Sales {
   Document& Write_Invoice(Customer& customer, const std::vector<Line>& lines);
   void Write_Line(Document& invoice, const Line& line);
   void Plan_Payment(Customer& customer, Document& invoice);
-  void Receive(Customer& customer, Document& first, Money amount);
-  Document& Open_Payment(const Customer& customer);
+  void Receive(Customer& customer, Document& first, Money amount, bool by_check = false);
+  Document& Open_Payment(const Customer& customer, bool by_check);
   void Write_Deposit(std::span<Document* const> payments);
   Money Balance_Of(const Customer& customer) const;
 
