@@ -11,7 +11,7 @@ namespace tallymere {
 struct DemoOptions {
   std::string name = "Sample Company";
   int years = 3;                        ///< of business, the last one ending today; at least 1
-  std::optional<int64_t> transactions;  ///< about this many over all years; empty: a small business's own pace
+  std::optional<int64_t> transactions = {};  ///< about this many over all years; empty: a small business's own pace
   uint32_t seed = 1;
   Date today;
 };

@@ -115,13 +115,16 @@ void Purchases::Supplier_Bill() {
   const bool labor = random.chance(35);
   const Vendor& vendor = *random.pick(labor ? books_.parties.subcontractors : books_.parties.suppliers);
   const std::string_view category = labor ? books_.chart.subcontractors : books_.chart.materials;
-  const Customer& job = random.pick(books_.parties.customers);
   Document& bill = Open_Bill("Bill", vendor);
-  bill.add({.account = category,
-            .category = payable,
-            .debit = books_.plan.bulk ? books_.between(350, 2600) : books_.between(120, labor ? 1400 : 950),
-            .class_name = class_name(),
-            .source_name = random.chance(50) ? std::string_view(job.name) : ""});
+  const int lines = random.between(1, 4);
+  for (int line = 0; line < lines; ++line) {
+    const Customer& job = random.pick(books_.parties.customers);
+    bill.add({.account = category,
+              .category = payable,
+              .debit = books_.plan.bulk ? books_.between(150, 1000) : books_.between(60, labor ? 580 : 420),
+              .class_name = class_name(),
+              .source_name = random.chance(50) ? std::string_view(job.name) : ""});
+  }
   if (!labor && random.chance(35))
     bill.add({.account = books_.chart.freight, .category = payable, .debit = books_.between(18, 85), .memo = "Freight"});
   Close_Bill(bill);

@@ -27,20 +27,33 @@ Money Sum_Of(const std::vector<Line>& lines) {
 std::vector<Line> Sales::Make_Lines() {
   Random& random = books_.random;
   std::vector<Line> lines;
-  const int kind = random.below(100);
-  if (kind < 55) lines.push_back(Line_Of(*random.pick(books_.items.services), books_.plan.bulk ? random.between(2, 12) : random.between(8, 56)));
-  if (kind >= 30 && kind < 92) Add_Goods(lines);
-  if (kind >= 88 && kind < 97) Add_Part(lines);
-  if (kind >= 97) Add_Group(lines);
-  if (lines.size() > 1 && random.chance(15)) lines.push_back(Line_Of(*books_.items.delivery, 1));
+  if (random.chance(12)) {
+    Add_Service(lines);  // a contract: one line, the same again next month
+    return lines;
+  }
+  const int wanted = random.between(2, 6);
+  for (int line = 0; line < wanted; ++line) {
+    const int kind = random.below(100);
+    if (kind < 35) Add_Service(lines);
+    if (kind >= 35 && kind < 92) Add_Goods(lines);
+    if (kind >= 92) Add_Part(lines);
+  }
+  if (random.chance(3)) Add_Group(lines);
+  if (random.chance(20)) lines.push_back(Line_Of(*books_.items.delivery, 1));
   if (random.chance(4)) lines.push_back(Line_Of(*books_.items.discount, 1));
   return lines;
 }
 
+void Sales::Add_Service(std::vector<Line>& lines) {
+  const Item& item = *books_.random.pick(books_.items.services);
+  lines.push_back(Line_Of(item, books_.plan.bulk ? books_.random.between(1, 5) : books_.random.between(4, 20)));
+}
+
 void Sales::Add_Goods(std::vector<Line>& lines) {
   const Item& item = *books_.random.pick(books_.items.goods);
-  const bool small = item.price < Money::dollars(10);
-  lines.push_back(Line_Of(item, small ? books_.random.between(100, 400) : books_.random.between(3, 18)));
+  const int cheap = item.price < Money::dollars(10) ? 20 : 1;
+  const int qty = books_.plan.bulk ? books_.random.between(1, 4) : books_.random.between(2, 9);
+  lines.push_back(Line_Of(item, cheap * qty));
 }
 
 void Sales::Add_Part(std::vector<Line>& lines) {

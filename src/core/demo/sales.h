@@ -31,6 +31,7 @@ class Sales {
 
  private:
   std::vector<Line> Make_Lines();
+  void Add_Service(std::vector<Line>& lines);
   void Add_Goods(std::vector<Line>& lines);
   void Add_Part(std::vector<Line>& lines);
   void Add_Group(std::vector<Line>& lines);
