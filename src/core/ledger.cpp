@@ -9,7 +9,7 @@
 namespace tallymere {
 namespace {
 
-constexpr std::string_view other_mark = " - Other";
+const std::string other_mark = " - Other";
 
 std::string Unused_CatID(store::Database& db) {
   for (int64_t number = 0;; ++number) {
@@ -21,7 +21,7 @@ std::string Unused_CatID(store::Database& db) {
 std::string Make_Other_Child(Session& session, const std::string& parent_id) {
   store::Database& db = *session.dbCompany;
   auto parent = db.OpenRecordset("SELECT * FROM Accounts WHERE CatID = ?", {parent_id});
-  std::string name = parent["AccountName"].text() + std::string(other_mark);
+  std::string name = parent["AccountName"].text() + other_mark;
   store::Transaction tx(db, "New category " + name);
   std::string id = Unused_CatID(db);
   auto accounts = db.OpenRecordset("SELECT * FROM Accounts WHERE CatID = ?", {id});

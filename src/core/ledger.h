@@ -11,14 +11,14 @@
 namespace tallymere {
 
 /// Stands in Category for the other side of a row whose transaction has more than one.
-inline constexpr std::string_view break_down = "<-Break Down->";
+inline const std::string break_down = "<-Break Down->";
 
 /// The fixed categories.
-inline constexpr std::string_view accounts_receivable = "AR1";
-inline constexpr std::string_view accounts_payable = "AP1";
-inline constexpr std::string_view undeposited_funds = "UF1";
-inline constexpr std::string_view retained_earnings = "RE1";
-inline constexpr std::string_view opening_balance = "OE1";
+inline const std::string accounts_receivable = "AR1";
+inline const std::string accounts_payable = "AP1";
+inline const std::string undeposited_funds = "UF1";
+inline const std::string retained_earnings = "RE1";
+inline const std::string opening_balance = "OE1";
 
 /// One more than the highest TransNum in use, 1 in an empty ledger. It is not reserved: Transaction_Writer
 /// looks again.

@@ -14,6 +14,9 @@ constexpr ReadingIndex reading[] = {
     {"Transactions_Account", "Transactions", "Account, Date, Debit, Credit", ""},
     // one customer's, vendor's or payee's rows, of one category or all
     {"Transactions_Name", "Transactions", "Name, Account", ""},
+    // what each customer owes, and the unpaid bills of each vendor, asked for whenever their lists come up
+    {"Transactions_Receivable", "Transactions", "Account, Name, Type, Debit, Credit", "Account = 'AR1'"},
+    {"Transactions_Unpaid", "Transactions", "Name, Debit", "Type = 'Bill' AND Paid = 0"},
     // find by day, the list of years, reports over all categories of a period
     {"Transactions_Date", "Transactions", "Date", ""},
     // stock, sales and sales tax of one item; most rows have none

@@ -1,9 +1,14 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
+#include <optional>
 #include <string>
+#include <vector>
 
 #include "core/session.h"
+
+class QWidget;
 
 namespace tallymere {
 
@@ -15,6 +20,9 @@ struct Request {
   std::string key;         ///< a report's key, a mode, the name of a list row; empty: none
   int64_t number = 0;      ///< a TransNum or another number; 0: none
   bool new_instance = false;  ///< frmRegister and frmPrintCustom may stand several times
+  std::string parent = {};    ///< what a transaction report is of: a CatID, an item, a name
+  std::string columns = {};   ///< its column list: "Type,Date,Amount,"
+  std::optional<Date> start = {}, end = {};
 };
 
 /// What windows know of the frame they stand in. frmMain is one; tests may bring their own.
@@ -32,6 +40,12 @@ class Shell {
   virtual bool Run_Modal(Form& form) = 0;
   /// Opens the entry window that belongs to a transaction's type.
   virtual void Go_To_Transaction(const std::string& type, int64_t number) = 0;
+  /// A transaction report beside those that are open, with the columns that belong to its key unless it names its own.
+  Form* Show_Custom_Report(Request request);
+  /// Pops a context menu of the table: below the button `from`, or at the pointer over anything else. `chosen` gets the
+  /// item's name; `disabled` names those that cannot be chosen now.
+  virtual void Popup(const std::string& menu, QWidget& from, const std::vector<std::string>& disabled,
+                     std::function<void(const std::string& item)> chosen) = 0;
   /// A line in the status bar, gone after a while.
   virtual void say(const std::string& text) = 0;
   /// Tells the open windows that something changed: a table's name, or "Transactions".
