@@ -118,16 +118,16 @@ TEST_F(DemoCompany, PaymentsAndWhatTheyPayAgree) {
   EXPECT_EQ(received, paid);
   // The share received is the same on every row of an invoice; whole where it is paid.
   EXPECT_EQ(value("SELECT COUNT(*) FROM Transactions WHERE Type = 'Invoice' AND Paid = -1 AND AmountReceived <> Amount"), "0");
-  EXPECT_NE(value("SELECT COUNT(*) FROM Transactions WHERE PaidBy LIKE '%;%;' AND Type = 'Invoice' AND Account = 'AR1'"), "0");
+  EXPECT_NE(value("SELECT COUNT(*) FROM Transactions WHERE PaidBy LIKE '*;*;' AND Type = 'Invoice' AND Account = 'AR1'"), "0");
 }
 
 TEST_F(DemoCompany, BillPaymentsAddUpToTheirBills) {
   each("SELECT p.TransNum, p.Debit, (SELECT SUM(b.Amount) FROM Transactions AS b WHERE b.Account = 'AP1' AND b.Type = 'Bill'"
-       " AND b.Paid = -1 AND b.Name = p.Name AND ';' || b.PaidBy LIKE '%;' || p.TransNum || ';%')"
+       " AND b.Paid = -1 AND b.Name = p.Name AND instr(';' || b.PaidBy, ';' || p.TransNum || ';') > 0)"
        " FROM Transactions AS p WHERE p.Account = 'AP1' AND p.Debit <> 0 AND p.Type IN ('Billcheck', 'Ledger Entry')",
        [](const Row& row) { EXPECT_EQ(row.money(1), row.money(2)) << Text(row, 0); });
   EXPECT_EQ(value("SELECT COUNT(*) FROM Transactions WHERE Type = 'Bill' AND (Paid = -1) <> (PaidBy IS NOT NULL)"), "0");
-  EXPECT_EQ(value("SELECT COUNT(DISTINCT TransNum) FROM Transactions WHERE Type = 'Bill' AND PaidBy LIKE '%;%;'"), "1");
+  EXPECT_EQ(value("SELECT COUNT(DISTINCT TransNum) FROM Transactions WHERE Type = 'Bill' AND PaidBy LIKE '*;*;'"), "1");
   EXPECT_EQ(value("SELECT COUNT(*) FROM Transactions WHERE Type = 'Billcheck' AND NOT EXISTS (SELECT 1 FROM Vendors"
                   " WHERE Vendors.Name = Transactions.Name AND Vendors.ShippingAddress = Transactions.Address)"),
             "0");
@@ -207,7 +207,7 @@ TEST_F(DemoCompany, StandsWhereABusinessStandsMidMonth) {
             "0");
   EXPECT_NE(value("SELECT COUNT(*) FROM Transactions WHERE Cleared = -1"), "0");
   EXPECT_EQ(value("SELECT COUNT(*) FROM Transactions WHERE Number = 'Print' AND Date < '2026-06-12'"), "0");
-  EXPECT_NE(value("SELECT COUNT(*) FROM Transactions WHERE Number = 'Print' AND Type LIKE '%check'"), "0");
+  EXPECT_NE(value("SELECT COUNT(*) FROM Transactions WHERE Number = 'Print' AND Type LIKE '*check'"), "0");
   // The bank never runs dry.
   Money bank;
   each("SELECT Debit - Credit FROM Transactions WHERE Account = (SELECT State FROM GeneralPrefs WHERE Preference ="
@@ -219,7 +219,7 @@ TEST_F(DemoCompany, StandsWhereABusinessStandsMidMonth) {
   EXPECT_EQ(value("SELECT COUNT(*) FROM (SELECT Category FROM Budget WHERE Year = 2026 GROUP BY Category HAVING COUNT(*) <> 12)"),
             "0");
   EXPECT_EQ(value("SELECT COUNT(DISTINCT ItemType) FROM Items"), "9");
-  EXPECT_NE(value("SELECT COUNT(*) FROM Customers WHERE Name LIKE '%''%' OR Name LIKE '%é%'"), "0");
+  EXPECT_NE(value("SELECT COUNT(*) FROM Customers WHERE Name LIKE '*''*'"), "0");
   EXPECT_NE(value("SELECT COUNT(*) FROM Customers WHERE ParentName <> ''"), "0");
 }
 
