@@ -7,7 +7,8 @@ namespace tallymere::demo {
 namespace {
 
 constexpr int64_t small_business_a_year = 1250;
-constexpr int64_t largest = 250'000;  // where the lists stop growing
+constexpr int64_t least_a_year = 400;  // what rent, payroll and taxes alone come to
+constexpr int64_t largest = 250'000;   // where the lists stop growing
 constexpr int64_t bulk_from = 20'000;
 
 /// Landscaping work by month, in percent of the average.
@@ -38,14 +39,16 @@ Date Workday_From(Date day) {
 }
 
 Plan::Plan(const DemoOptions& options)
-    : first(options.today.add_months(-12 * std::max(options.years, 1)).plus_days(1)), last(options.today), last_workday(last) {
+    : first(options.today.add_months(-12 * std::max(options.years, 1)).plus_days(1)),
+      last(options.today),
+      last_workday(last) {
   const int years = std::max(options.years, 1);
-  transactions = options.transactions.value_or(small_business_a_year * years);
+  transactions = std::max(options.transactions.value_or(small_business_a_year * years), least_a_year * years);
   days = days_between(first, last) + 1;
   const int64_t a_year = transactions / years;
   customers = Scaled(transactions, static_cast<int>(std::clamp<int64_t>(a_year / 30, 10, 40)), 500);
   vendors = Scaled(transactions, 12, 200);
-  employees = Scaled(transactions, static_cast<int>(std::clamp<int64_t>(a_year / 300, 2, 4)), 50);
+  employees = Scaled(3 * a_year, static_cast<int>(std::clamp<int64_t>(a_year / 300, 1, 4)), 50);
   parts = Scaled(transactions, 12, 120);
   bulk = transactions > bulk_from;
   while (!Is_Workday(last_workday)) last_workday = last_workday.plus_days(-1);
@@ -54,8 +57,9 @@ Plan::Plan(const DemoOptions& options)
   int64_t sum = 0;
   for (int index = 0; index < days; ++index) sums.push_back(sum += Weight(first.plus_days(index), index));
   for (int64_t so_far : sums)
-    due_.push_back(static_cast<int64_t>(static_cast<double>(transactions) *
-                                        (static_cast<double>(so_far) / static_cast<double>(std::max<int64_t>(sum, 1)))));
+    due_.push_back(
+        static_cast<int64_t>(static_cast<double>(transactions) *
+                             (static_cast<double>(so_far) / static_cast<double>(std::max<int64_t>(sum, 1)))));
 }
 
 }  // namespace tallymere::demo

@@ -7,7 +7,7 @@
 
 namespace tallymere::demo {
 
-bool Is_Workday(Date day);  ///< Monday to Friday, no fixed holiday
+bool Is_Workday(Date day);    ///< Monday to Friday, no fixed holiday
 Date Workday_From(Date day);  ///< the day itself or the first workday after it
 
 /// How large the business is, and how much of it has happened by the end of each day.
@@ -20,7 +20,8 @@ struct Plan {
   int employees = 0;
   int parts = 0;
   int days = 0;
-  bool bulk = false;  ///< many small jobs and a busy desk, instead of few large ones; worth setting the indexes aside
+  bool bulk =
+      false;  ///< many small jobs and a busy desk, instead of few large ones; worth setting the indexes aside
 
   int day_index(Date day) const { return days_between(first, day); }
   /// The number of transactions due by the end of a day, rising with the seasons and the years.

@@ -8,7 +8,7 @@ namespace tallymere::demo {
 namespace {
 
 struct Role {
-  std::string Chart::* id;
+  std::string Chart::*id;
   std::string_view name, type;
   std::string_view parent = {};
 };
@@ -18,7 +18,6 @@ constexpr std::array roles = {
     Role{&Chart::savings, "Savings", "Bank"},
     Role{&Chart::card, "Company Credit Card", "Credit Card"},
     Role{&Chart::inventory, "Inventory Asset", "Current Asset"},
-    Role{&Chart::prepaid, "Prepaid Expenses", "Current Asset"},
     Role{&Chart::equipment, "Machinery and Equipment", "Fixed Asset"},
     Role{&Chart::vehicles, "Vehicles", "Fixed Asset"},
     Role{&Chart::depreciated, "Accumulated Depreciation", "Fixed Asset"},
@@ -28,9 +27,11 @@ constexpr std::array roles = {
     Role{&Chart::federal_withheld, "Federal Withholding Payable", "Current Liability", "Payroll Liabilities"},
     Role{&Chart::social_security, "Social Security Payable", "Current Liability", "Payroll Liabilities"},
     Role{&Chart::medicare, "Medicare Payable", "Current Liability", "Payroll Liabilities"},
-    Role{&Chart::federal_unemployment, "Federal Unemployment Payable", "Current Liability", "Payroll Liabilities"},
+    Role{&Chart::federal_unemployment, "Federal Unemployment Payable", "Current Liability",
+         "Payroll Liabilities"},
     Role{&Chart::state_withheld, "State Withholding Payable", "Current Liability", "Payroll Liabilities"},
-    Role{&Chart::state_unemployment, "State Unemployment Payable", "Current Liability", "Payroll Liabilities"},
+    Role{&Chart::state_unemployment, "State Unemployment Payable", "Current Liability",
+         "Payroll Liabilities"},
     Role{&Chart::deductions, "Employee Deductions Payable", "Current Liability", "Payroll Liabilities"},
     Role{&Chart::investment, "Owner's Investment", "Equity"},
     Role{&Chart::draw, "Owner's Draw", "Equity"},
@@ -43,7 +44,6 @@ constexpr std::array roles = {
     Role{&Chart::finance, "Finance Charge Income", "Income"},
     Role{&Chart::discounts, "Sales Discounts", "Income"},
     Role{&Chart::interest, "Interest Income", "Other Income"},
-    Role{&Chart::miscellaneous, "Miscellaneous Income", "Other Income"},
     Role{&Chart::cost_of_goods, "Cost of Goods Sold", "Cost of Goods Sold"},
     Role{&Chart::freight, "Freight In", "Cost of Goods Sold"},
     Role{&Chart::materials, "Job Materials", "Cost of Goods Sold"},
@@ -69,7 +69,6 @@ constexpr std::array roles = {
     Role{&Chart::benefits, "Employee Benefits", "Expense", "Payroll Expenses"},
     Role{&Chart::postage, "Postage and Delivery", "Expense"},
     Role{&Chart::accounting, "Accounting Fees", "Expense", "Professional Fees"},
-    Role{&Chart::legal, "Legal Fees", "Expense", "Professional Fees"},
     Role{&Chart::rent, "Rent", "Expense"},
     Role{&Chart::maintenance, "Repairs and Maintenance", "Expense"},
     Role{&Chart::tools, "Small Tools and Supplies", "Expense"},
@@ -78,7 +77,6 @@ constexpr std::array roles = {
     Role{&Chart::electricity, "Electricity", "Expense", "Utilities"},
     Role{&Chart::heating, "Heating", "Expense", "Utilities"},
     Role{&Chart::water, "Water and Sewer", "Expense", "Utilities"},
-    Role{&Chart::income_tax, "Income Tax", "Other Expense"},
 };
 
 std::string Free_CatID(store::Database& db) {
@@ -88,9 +86,10 @@ std::string Free_CatID(store::Database& db) {
   }
 }
 
-std::string Find_Or_Add(store::Database& db, std::string_view name, std::string_view type, std::string_view parent,
-                        Date opening) {
-  const auto found = db.value("SELECT CatID FROM Accounts WHERE AccountName = ? AND AccountType = ?", {name, type});
+std::string Find_Or_Add(store::Database& db, std::string_view name, std::string_view type,
+                        std::string_view parent, Date opening) {
+  const auto found =
+      db.value("SELECT CatID FROM Accounts WHERE AccountName = ? AND AccountType = ?", {name, type});
   if (!found.blank()) return found.text();
   std::string id = Free_CatID(db);
   Add_Row(db, "Accounts",
@@ -109,7 +108,8 @@ std::string Find_Or_Add(store::Database& db, std::string_view name, std::string_
 
 Chart::Chart(store::Database& db, Date opening) {
   for (const Role& role : roles) {
-    const std::string parent = role.parent.empty() ? "" : Find_Or_Add(db, role.parent, role.type, "", opening);
+    const std::string parent =
+        role.parent.empty() ? "" : Find_Or_Add(db, role.parent, role.type, "", opening);
     this->*role.id = Find_Or_Add(db, role.name, role.type, parent, opening);
   }
 }

@@ -18,7 +18,8 @@ constexpr int waiting_for_deposit = 4;  // days: the last payments still lie in 
 /// The people of the company and what each does on a day.
 class Year {
  public:
-  explicit Year(Books& books) : books_(books), sales_(books), purchases_(books), payroll_(books), general_(books) {}
+  explicit Year(Books& books)
+      : books_(books), sales_(books), purchases_(books), payroll_(books), general_(books) {}
 
   void Run();
 
@@ -70,11 +71,15 @@ void Year::Work() {
   if ((small_day || books_.plan.bulk) && !books_.recent(waiting_for_deposit)) sales_.Deposit_Waiting();
   if (books_.day.weekday() == 6) {
     purchases_.Pay_Bills();
-    general_.See_To_Cash();
+    general_.Use_What_Is_Over();
   }
   purchases_.Reorder_Stock();
+  general_.Borrow_If_Short();
+  if (books_.day == books_.plan.last_workday) {
+    sales_.Leave_A_Check();
+    purchases_.Expense_Check();
+  }
   Business();
-  if (books_.day == books_.plan.last_workday) sales_.Leave_A_Check();
 }
 
 void Year::Scheduled() {
@@ -117,7 +122,8 @@ void Year::Business() {
   while (books_.behind()) One_Of_Many();
 }
 
-/// Loading many rows is quicker, and leaves the file smaller, when the indexes of the ledger are made afterwards.
+/// Loading many rows is quicker, and leaves the file smaller, when the indexes of the ledger are made
+/// afterwards.
 class Without_Indexes {
  public:
   Without_Indexes(store::Database& db, bool worth_it) : db_(db) {

@@ -10,8 +10,9 @@ namespace tallymere {
 
 struct DemoOptions {
   std::string name = "Sample Company";
-  int years = 3;                        ///< of business, the last one ending today; at least 1
-  std::optional<int64_t> transactions = {};  ///< about this many over all years; empty: a small business's own pace
+  int years = 3;  ///< of business, the last one ending today; at least 1
+  std::optional<int64_t> transactions =
+      {};  ///< about this many over all years, at least 400 a year; empty: 1,250 a year
   uint32_t seed = 1;
   Date today;
 };

@@ -39,8 +39,8 @@ struct Posting {
   Money amount() const { return debit.is_zero() ? credit.abs() : debit.abs(); }
 };
 
-/// A transaction on its way to the ledger: what all its rows share, and the rows. It waits for a while, so that
-/// payments can still mark it.
+/// A transaction on its way to the ledger: what all its rows share, and the rows. It waits for a while, so
+/// that payments can still mark it.
 struct Document {
   int64_t number = 0;  ///< TransNum
   std::string_view type;

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "core/demo/words.h"
+
 namespace tallymere::demo {
 namespace {
 
@@ -17,9 +19,9 @@ constexpr int months_to_depreciate = 84;
 
 void General::Owner_Deposit(Money amount, std::string_view memo) {
   Document& deposit = books_.Open("Deposit");
-  const std::string_view bank = books_.chart.checking, owner = books_.chart.investment;
-  deposit.add({.account = bank, .category = owner, .debit = amount, .memo = "Deposit"});
-  deposit.add({.account = owner, .category = bank, .credit = amount, .memo = memo});
+  const std::string_view bank = books_.chart.checking, equity = books_.chart.investment;
+  deposit.add({.account = bank, .category = equity, .debit = amount, .memo = "Deposit"});
+  deposit.add({.account = equity, .category = bank, .credit = amount, .memo = memo});
   books_.Close(deposit);
 }
 
@@ -54,13 +56,17 @@ void General::Pay_Loan() {
   const std::string_view bank = chart.checking;
   Document& check = books_.Open_Check("Check", vendor.name, vendor.address);
   check.add({.account = bank, .category = break_down, .credit = loan_payment, .memo = "Vehicle loan"});
-  check.add({.account = chart.vehicle_loan, .category = bank, .debit = loan_payment - interest, .memo = "Principal"});
+  check.add({.account = chart.vehicle_loan,
+             .category = bank,
+             .debit = loan_payment - interest,
+             .memo = "Principal"});
   check.add({.account = chart.loan_interest, .category = bank, .debit = interest, .memo = "Interest"});
   loan_ -= loan_payment - interest;
   books_.Close(check);
 }
 
-// --- sales tax ----------------------------------------------------------------------------------------------
+// --- sales tax
+// ----------------------------------------------------------------------------------------------
 
 void General::Month_Has_Ended() {
   for (Tax& tax : taxes_) tax.due = books_.tax_owed(tax.item);
@@ -84,10 +90,11 @@ void General::Pay_Sales_Tax() {
   }
 }
 
-// --- stock and cash -----------------------------------------------------------------------------------------
+// --- stock and cash
+// -----------------------------------------------------------------------------------------
 
-/// More turns up than is missing: a count that comes out negative keeps its sign on the first row and leaves the two
-/// sides apart, which an example should not do.
+/// More turns up than is missing: a count that comes out negative keeps its sign on the first row and leaves
+/// the two sides apart, which an example should not do.
 void General::Count_Stock() {
   std::vector<Item*>& parts = books_.items.parts;
   Item& found = *books_.random.pick(parts);
@@ -117,26 +124,31 @@ void General::Count_Stock() {
   books_.Close(count);
 }
 
-void General::See_To_Cash() {
+void General::Borrow_If_Short() {
+  const Money least = books_.sized(least_cash);
+  if (books_.bank() >= least) return;
+  const Money amount = std::max(books_.sized(step_of_credit), least - books_.bank()).rounded_to_cents();
+  books_.Entry(books_.chart.checking, books_.chart.credit_line, amount, "Drawn on the line of credit");
+  borrowed_ += amount;
+}
+
+void General::Use_What_Is_Over() {
   const Chart& chart = books_.chart;
-  const Money least = books_.sized(least_cash), enough = books_.sized(comfortable);
-  if (books_.bank() < least) {
-    const Money step = books_.sized(step_of_credit), missing = least - books_.bank();
-    const Money amount = std::max(step, missing.rounded_to_cents());
-    books_.Entry(chart.checking, chart.credit_line, amount, "Drawn on the line of credit");
-    borrowed_ += amount;
-  } else if (books_.bank() > enough && borrowed_ > Money()) {
-    const Money amount = std::min(borrowed_, books_.bank() - enough);
+  const Money over = (books_.bank() - books_.sized(comfortable)).rounded_to_cents();
+  if (over <= Money()) return;
+  if (borrowed_ > Money()) {
+    const Money amount = std::min(borrowed_, over);
     books_.Entry(chart.credit_line, chart.checking, amount, "Line of credit repaid");
     borrowed_ -= amount;
-  } else if (books_.bank() > enough) {
-    const std::string_view bank = chart.checking;
-    const Money amount = (books_.bank() - enough).times(0.6).rounded_to_cents();
-    Document& check = books_.Open_Check("Check", "José Núñez (owner)", "");
-    check.add({.account = bank, .category = chart.draw, .credit = amount, .memo = "Owner's draw"});
-    check.add({.account = chart.draw, .category = bank, .debit = amount});
-    books_.Close(check);
+    return;
   }
+  const std::string_view bank = chart.checking;
+  const Money amount = over.times(0.6).rounded_to_cents();
+  if (amount.is_zero()) return;
+  Document& check = books_.Open_Check("Check", words::owner, "");
+  check.add({.account = bank, .category = chart.draw, .credit = amount, .memo = "Owner's draw"});
+  check.add({.account = chart.draw, .category = bank, .debit = amount});
+  books_.Close(check);
 }
 
 }  // namespace tallymere::demo

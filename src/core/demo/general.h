@@ -4,8 +4,8 @@
 
 namespace tallymere::demo {
 
-/// The entries that belong to no customer, vendor or employee: how the books begin, the end of each month, stock
-/// counts, sales tax, and the owner who sees to it that the bank neither runs dry nor fills up.
+/// The entries that belong to no customer, vendor or employee: how the books begin, the end of each month,
+/// stock counts, sales tax, and the owner who sees to it that the bank neither runs dry nor fills up.
 class General {
  public:
   explicit General(Books& books) : books_(books) {}
@@ -16,7 +16,8 @@ class General {
   void Pay_Sales_Tax();
   void Pay_Loan();
   void Count_Stock();
-  void See_To_Cash();
+  void Borrow_If_Short();
+  void Use_What_Is_Over();  ///< repays the bank first, then the owner draws
 
  private:
   void Owner_Deposit(Money amount, std::string_view memo);

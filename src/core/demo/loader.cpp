@@ -10,14 +10,52 @@ namespace {
 
 // The order of the columns in the statement; Write_Row fills them by these names.
 enum Column : int {
-  TransNum = 1, Type, Day, Number, Name, Address, ShippingAddress, Memo, Account, Category, Debit, Credit, Amount,
-  Class, Cleared, Paid, PaidBy, AmountReceived, SourceName, Item, ItemDescription, Qty, SalePrice, Taxable, Terms,
-  DueDate, PONum, ShipDate, FOB, Via, Rep, PayMethod, PaidThrough, SSNum, PayrollItem, PayPeriod, Hours, Last = Hours
+  TransNum = 1,
+  Type,
+  Day,
+  Number,
+  Name,
+  Address,
+  ShippingAddress,
+  Memo,
+  Account,
+  Category,
+  Debit,
+  Credit,
+  Amount,
+  Class,
+  Cleared,
+  Paid,
+  PaidBy,
+  AmountReceived,
+  SourceName,
+  Item,
+  ItemDescription,
+  Qty,
+  SalePrice,
+  Taxable,
+  Terms,
+  DueDate,
+  PONum,
+  ShipDate,
+  FOB,
+  Via,
+  Rep,
+  PayMethod,
+  PaidThrough,
+  SSNum,
+  PayrollItem,
+  PayPeriod,
+  Hours,
+  Last = Hours
 };
 constexpr std::string_view insert_head =
-    "INSERT INTO Transactions (TransNum, Type, Date, Number, Name, Address, ShippingAddress, Memo, Account, Category,"
-    " Debit, Credit, Amount, Class, Cleared, Paid, PaidBy, AmountReceived, SourceName, Item, ItemDescription, Qty,"
-    " SalePrice, Taxable, Terms, DueDate, PONum, ShipDate, FOB, Via, Rep, PayMethod, PaidThrough, SSNum, PayrollItem,"
+    "INSERT INTO Transactions (TransNum, Type, Date, Number, Name, Address, ShippingAddress, Memo, Account, "
+    "Category,"
+    " Debit, Credit, Amount, Class, Cleared, Paid, PaidBy, AmountReceived, SourceName, Item, "
+    "ItemDescription, Qty,"
+    " SalePrice, Taxable, Terms, DueDate, PONum, ShipDate, FOB, Via, Rep, PayMethod, PaidThrough, SSNum, "
+    "PayrollItem,"
     " PayPeriod, Hours) VALUES (?";
 
 constexpr int uncleared_days = 30;  // some checks reach the bank only with the next statement
@@ -115,8 +153,9 @@ void Loader::Write_Row(const Document& document, const Posting& row) {
   set.text_or(SourceName, row.source_name, document.source_name);
   set.flag(Cleared, Is_Cleared(document, row));
   if (document.keeps_received)
-    statement.bind(AmountReceived,
-                   document.received.is_zero() ? Money() : row.amount().share(document.received, document.total.abs()));
+    statement.bind(AmountReceived, document.received.is_zero()
+                                       ? Money()
+                                       : row.amount().share(document.received, document.total.abs()));
   statement.run();
 }
 

@@ -8,11 +8,12 @@
 
 namespace tallymere::demo {
 
-/// Takes documents in the order of their numbers and writes them in that order, each only when nothing can mark it
-/// any more: so no row is written twice, and only a few months of business are held in memory.
+/// Takes documents in the order of their numbers and writes them in that order, each only when nothing can
+/// mark it any more: so no row is written twice, and only a few months of business are held in memory.
 class Loader {
  public:
-  /// `reconciled` are the categories with bank statements, `through` the last day that a statement has covered.
+  /// `reconciled` are the categories with bank statements, `through` the last day that a statement has
+  /// covered.
   Loader(store::Database& db, std::vector<std::string_view> reconciled, Date through);
 
   Document& Add(Date date, std::string_view type);  ///< under the next number; stays valid until written

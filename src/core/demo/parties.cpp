@@ -29,7 +29,8 @@ std::string Unique(std::set<std::string>& taken, const std::string& name, Random
   if (taken.insert(name).second) return name;
   const std::string in_town = name + " of " + std::string(random.pick(words::places).city);
   std::string candidate = in_town;
-  for (int count = 2; !taken.insert(candidate).second; ++count) candidate = in_town + " " + std::to_string(count);
+  for (int count = 2; !taken.insert(candidate).second; ++count)
+    candidate = in_town + " " + std::to_string(count);
   return candidate;
 }
 
@@ -53,7 +54,8 @@ Form1099 Form_Of(const Parties& parties, const Vendor& vendor, const Chart& char
 
 std::string Street_And_Place(Random& random) {
   const auto& place = random.pick(words::places);
-  std::string street = std::to_string(random.between(10, 4900)) + " " + std::string(random.pick(words::streets));
+  std::string street =
+      std::to_string(random.between(10, 4900)) + " " + std::string(random.pick(words::streets));
   return street + "\r\n" + std::string(place.city) + ", IL " + std::string(place.zip);
 }
 
@@ -70,7 +72,8 @@ void Parties::Make_Customers(int count, Random& random) {
       const Customer& parent = random.pick(customers);
       customer.parent = parent.name;
       customer.address = parent.address;
-      customer.name = Unique(names_, parent.name + " - " + std::string(random.pick(words::job_names)), random);
+      customer.name =
+          Unique(names_, parent.name + " - " + std::string(random.pick(words::job_names)), random);
     } else {
       customer.name = Unique(names_, random.chance(55) ? Firm(random) : Person(random), random);
       customer.address = customer.name + "\r\n" + Street_And_Place(random);
@@ -97,7 +100,8 @@ void Parties::Make_Vendors(int count, Random& random) {
   for (int index = 0; index < made; ++index) {
     const bool supplier = index % 3 != 2;
     std::string name(random.pick(words::last_names));
-    name += " " + std::string(supplier ? random.pick(words::supplier_kinds) : random.pick(words::subcontractor_kinds));
+    name += " " + std::string(supplier ? random.pick(words::supplier_kinds)
+                                       : random.pick(words::subcontractor_kinds));
     Vendor& vendor = add(Unique(names_, name, random), random.pick(words::terms));
     (supplier ? suppliers : subcontractors).push_back(&vendor);
   }
@@ -110,17 +114,30 @@ const Vendor& Parties::vendor(std::string_view name) const {
 void Parties::Write(store::Database& db, const Chart& chart) const {
   for (const Customer& customer : customers)
     Add_Row(db, "Customers",
-            {{"Name", customer.name}, {"ParentName", customer.parent}, {"BillingAddress", customer.address},
-             {"ShippingAddress", customer.address}, {"Phone", Phone(customer.name)}, {"RepName", customer.rep},
-             {"Balance", Money()}, {"Dormant", false}});
+            {{"Name", customer.name},
+             {"ParentName", customer.parent},
+             {"BillingAddress", customer.address},
+             {"ShippingAddress", customer.address},
+             {"Phone", Phone(customer.name)},
+             {"RepName", customer.rep},
+             {"Balance", Money()},
+             {"Dormant", false}});
   for (const Vendor& vendor : vendors) {
     const Form1099 form = Form_Of(*this, vendor, chart);
     const bool eligible = !form.category.empty();
     Add_Row(db, "Vendors",
-            {{"Name", vendor.name}, {"CheckPrint", vendor.name}, {"ShippingAddress", vendor.address},
-             {"Phone", Phone(vendor.name)}, {"AccountNum", vendor.account_num}, {"Terms", vendor.term},
-             {"TaxID", eligible ? "36-55" + vendor.account_num : ""}, {"Eligible1099", eligible},
-             {"1099Cat", form.category}, {"1099MISC", eligible}, {"Boxes", form.box}, {"Balance", Money()},
+            {{"Name", vendor.name},
+             {"CheckPrint", vendor.name},
+             {"ShippingAddress", vendor.address},
+             {"Phone", Phone(vendor.name)},
+             {"AccountNum", vendor.account_num},
+             {"Terms", vendor.term},
+             {"TaxID", eligible ? "36-55" + vendor.account_num : ""},
+             {"Eligible1099", eligible},
+             {"1099Cat", form.category},
+             {"1099MISC", eligible},
+             {"Boxes", form.box},
+             {"Balance", Money()},
              {"Dormant", false}});
   }
 }
@@ -128,7 +145,8 @@ void Parties::Write(store::Database& db, const Chart& chart) const {
 void Write_Small_Lists(store::Database& db) {
   auto fill = [&db](std::string_view table, std::string_view field, const auto& names) {
     for (std::string_view name : names)
-      if (db.value("SELECT 1 FROM " + std::string(table) + " WHERE " + std::string(field) + " = ?", {name}).is_null())
+      if (db.value("SELECT 1 FROM " + std::string(table) + " WHERE " + std::string(field) + " = ?", {name})
+              .is_null())
         Add_Row(db, table, {{field, name}});
   };
   fill("Class", "Class", words::classes);

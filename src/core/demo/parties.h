@@ -46,7 +46,7 @@ inline constexpr std::string_view bookkeeper = "O'Malley & Léger, Accountants";
 /// Whom the company deals with. Nothing is added or removed once it is built: documents point into it.
 struct Parties {
   std::vector<Customer> customers;
-  std::vector<Vendor> vendors;          ///< agencies and overhead first
+  std::vector<Vendor> vendors;  ///< agencies and overhead first
   std::vector<Vendor*> suppliers, subcontractors;
 
   Parties(const Plan& plan, Random& random);

@@ -15,7 +15,9 @@ constexpr Money social_limit = Money::dollars(184500);
 constexpr Money federal_unemployment_limit = Money::dollars(7000);
 constexpr Money state_unemployment_limit = Money::dollars(14250);
 
-Money Cents_Of(Money base, double rate) { return base.times(rate).rounded_to_cents(); }
+Money Cents_Of(Money base, double rate) {
+  return base.times(rate).rounded_to_cents();
+}
 
 std::string Padded(Date day) {
   char text[16];
@@ -44,7 +46,8 @@ Money Payroll::Slip::net() const {
   return sum;
 }
 
-// --- paychecks ----------------------------------------------------------------------------------------------
+// --- paychecks
+// ----------------------------------------------------------------------------------------------
 
 void Payroll::Pay_If_Payday() {
   if (books_.day.weekday() != friday || days_between(books_.plan.first, books_.day) / 7 % 2 != 0) return;
@@ -136,19 +139,25 @@ void Payroll::Write_History(Date period_end) {
   for (const Employee& person : staff_.employees) {
     const bool paid = !person.released || *person.released >= books_.day;
     Add_Row(books_.db, "PayHistory",
-            {{"Employee", person.name}, {"PayPeriod", "BiWeekly"}, {"PayEndDate", period_end},
-             {"PayCheckDate", books_.day}, {"Paid", paid ? "Yes" : "No"}});
+            {{"Employee", person.name},
+             {"PayPeriod", "BiWeekly"},
+             {"PayEndDate", period_end},
+             {"PayCheckDate", books_.day},
+             {"Paid", paid ? "Yes" : "No"}});
   }
 }
 
-// --- what came before the books -----------------------------------------------------------------------------
+// --- what came before the books
+// -----------------------------------------------------------------------------
 
 void Payroll::Set_Up_Year() {
   const Date first = books_.plan.first;
   const int periods = std::max(1, days_between(Date(first.year(), 1, 1), first) / 14);
   for (Employee& person : staff_.employees) {
-    const Money earned = (person.salaried ? person.rate.times(1.0 / pay_periods) : person.rate.times(80)).times(periods);
-    const Money gross = earned.rounded_to_cents(), social = Cents_Of(gross, 0.062), medicare = Cents_Of(gross, 0.0145);
+    const Money earned =
+        (person.salaried ? person.rate.times(1.0 / pay_periods) : person.rate.times(80)).times(periods);
+    const Money gross = earned.rounded_to_cents(), social = Cents_Of(gross, 0.062),
+                medicare = Cents_Of(gross, 0.0145);
     Document& set_up = books_.Open("YTD Adjust");
     set_up.name = person.name;
     set_up.ss_num = person.ss_num;
@@ -165,9 +174,12 @@ void Payroll::Set_Up_Year() {
   }
 }
 
-// --- liabilities --------------------------------------------------------------------------------------------
+// --- liabilities
+// --------------------------------------------------------------------------------------------
 
-void Payroll::Month_Has_Ended() { due_ = owed_; }
+void Payroll::Month_Has_Ended() {
+  due_ = owed_;
+}
 
 void Payroll::Pay_Agencies(bool quarter) {
   std::vector<std::string> agencies;
@@ -213,8 +225,10 @@ void Payroll::Correct_Rate() {
   const Money amount = books_.between(20, 60);
   Document& adjustment = books_.Open("Liability Adjust");
   adjustment.memo = "Payroll Liability Adjustment";
-  adjustment.add({.account = item.liability, .category = break_down, .debit = amount, .payroll_item = item.name});
-  adjustment.add({.account = item.expense, .category = break_down, .credit = amount, .payroll_item = item.name});
+  adjustment.add(
+      {.account = item.liability, .category = break_down, .debit = amount, .payroll_item = item.name});
+  adjustment.add(
+      {.account = item.expense, .category = break_down, .credit = amount, .payroll_item = item.name});
   books_.Close(adjustment);
   books_.On(books_.day.plus_days(24), [this, &item, amount] {
     Document& refund = books_.Open("Liability Adjust");

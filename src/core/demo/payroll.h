@@ -12,11 +12,11 @@ class Payroll {
  public:
   explicit Payroll(Books& books);
 
-  void Set_Up_Year();       ///< what was paid this year before the books began
+  void Set_Up_Year();  ///< what was paid this year before the books began
   void Pay_If_Payday();
-  void Month_Has_Ended();   ///< what is owed up to now is what the next liability checks pay
+  void Month_Has_Ended();  ///< what is owed up to now is what the next liability checks pay
   void Pay_Agencies(bool quarter);
-  void Correct_Rate();      ///< a lower unemployment rate, and the refund that follows
+  void Correct_Rate();  ///< a lower unemployment rate, and the refund that follows
   void Write_Lists() { staff_.Write_Employees(books_.db); }
 
  private:

@@ -8,8 +8,8 @@ namespace {
 
 struct Definition {
   std::string_view name, type, tax_type, pay_style, pay_type, tracking;
-  std::string Chart::* expense;
-  std::string Chart::* liability;
+  std::string Chart::*expense;
+  std::string Chart::*liability;
   std::string_view agency, number, rate;
   int limit;  // dollars a year, 0 for none
   std::string_view tax_paid = "Employee Paid Tax";
@@ -18,21 +18,25 @@ struct Definition {
 constexpr std::array definitions = {
     Definition{pay_items::hourly, "Wage", "", "Regular", "Hourly", "", &Chart::wages, nullptr, "", "", "", 0},
     Definition{pay_items::salary, "Wage", "", "Regular", "Salary", "", &Chart::wages, nullptr, "", "", "", 0},
-    Definition{pay_items::overtime, "Wage", "", "Regular", "Hourly", "", &Chart::wages, nullptr, "", "", "", 0},
+    Definition{pay_items::overtime, "Wage", "", "Regular", "Hourly", "", &Chart::wages, nullptr, "", "", "",
+               0},
     Definition{pay_items::sick, "Wage", "", "Sick", "Hourly", "", &Chart::wages, nullptr, "", "", "", 0},
-    Definition{pay_items::vacation, "Wage", "", "Vacation", "Hourly", "", &Chart::wages, nullptr, "", "", "", 0},
+    Definition{pay_items::vacation, "Wage", "", "Vacation", "Hourly", "", &Chart::wages, nullptr, "", "", "",
+               0},
     Definition{pay_items::commission, "Commision", "", "", "", "", &Chart::wages, nullptr, "", "", "3%", 0},
-    Definition{pay_items::bonus, "Addition", "", "", "", "Compensation", &Chart::wages, nullptr, "", "", "", 0},
+    Definition{pay_items::bonus, "Addition", "", "", "", "Compensation", &Chart::wages, nullptr, "", "", "",
+               0},
     Definition{pay_items::retirement, "Deduction", "", "", "", "401(k)", nullptr, &Chart::deductions,
                retirement_plan, "PRS-20417", "4%", 24500},
     Definition{pay_items::health, "Deduction", "", "", "", "Fringe Benefits", nullptr, &Chart::deductions,
                health_plan, "HHP-5531", "85.00", 0},
     Definition{pay_items::match, "Company Contribution", "", "", "", "Fringe Benefits", &Chart::benefits,
                &Chart::deductions, retirement_plan, "PRS-20417", "2%", 0},
-    Definition{pay_items::state_tax, "State Tax", "State Withholding", "", "", "", nullptr, &Chart::state_withheld,
-               state_revenue, "3655-0142", "", 0},
-    Definition{pay_items::state_unemployment, "State Tax", "State Unemployment", "", "", "", &Chart::payroll_taxes,
-               &Chart::state_unemployment, state_employment, "48-11732", "", 14250, "Employer Paid Tax"},
+    Definition{pay_items::state_tax, "State Tax", "State Withholding", "", "", "", nullptr,
+               &Chart::state_withheld, state_revenue, "3655-0142", "", 0},
+    Definition{pay_items::state_unemployment, "State Tax", "State Unemployment", "", "", "",
+               &Chart::payroll_taxes, &Chart::state_unemployment, state_employment, "48-11732", "", 14250,
+               "Employer Paid Tax"},
     Definition{pay_items::training, "Other Tax", "", "", "", "Compensation", &Chart::payroll_taxes,
                &Chart::state_unemployment, state_employment, "48-11732", "0.1%", 14250, "Employer Paid Tax"},
 };
@@ -46,7 +50,9 @@ Names Names_Where(store::Database& db, std::string_view condition) {
   return names;
 }
 
-std::string Category_Of(const Chart& chart, std::string Chart::* member) { return member ? chart.*member : ""; }
+std::string Category_Of(const Chart& chart, std::string Chart::*member) {
+  return member ? chart.*member : "";
+}
 
 std::optional<Money> Limit_Of(const Definition& item) {
   return item.limit ? std::optional(Money::dollars(item.limit)) : std::nullopt;
@@ -57,13 +63,23 @@ void Write_Item(store::Database& db, const Chart& chart, const Definition& item)
   const bool adjusts = item.type == "Addition" || item.type == "Deduction";
   const bool unemployment = item.tax_type == "State Unemployment";
   Add_Row(db, "PayrollItems",
-          {{"Name", item.name}, {"Type", item.type}, {"TaxType", item.tax_type}, {"PayCal", adjusts ? "Gross" : ""},
-           {"PayStyle", item.pay_style}, {"PayType", item.pay_type}, {"TrackingType", item.tracking},
-           {"SState", state ? "IL" : ""}, {"LiabilityAcct", Category_Of(chart, item.liability)},
-           {"ExpenseAcct", Category_Of(chart, item.expense)}, {"LiabilityAgency", item.agency},
-           {"LiabilityNumber", item.number}, {"DefaultRate", item.rate},
+          {{"Name", item.name},
+           {"Type", item.type},
+           {"TaxType", item.tax_type},
+           {"PayCal", adjusts ? "Gross" : ""},
+           {"PayStyle", item.pay_style},
+           {"PayType", item.pay_type},
+           {"TrackingType", item.tracking},
+           {"SState", state ? "IL" : ""},
+           {"LiabilityAcct", Category_Of(chart, item.liability)},
+           {"ExpenseAcct", Category_Of(chart, item.expense)},
+           {"LiabilityAgency", item.agency},
+           {"LiabilityNumber", item.number},
+           {"DefaultRate", item.rate},
            {"DefaultLimit", Limit_Of(item)},
-           {"UnempTaxRate", unemployment ? "3.35%" : ""}, {"TaxPaid", item.tax_paid}, {"QuantityBased", false},
+           {"UnempTaxRate", unemployment ? "3.35%" : ""},
+           {"TaxPaid", item.tax_paid},
+           {"QuantityBased", false},
            {"FUTACredit", unemployment}});
 }
 
@@ -85,7 +101,8 @@ void Write_Ticks(store::Database& db) {
                {"DeducName", deduction},
                {"Selected", deduction == pay_items::retirement && Lowers(deduction, tax)}});
   }
-  for (const auto& item : Names_Where(db, "Type = 'Addition' OR Type = 'Deduction' OR Type = 'Company Contribution'"))
+  for (const auto& item :
+       Names_Where(db, "Type = 'Addition' OR Type = 'Deduction' OR Type = 'Company Contribution'"))
     for (const auto& tax : taxes) {
       const bool selected = item == pay_items::bonus || (item == pay_items::retirement && Lowers(item, tax));
       Add_Row(db, "PreTaxTable", {{"Name", item}, {"TaxName", tax}, {"Selected", selected}});

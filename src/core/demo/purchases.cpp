@@ -14,7 +14,7 @@ enum class By { Bill, Check };
 /// What comes every month, or every third.
 struct Overhead {
   std::string_view vendor;
-  std::string Chart::* category;
+  std::string Chart::*category;
   int low, high;  // dollars
   unsigned day;
   By by;
@@ -29,20 +29,22 @@ constexpr std::array overheads = {
     Overhead{water_company, &Chart::water, 45, 90, 12, By::Bill, false, "Water and sewer"},
     Overhead{insurer, &Chart::liability_insurance, 640, 640, 14, By::Bill, true, "Liability insurance"},
     Overhead{insurer, &Chart::workers_insurance, 480, 620, 14, By::Bill, true, "Workers' compensation"},
+    Overhead{insurer, &Chart::property_insurance, 310, 310, 14, By::Bill, true, "Property insurance"},
+    Overhead{insurer, &Chart::vehicle_insurance, 540, 540, 21, By::Bill, true, "Vehicle insurance"},
     Overhead{bookkeeper, &Chart::accounting, 250, 350, 20, By::Bill, false, "Bookkeeping"},
 };
 
 struct Small_Expense {
-  std::string Chart::* category;
+  std::string Chart::*category;
   int low, high;
 };
 constexpr std::array counter_purchases = {
-    Small_Expense{&Chart::office, 15, 120},    Small_Expense{&Chart::tools, 30, 260},
-    Small_Expense{&Chart::repairs, 90, 640},   Small_Expense{&Chart::postage, 12, 60},
+    Small_Expense{&Chart::office, 15, 120},      Small_Expense{&Chart::tools, 30, 260},
+    Small_Expense{&Chart::repairs, 90, 640},     Small_Expense{&Chart::postage, 12, 60},
     Small_Expense{&Chart::maintenance, 60, 350}, Small_Expense{&Chart::licenses, 35, 150},
     Small_Expense{&Chart::advertising, 80, 420}};
 constexpr std::array card_purchases = {
-    Small_Expense{&Chart::fuel, 35, 140},    Small_Expense{&Chart::meals, 14, 85},
+    Small_Expense{&Chart::fuel, 35, 140}, Small_Expense{&Chart::meals, 14, 85},
     Small_Expense{&Chart::computer, 20, 160}, Small_Expense{&Chart::travel, 60, 480},
     Small_Expense{&Chart::dues, 25, 120}};
 
@@ -60,9 +62,12 @@ std::string Bill_Number(Random& random) {
 
 }  // namespace
 
-std::string_view Purchases::class_name() { return books_.random.chance(60) ? books_.random.pick(words::classes) : ""; }
+std::string_view Purchases::class_name() {
+  return books_.random.chance(60) ? books_.random.pick(words::classes) : "";
+}
 
-// --- bills --------------------------------------------------------------------------------------------------
+// --- bills
+// --------------------------------------------------------------------------------------------------
 
 Document& Purchases::Open_Bill(std::string_view type, const Vendor& vendor) {
   Document& bill = books_.Open(type);
@@ -98,13 +103,21 @@ void Purchases::Monthly_Overhead() {
       const std::string_view bank = books_.chart.checking;
       Document& check = books_.Open_Check("Check", vendor.name, vendor.address);
       check.add({.account = bank, .category = category, .credit = amount, .memo = overhead.memo});
-      check.add({.account = category, .category = bank, .debit = amount, .memo = overhead.memo, .class_name = "Office"});
+      check.add({.account = category,
+                 .category = bank,
+                 .debit = amount,
+                 .memo = overhead.memo,
+                 .class_name = "Office"});
       check_template_ = check.number, check_amount_ = amount;
       books_.Close(check);
       continue;
     }
     Document& bill = Open_Bill("Bill", vendor);
-    bill.add({.account = category, .category = payable, .debit = amount, .memo = overhead.memo, .class_name = "Office"});
+    bill.add({.account = category,
+              .category = payable,
+              .debit = amount,
+              .memo = overhead.memo,
+              .class_name = "Office"});
     Close_Bill(bill, overhead.memo);
     if (overhead.category == &Chart::telephone) bill_template_ = bill.number, bill_amount_ = amount;
   }
@@ -126,7 +139,10 @@ void Purchases::Supplier_Bill() {
               .source_name = random.chance(50) ? std::string_view(job.name) : ""});
   }
   if (!labor && random.chance(35))
-    bill.add({.account = books_.chart.freight, .category = payable, .debit = books_.between(18, 85), .memo = "Freight"});
+    bill.add({.account = books_.chart.freight,
+              .category = payable,
+              .debit = books_.between(18, 85),
+              .memo = "Freight"});
   Close_Bill(bill);
 }
 
@@ -139,7 +155,8 @@ void Purchases::Vendor_Credit() {
   Close_Bill(credit, "Returned material");
 }
 
-// --- stock --------------------------------------------------------------------------------------------------
+// --- stock
+// --------------------------------------------------------------------------------------------------
 
 void Purchases::Reorder_Stock() {
   constexpr int orders_a_day = 3;
@@ -160,11 +177,20 @@ void Purchases::Order_Part(Item& part) {
   const int number = next_order_++;
   const bool on_the_way = books_.recent(6);
   Add_Row(books_.db, "POItems",
-          {{"POIndex", number}, {"Item", part.name}, {"Description", part.purchase_description}, {"Qty", qty},
-           {"Rate", part.cost}, {"Amount", amount}});
+          {{"POIndex", number},
+           {"Item", part.name},
+           {"Description", part.purchase_description},
+           {"Qty", qty},
+           {"Rate", part.cost},
+           {"Amount", amount}});
   Add_Row(books_.db, "POs",
-          {{"Index", number}, {"Open", on_the_way}, {"Vendor", vendor.name}, {"VendorAddress", vendor.address},
-           {"PONumber", std::to_string(number)}, {"Date", books_.day}, {"Total", amount}});
+          {{"Index", number},
+           {"Open", on_the_way},
+           {"Vendor", vendor.name},
+           {"VendorAddress", vendor.address},
+           {"PONumber", std::to_string(number)},
+           {"Date", books_.day},
+           {"Total", amount}});
   part.stock += qty;  // a day-to-day business sells from what comes in
   const bool receipt_first = books_.recent(21) || books_.random.chance(40);
   Document& bill = Open_Bill(receipt_first ? "Item Receipt" : "Bill", vendor);
@@ -183,13 +209,15 @@ void Purchases::Order_Part(Item& part) {
   });
 }
 
-// --- paying -------------------------------------------------------------------------------------------------
+// --- paying
+// -------------------------------------------------------------------------------------------------
 
 std::vector<Purchases::Due> Purchases::Due_Bills(Date until) {
   std::vector<Due> due;
   for (Document* bill : unpaid_) {
     if (bill->due > until) continue;
-    auto found = std::ranges::find(due, bill->name, [](const Due& d) { return std::string_view(d.vendor->name); });
+    auto found =
+        std::ranges::find(due, bill->name, [](const Due& d) { return std::string_view(d.vendor->name); });
     if (found == due.end()) found = due.insert(due.end(), {&books_.parties.vendor(bill->name), {}});
     found->bills.push_back(bill);
   }
@@ -233,7 +261,8 @@ void Purchases::Pay_Twice() {
   });
 }
 
-// --- checks and the card ------------------------------------------------------------------------------------
+// --- checks and the card
+// ------------------------------------------------------------------------------------
 
 void Purchases::Expense_Check() {
   Random& random = books_.random;
@@ -246,7 +275,10 @@ void Purchases::Expense_Check() {
   for (int line = 0; line < lines; ++line) {
     const Small_Expense& expense = random.pick(counter_purchases);
     const Money amount = books_.between(expense.low, expense.high);
-    check.add({.account = books_.chart.*expense.category, .category = bank, .debit = amount, .class_name = class_name()});
+    check.add({.account = books_.chart.*expense.category,
+               .category = bank,
+               .debit = amount,
+               .class_name = class_name()});
     check.total += amount;
   }
   check.rows[0].credit = check.total;
@@ -273,7 +305,8 @@ void Purchases::Item_Check() {
   books_.Close(check);
 }
 
-void Purchases::Card_Entry(std::string_view category, Money amount, std::string_view name, std::string_view memo) {
+void Purchases::Card_Entry(std::string_view category, Money amount, std::string_view name,
+                           std::string_view memo) {
   Document& charge = books_.Open("Ledger Entry");
   charge.name = name;
   charge.memo = memo;

@@ -6,20 +6,21 @@
 
 namespace tallymere::demo {
 
-/// What the company owes and buys: bills, receipts, credits, purchase orders, bill payments, plain checks, the card.
+/// What the company owes and buys: bills, receipts, credits, purchase orders, bill payments, plain checks,
+/// the card.
 class Purchases {
  public:
   explicit Purchases(Books& books) : books_(books) {}
 
-  void Monthly_Overhead();       ///< on each workday: what falls due on it
-  void Supplier_Bill();          ///< materials or a subcontractor, by bill
-  void Expense_Check();
-  void Item_Check();             ///< a check on its Items tab
+  void Monthly_Overhead();  ///< on each workday: what falls due on it
+  void Supplier_Bill();     ///< materials or a subcontractor, by bill
+  void Expense_Check();     ///< one for what is bought over the counter
+  void Item_Check();        ///< a check on its Items tab
   void Card_Charge();
   void Vendor_Credit();
-  void Reorder_Stock();          ///< parts that run low: order, receipt, bill
-  void Order_Ahead();            ///< the part of which there is least
-  void Pay_Bills();              ///< all that fall due within a week, one payment per vendor
+  void Reorder_Stock();  ///< parts that run low: order, receipt, bill
+  void Order_Ahead();    ///< the part of which there is least
+  void Pay_Bills();      ///< all that fall due within a week, one payment per vendor
   void Pay_Card();
   /// Two users pay one bill; the vendor sends the second payment back.
   void Pay_Twice();

@@ -6,7 +6,8 @@
 
 namespace tallymere::demo {
 
-/// xoshiro256** seeded through splitmix64: the same figures from the same seed with every compiler and library.
+/// xoshiro256** seeded through splitmix64: the same figures from the same seed with every compiler and
+/// library.
 class Random {
  public:
   explicit Random(uint32_t seed) {
@@ -27,9 +28,7 @@ class Random {
   }
 
   /// 0 to count - 1.
-  int below(int count) {
-    return static_cast<int>(((next() >> 32) * static_cast<uint64_t>(count)) >> 32);
-  }
+  int below(int count) { return static_cast<int>(((next() >> 32) * static_cast<uint64_t>(count)) >> 32); }
   int between(int low, int high) { return low + below(high - low + 1); }
   bool chance(int percent) { return below(100) < percent; }
 

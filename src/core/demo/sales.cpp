@@ -8,7 +8,9 @@
 namespace tallymere::demo {
 namespace {
 
-Line Line_Of(const Item& item, double qty) { return {&item, qty, item.price.times(qty), item.taxable}; }
+Line Line_Of(const Item& item, double qty) {
+  return {&item, qty, item.price.times(qty), item.taxable};
+}
 
 /// Rounded to cents with a nudge of a tenth of a cent, as the invoice reckons its tax lines.
 Money Tax_On(Money taxable, Money rate) {
@@ -46,7 +48,8 @@ std::vector<Line> Sales::Make_Lines() {
 
 void Sales::Add_Service(std::vector<Line>& lines) {
   const Item& item = *books_.random.pick(books_.items.services);
-  lines.push_back(Line_Of(item, books_.plan.bulk ? books_.random.between(1, 5) : books_.random.between(4, 20)));
+  lines.push_back(
+      Line_Of(item, books_.plan.bulk ? books_.random.between(1, 5) : books_.random.between(4, 20)));
 }
 
 void Sales::Add_Goods(std::vector<Line>& lines) {
@@ -147,18 +150,21 @@ void Sales::Credit_Memo() {
   Write_Invoice(customer, {line});
 }
 
-// --- payments -----------------------------------------------------------------------------------------------
+// --- payments
+// -----------------------------------------------------------------------------------------------
 
 void Sales::Plan_Payment(Customer& customer, Document& invoice) {
   customer.open.push_back(&invoice);
   const int days = std::clamp(customer.days + customer.habit + books_.random.between(-3, 3), 0, 100);
   const bool in_parts = invoice.total > Money::dollars(200) && books_.random.chance(10);
   if (!in_parts) {
-    books_.On(books_.day.plus_days(days), [this, &customer, &invoice] { Receive(customer, invoice, invoice.open()); });
+    books_.On(books_.day.plus_days(days),
+              [this, &customer, &invoice] { Receive(customer, invoice, invoice.open()); });
     return;
   }
   const Money half = invoice.total.times(0.4).rounded_to_cents();
-  books_.On(books_.day.plus_days(days), [this, &customer, &invoice, half] { Receive(customer, invoice, half); });
+  books_.On(books_.day.plus_days(days),
+            [this, &customer, &invoice, half] { Receive(customer, invoice, half); });
   books_.On(books_.day.plus_days(days + 18),
             [this, &customer, &invoice] { Receive(customer, invoice, invoice.open()); });
 }
@@ -231,7 +237,8 @@ void Sales::Write_Deposit(std::span<Document* const> payments) {
   books_.Close(deposit);
 }
 
-// --- finance charges ----------------------------------------------------------------------------------------
+// --- finance charges
+// ----------------------------------------------------------------------------------------
 
 /// As the customer list shows it: invoices less payments, finance charges left out.
 Money Sales::Balance_Of(const Customer& customer) const {
@@ -252,15 +259,17 @@ void Sales::Charge_Late_Customers() {
     if (!late) continue;
     if (most-- == 0) return;
     const Money balance = Balance_Of(customer);
-    double charge = 0;
+    Money charge;
     for (const Document* invoice : customer.open)
       if (invoice->type == "Invoice")
-        charge += (balance - invoice->received).to_double() * yearly_rate / 365 * days_between(invoice->date, books_.day);
+        charge += (balance - invoice->received)
+                      .times(yearly_rate * days_between(invoice->date, books_.day))
+                      .share(Money::dollars(1), Money::dollars(365));
     Document& statement = books_.Open("Statement");
     statement.name = customer.name;
     statement.memo = "Finanace Charge";
     statement.keeps_received = true;
-    statement.total = Money::from_double(charge).rounded_to_cents();
+    statement.total = charge.rounded_to_cents();
     const std::string_view income = books_.chart.finance;
     statement.add({.account = receivable, .category = income, .debit = statement.total});
     statement.add({.account = income, .category = receivable, .credit = statement.total});
@@ -271,7 +280,8 @@ void Sales::Charge_Late_Customers() {
   }
 }
 
-// --- papers that do not post --------------------------------------------------------------------------------
+// --- papers that do not post
+// --------------------------------------------------------------------------------
 
 void Sales::Estimate() {
   const Customer& customer = books_.random.pick(books_.parties.customers);
@@ -279,15 +289,24 @@ void Sales::Estimate() {
   const Item& good = *books_.random.pick(books_.items.goods);
   const int number = next_estimate_++;
   Money total;
-  for (const Line& line : {Line_Of(service, books_.random.between(8, 60)), Line_Of(good, books_.random.between(5, 40))}) {
+  for (const Line& line :
+       {Line_Of(service, books_.random.between(8, 60)), Line_Of(good, books_.random.between(5, 40))}) {
     total += *line.amount;
     Add_Row(books_.db, "EstItems",
-            {{"EstimateIndex", number}, {"Item", line.item->name}, {"Description", line.item->description},
-             {"Qty", *line.qty}, {"Rate", line.item->price}, {"Amount", *line.amount}});
+            {{"EstimateIndex", number},
+             {"Item", line.item->name},
+             {"Description", line.item->description},
+             {"Qty", *line.qty},
+             {"Rate", line.item->price},
+             {"Amount", *line.amount}});
   }
   Add_Row(books_.db, "Estimates",
-          {{"Index", number}, {"Open", books_.recent(30)}, {"Customer", customer.name},
-           {"CustomerAddress", customer.address}, {"EstimateNumber", std::to_string(number)}, {"Date", books_.day},
+          {{"Index", number},
+           {"Open", books_.recent(30)},
+           {"Customer", customer.name},
+           {"CustomerAddress", customer.address},
+           {"EstimateNumber", std::to_string(number)},
+           {"Date", books_.day},
            {"Total", total}});
 }
 
@@ -296,11 +315,19 @@ void Sales::Package_Slip() {
   const int number = next_slip_++;
   const Line line = Line_Of(*books_.random.pick(books_.items.parts), books_.random.between(1, 4));
   Add_Row(books_.db, "PSlipItems",
-          {{"POIndex", number}, {"Item", line.item->name}, {"Description", line.item->description}, {"Qty", *line.qty},
-           {"Rate", line.item->price}, {"Amount", *line.amount}});
+          {{"POIndex", number},
+           {"Item", line.item->name},
+           {"Description", line.item->description},
+           {"Qty", *line.qty},
+           {"Rate", line.item->price},
+           {"Amount", *line.amount}});
   Add_Row(books_.db, "PSlips",
-          {{"Index", number}, {"Open", books_.recent(30)}, {"Vendor", customer.name},
-           {"VendorAddress", customer.address}, {"PONumber", std::to_string(number)}, {"Date", books_.day},
+          {{"Index", number},
+           {"Open", books_.recent(30)},
+           {"Vendor", customer.name},
+           {"VendorAddress", customer.address},
+           {"PONumber", std::to_string(number)},
+           {"Date", books_.day},
            {"Total", *line.amount}});
 }
 

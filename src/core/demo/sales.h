@@ -14,7 +14,8 @@ struct Line {
   bool taxable = false;
 };
 
-/// What customers are told they owe and what they pay: invoices, credit memos, payments, deposits, finance charges.
+/// What customers are told they owe and what they pay: invoices, credit memos, payments, deposits, finance
+/// charges.
 class Sales {
  public:
   explicit Sales(Books& books) : books_(books) {}
@@ -23,8 +24,8 @@ class Sales {
   void Credit_Memo();
   void Estimate();
   void Package_Slip();
-  void Deposit_Waiting();      ///< what lies in Undeposited Funds goes to the bank
-  void Leave_A_Check();        ///< somebody pays by check if nothing waits for a deposit
+  void Deposit_Waiting();  ///< what lies in Undeposited Funds goes to the bank
+  void Leave_A_Check();    ///< somebody pays by check if nothing waits for a deposit
   void Charge_Late_Customers();
   int64_t repeat_template() const { return repeat_template_; }  ///< an invoice worth repeating
   Money repeat_amount() const { return repeat_amount_; }

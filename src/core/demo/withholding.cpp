@@ -7,27 +7,41 @@ namespace tallymere::demo {
 namespace {
 
 struct Bracket {
-  int over;  // dollars a year
-  double base, rate;
+  Money over, base;  // a year
+  double rate;
 };
-constexpr std::array<Bracket, 5> single = {
-    {{7500, 0, 0.10}, {19900, 1240, 0.12}, {57900, 5800, 0.22}, {113200, 17966, 0.24}, {209275, 41024, 0.32}}};
-constexpr std::array<Bracket, 5> joint = {
-    {{19300, 0, 0.10}, {44100, 2480, 0.12}, {120100, 11600, 0.22}, {230700, 35932, 0.24}, {422850, 82048, 0.32}}};
+constexpr Money D(int dollars) {
+  return Money::dollars(dollars);
+}
+constexpr std::array<Bracket, 5> single = {{{D(7500), D(0), 0.10},
+                                            {D(19900), D(1240), 0.12},
+                                            {D(57900), D(5800), 0.22},
+                                            {D(113200), D(17966), 0.24},
+                                            {D(209275), D(41024), 0.32}}};
+constexpr std::array<Bracket, 5> joint = {{{D(19300), D(0), 0.10},
+                                           {D(44100), D(2480), 0.12},
+                                           {D(120100), D(11600), 0.22},
+                                           {D(230700), D(35932), 0.24},
+                                           {D(422850), D(82048), 0.32}}};
+
+Money Per_Period(Money a_year) {
+  return a_year.share(Money::dollars(1), Money::dollars(pay_periods));
+}
 
 }  // namespace
 
+// All in decimal amounts: a sum of doubles may differ from one machine to the next.
 Money Federal_Withholding(Money taxable, bool married, int allowances) {
-  const double wage = taxable.to_double() * pay_periods - 4300.0 * allowances;
-  double tax = 0;
+  const Money wage = taxable.times(pay_periods) - D(4300 * allowances);
+  Money tax;
   for (const Bracket& bracket : married ? joint : single)
-    if (wage > bracket.over) tax = bracket.base + (wage - bracket.over) * bracket.rate;
-  return Money::from_double(tax / pay_periods).rounded_to_cents();
+    if (wage > bracket.over) tax = bracket.base + (wage - bracket.over).times(bracket.rate);
+  return Per_Period(tax).rounded_to_cents();
 }
 
 Money Illinois_Withholding(Money taxable, int allowances) {
-  const double over = taxable.to_double() - 2925.0 * allowances / pay_periods;
-  return Money::from_double(std::max(over, 0.0) * 0.0495).rounded_to_cents();
+  const Money over = taxable - Per_Period(D(2925 * allowances));
+  return std::max(over, Money()).times(0.0495).rounded_to_cents();
 }
 
 Money Under_Limit(Money gross, Money year_gross, Money limit) {
