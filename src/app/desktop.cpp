@@ -30,15 +30,20 @@ class ArrowPointer {
 
 QMessageBox::Icon icon_of(Icon icon) {
   switch (icon) {
-    case Icon::Information: return QMessageBox::Information;
-    case Icon::Question: return QMessageBox::Question;
-    case Icon::Critical: return QMessageBox::Critical;
-    case Icon::None: break;
+    case Icon::Information:
+      return QMessageBox::Information;
+    case Icon::Question:
+      return QMessageBox::Question;
+    case Icon::Critical:
+      return QMessageBox::Critical;
+    case Icon::None:
+      break;
   }
   return QMessageBox::NoIcon;
 }
 
-int run_box(QWidget* above, const Box& box, QMessageBox::StandardButtons buttons, QMessageBox::StandardButton usual) {
+int run_box(QWidget* above, const Box& box, QMessageBox::StandardButtons buttons,
+            QMessageBox::StandardButton usual) {
   const ArrowPointer arrow;
   QString text = qt(box.text);
   text.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
@@ -59,7 +64,14 @@ QString filter_of(const std::string& filter) {
   return filters.join(QStringLiteral(";;"));
 }
 
-bool is_file_work(const std::string& label) { return label == "Backup" || label == "Restore"; }
+/// "cbk" of "Backup Files (*.cbk)|*.cbk".
+QString suffix_of(const std::string& filter) {
+  return qt(filter).section(QStringLiteral("*."), -1);
+}
+
+bool is_file_work(const std::string& label) {
+  return label == "Backup" || label == "Restore";
+}
 
 }  // namespace
 
@@ -74,7 +86,9 @@ QWidget* DesktopPrompts::above() const {
   return active ? active : frame_.data();
 }
 
-void DesktopPrompts::box(const Box& box) { run_box(above(), box, QMessageBox::Ok, QMessageBox::Ok); }
+void DesktopPrompts::box(const Box& box) {
+  run_box(above(), box, QMessageBox::Ok, QMessageBox::Ok);
+}
 
 bool DesktopPrompts::ask(const Box& box, Buttons buttons) {
   const auto usual = buttons == Buttons::YesNoDefaultNo ? QMessageBox::No : QMessageBox::Yes;
@@ -97,11 +111,14 @@ std::string DesktopPrompts::open_file(const std::string& filter, const std::stri
 std::string DesktopPrompts::save_file(const std::string& filter, const std::string& name) {
   const ArrowPointer arrow;
   const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-  return utf8(QFileDialog::getSaveFileName(above(), QStringLiteral("Save As"),
-                                           folder + QLatin1Char('/') + qt(name), filter_of(filter)));
+  QFileDialog dialog(above(), QStringLiteral("Save As"), folder, filter_of(filter));
+  dialog.setAcceptMode(QFileDialog::AcceptSave);
+  dialog.setDefaultSuffix(suffix_of(filter));  // so that the question about replacing names the right file
+  dialog.selectFile(qt(name).replace(QLatin1Char('/'), QLatin1Char('-')));
+  return dialog.exec() == QDialog::Accepted ? utf8(dialog.selectedFiles().value(0)) : std::string();
 }
 
-// --- progress ------------------------------------------------------------------------------------------------
+// --- progress ------------------------------------------------------------------------------------
 
 bool DesktopPrompts::progress(const std::string& label, int64_t done, int64_t total) {
   if (!shell_) return true;
@@ -148,9 +165,11 @@ void DesktopPrompts::hourglass(bool on) {
   on ? QApplication::setOverrideCursor(Qt::WaitCursor) : QApplication::restoreOverrideCursor();
 }
 
-void DesktopPrompts::sound(const std::string& file) { Play_Sound(sounds_, file); }
+void DesktopPrompts::sound(const std::string& file) {
+  Play_Sound(sounds_, file);
+}
 
-// --- the program ---------------------------------------------------------------------------------------------
+// --- the program ---------------------------------------------------------------------------------
 
 void Prepare_Application(QApplication& app) {
   QApplication::setOrganizationName(QStringLiteral("Quillbrook Software"));

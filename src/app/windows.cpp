@@ -10,6 +10,8 @@ const WindowTable& Windows() {
   return windows;
 }
 
-std::unique_ptr<frmMain> Make_Frame(Session& session) { return std::make_unique<frmMain>(session, Windows()); }
+std::unique_ptr<frmMain> Make_Frame(Session& session) {
+  return std::make_unique<frmMain>(session, Windows());
+}
 
 }  // namespace tallymere

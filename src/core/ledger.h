@@ -31,6 +31,9 @@ std::string SubAccount_Clause(const CategoryTree& tree, std::string_view parent)
 /// The AccountName of a CatID; "<-Break Down->" as it stands, "" for what is no category.
 std::string Category_Name(Session& session, const std::string& id);
 
+/// The lowest number from 0 upward that followed by "SS" is no category's CatID yet.
+std::string Unused_CatID(store::Database& db);
+
 /// The category that a posting to `id` goes to: `id` itself when it has no children, else its " - Other"
 /// child, which is made on first use. Inside a save the new child belongs to the same store transaction.
 /// Error 3021 when `id` has children but no row of its own.

@@ -4,7 +4,8 @@
 
 namespace tallymere {
 
-/// What frmStart and frmCreate ask of the frame: the ways a company becomes current. Each is true when one did.
+/// What frmStart and frmCreate ask of the frame: the ways a company becomes current. Each is true when one
+/// did.
 class CompanyCommands {
  public:
   virtual ~CompanyCommands() = default;

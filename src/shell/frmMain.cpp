@@ -2,6 +2,7 @@
 
 #include <QAction>
 #include <QActionGroup>
+#include <QApplication>
 #include <QCloseEvent>
 #include <QLabel>
 #include <QMdiArea>
@@ -27,7 +28,9 @@ namespace tallymere {
 
 namespace {
 
-QString text_of(std::string_view text) { return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())); }
+QString text_of(std::string_view text) {
+  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
 
 /// "Company &Info...." as a sentence names it.
 QString plain(std::string_view caption) {
@@ -56,17 +59,20 @@ bool is_submenu(std::string_view name) {
 
 /// A colour as the company keeps it: red + 256 * green + 65536 * blue.
 QColor stored_color(int64_t value) {
-  return QColor(static_cast<int>(value & 255), static_cast<int>(value >> 8 & 255), static_cast<int>(value >> 16 & 255));
+  return QColor(static_cast<int>(value & 255), static_cast<int>(value >> 8 & 255),
+                static_cast<int>(value >> 16 & 255));
 }
 
 /// A light background chosen by day is turned to its dark counterpart on a dark desktop.
 QColor suited_to_scheme(const QColor& color) {
   if (!theme::is_dark() || color.lightness() < 128) return color;
-  return QColor::fromHsl(std::max(0, color.hslHue()), color.hslSaturation() / 2, std::max(26, 255 - color.lightness()));
+  return QColor::fromHsl(std::max(0, color.hslHue()), color.hslSaturation() / 2,
+                         std::max(26, 255 - color.lightness()));
 }
 
-constexpr std::string_view company_menus[] = {"mnuAction",  "mnuOptions", "mnuWindow", "mnuReports", "mnuBackup",
-                                              "mnuRestore", "mnuCompany", "mnuImport", "mnuFile"};
+constexpr std::string_view company_menus[] = {"mnuAction",  "mnuOptions", "mnuWindow",
+                                              "mnuReports", "mnuBackup",  "mnuRestore",
+                                              "mnuCompany", "mnuImport",  "mnuFile"};
 constexpr std::string_view single_user_menus[] = {"mnuRestore", "mnuCompany"};
 
 bool is_single_user_menu(std::string_view name) {
@@ -114,7 +120,7 @@ bool frmMain::guard(const std::string& procedure, const Work& work) {
   }
 }
 
-// --- menus, toolbar, status bar -----------------------------------------------------------------------------
+// --- menus, toolbar, status bar ------------------------------------------------------------------
 
 void frmMain::build_menus() {
   std::map<std::string_view, QMenu*> menus;
@@ -151,6 +157,10 @@ void frmMain::build_toolbar() {
   Toolbar1->setIconSize(QSize(24, 24));
   Toolbar1->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
   for (const ToolRow& row : Toolbar_Table()) {
+    if (row.caption == Separator) {
+      Toolbar1->addSeparator()->setObjectName(text_of(row.name));
+      continue;
+    }
     QAction* action = Toolbar1->addAction(Line_Icon(QString::fromLatin1(row.icon)), text_of(row.caption));
     action->setObjectName(text_of(row.name));
     connect(action, &QAction::triggered, this, [this, name = std::string(row.name)] { run_command(name); });
@@ -183,7 +193,8 @@ void frmMain::fill_window_menu() {
   int number = 0;
   for (Form* form : forms_) {
     const QString mnemonic = ++number < 10 ? QStringLiteral("&%1 ").arg(number) : QString();
-    QAction* action = menu->addAction(mnemonic + form->caption().replace(QLatin1Char('&'), QStringLiteral("&&")));
+    QAction* action =
+        menu->addAction(mnemonic + form->caption().replace(QLatin1Char('&'), QStringLiteral("&&")));
     action->setCheckable(true);
     action->setChecked(form->isActiveWindow() || form->parentWidget() == mdi_->activeSubWindow());
     group->addAction(action);
@@ -191,7 +202,7 @@ void frmMain::fill_window_menu() {
   }
 }
 
-// --- which commands can be used -----------------------------------------------------------------------------
+// --- which commands can be used ------------------------------------------------------------------
 
 QAction* frmMain::command(std::string_view name) const {
   const auto found = commands_.find(name);
@@ -236,7 +247,8 @@ void frmMain::refresh_command(const std::string& name, QAction* action) {
     there = tool->window.empty() || has_window(std::string(tool->window));
     wants_company = true;
   }
-  const QString missing = QStringLiteral("%1 is not part of this version yet.").arg(plain(utf8(action->text())));
+  const QString missing =
+      QStringLiteral("%1 is not part of this version yet.").arg(plain(utf8(action->text())));
   action->setStatusTip(there ? QString() : missing);
   action->setToolTip(there ? QString(action->text()).remove(QLatin1Char('&')) : missing);
   action->setVisible(!hidden_[name]);
@@ -255,7 +267,7 @@ void frmMain::Disable_Menus() {
   refresh_commands();
 }
 
-// --- how the frame looks --------------------------------------------------------------------------------------
+// --- how the frame looks -------------------------------------------------------------------------
 
 void frmMain::show_title() {
   setWindowTitle(qt(Main_Title(session)));
@@ -279,15 +291,18 @@ void frmMain::show_background() {
   for (const auto& shortcut : session.company_open() ? Company_Shortcuts() : Start_Shortcuts())
     if (is_available(shortcut.command) || !session.company_open()) usable.push_back(shortcut);
   const QString name = session.company_open() ? company_label_->text() : QStringLiteral("Tallymere");
-  const QString line = session.company_open() ? QLocale(QLocale::English).toString(
-                                                    QDate::fromString(qt(session.today().to_iso()), Qt::ISODate),
-                                                    QStringLiteral("dddd, MMMM d, yyyy"))
-                                              : QStringLiteral("No company is open.");
+  const QString line = session.company_open()
+                           ? QLocale(QLocale::English)
+                                 .toString(QDate::fromString(qt(session.today().to_iso()), Qt::ISODate),
+                                           QStringLiteral("dddd, MMMM d, yyyy"))
+                           : QStringLiteral("No company is open.");
   panel_->show_company(name, line, usable);
 }
 
-/// Once per company, a moment after it came up.
+/// Once per company, a moment after it came up; never in the middle of what a box or a progress window is
+/// about.
 void frmMain::Timer1_Timer() {
+  if (QApplication::activeModalWidget()) return;
   Timer1->stop();
   if (!session.sets.Colors) return;
   guard("Timer1_Timer", [this] {
@@ -310,7 +325,9 @@ void frmMain::changed(const std::string& table) {
   }
 }
 
-void frmMain::say(const std::string& text) { statusBar()->showMessage(qt(text), 6000); }
+void frmMain::say(const std::string& text) {
+  statusBar()->showMessage(qt(text), 6000);
+}
 
 bool frmMain::eventFilter(QObject* watched, QEvent* event) {
   if (watched == mdi_->viewport() && event->type() == QEvent::Resize) panel_->centre();

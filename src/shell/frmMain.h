@@ -24,8 +24,8 @@ class frmMenus;
 class StartPanel;
 struct MenuRow;
 
-/// The one top-level window: a frame in which every other window stands, the menus and the toolbar. It holds no business
-/// of its own; each command is a row of a table that names a window.
+/// The one top-level window: a frame in which every other window stands, the menus and the toolbar. It holds
+/// no business of its own; each command is a row of a table that names a window.
 class frmMain : public QMainWindow, public Shell, public CompanyCommands {
   Q_OBJECT
 
@@ -33,7 +33,8 @@ class frmMain : public QMainWindow, public Shell, public CompanyCommands {
   frmMain(Session& running, const WindowTable& windows);
   ~frmMain() override;
 
-  /// What runs once for each company, from Timer1, and what mnuTaxCheck runs. Empty: not part of this version.
+  /// What runs once for each company, from Timer1, and what mnuTaxCheck runs. Empty: not part of this
+  /// version.
   std::function<void()> Check_Repeats;
   std::function<void()> Check_Updates;
   /// Set by the desktop program: the frame comes up where it was left.
@@ -60,7 +61,8 @@ class frmMain : public QMainWindow, public Shell, public CompanyCommands {
   bool Restore_Company_At_Start() override;
   bool Create_Company(const std::string& name) override;
 
-  QAction* command(std::string_view name) const;  ///< a menu, a command or a button by its name; nullptr: none
+  QAction* command(
+      std::string_view name) const;  ///< a menu, a command or a button by its name; nullptr: none
   bool is_available(std::string_view name) const;  ///< shown and enabled, with all menus above it
 
  protected:

@@ -28,7 +28,7 @@ std::string field_of_company(store::Database& company, const char* field) {
 
 }  // namespace
 
-// --- start -----------------------------------------------------------------------------------------------------
+// --- start ---------------------------------------------------------------------------------------
 
 void frmMain::Start() {
   restore_place();
@@ -47,7 +47,9 @@ bool frmMain::Start_With(const std::string& path) {
   return opened;
 }
 
-void frmMain::show_start() { Show_Window({.window = "frmStart", .key = {}}); }
+void frmMain::show_start() {
+  Show_Window({.window = "frmStart", .key = {}});
+}
 
 void frmMain::company_came_up() {
   show_title();
@@ -56,7 +58,7 @@ void frmMain::company_came_up() {
   Toolbar1->setEnabled(true);
 }
 
-// --- open ------------------------------------------------------------------------------------------------------
+// --- open ----------------------------------------------------------------------------------------
 
 bool frmMain::Open_Company_At_Start() {
   const std::string path = session.prompts.open_file(company_filter, session.folder.string());
@@ -102,8 +104,8 @@ bool frmMain::Ask_User() {
   return Run_Modal(asking);
 }
 
-/// A company that was not let in is closed again. The path of one whose password was refused while another company was
-/// open stays, and with it the menus; its windows say that no company is open.
+/// A company that was not let in is closed again. The path of one whose password was refused while another
+/// company was open stays, and with it the menus; its windows say that no company is open.
 void frmMain::Withdraw(bool forget_path) {
   Timer1->stop();
   Close_Company_File(session);
@@ -117,11 +119,15 @@ void frmMain::Apply_User_Rights() {
     users->Index("UserName");
     flags = {false, false, false, false, false};
     if (users->Seek(session.CurrentUser))
-      flags = {(*users)["AR"].flag(), (*users)["AP"].flag(), (*users)["BankCC"].flag(), (*users)["Inventory"].flag(),
-               (*users)["Payroll"].flag()};
+      flags = {(*users)["AR"].flag(), (*users)["AP"].flag(), (*users)["BankCC"].flag(),
+               (*users)["Inventory"].flag(), (*users)["Payroll"].flag()};
   }
-  for (const CommandRight& right : tallymere::Apply_User_Rights(session.MultiUser, session.CurrentUser, flags))
-    (right.property == CommandRight::Property::Visible ? hidden_ : disabled_)[std::string(right.name)] = !right.granted;
+  for (const CommandRight& right :
+       tallymere::Apply_User_Rights(session.MultiUser, session.CurrentUser, flags)) {
+    Q_ASSERT(command(right.name));
+    auto& refused = right.property == CommandRight::Property::Visible ? hidden_ : disabled_;
+    refused[std::string(right.name)] = !right.granted;
+  }
   refresh_commands();
 }
 
@@ -133,10 +139,11 @@ void frmMain::caption_switch_mode() {
 
 void frmMain::mnuSwitchMode_Click() {
   if (session.MultiUser && session.CurrentUser != Administrator)
-    return session.prompts.box({"Only \"Admin\" User can switch Compnay file to Single-User Mode", "Access Denied",
-                                Icon::Critical});
+    return session.prompts.box(
+        {"Only \"Admin\" User can switch Compnay file to Single-User Mode", "Access Denied", Icon::Critical});
   const bool multi = !session.MultiUser;
-  store::Transaction tx(*session.dbCompany, multi ? "Switch to Multi-User Mode" : "Switch to Single-User Mode");
+  store::Transaction tx(*session.dbCompany,
+                        multi ? "Switch to Multi-User Mode" : "Switch to Single-User Mode");
   auto& info = *session.sets.CompanyInfo;
   info.MoveFirst();
   info.Edit();
@@ -151,14 +158,16 @@ void frmMain::mnuSwitchMode_Click() {
   show_title();
 }
 
-// --- new -------------------------------------------------------------------------------------------------------
+// --- new -----------------------------------------------------------------------------------------
 
 void frmMain::mnuNewCompany_Click() {
   Hourglass hourglass(session.prompts);
   if (Hide_All()) Create_Company_At_Start();
 }
 
-void frmMain::Create_Company_At_Start() { Show_Window({.window = "frmCreate", .key = {}}); }
+void frmMain::Create_Company_At_Start() {
+  Show_Window({.window = "frmCreate", .key = {}});
+}
 
 bool frmMain::Create_Company(const std::string& name) {
   Hourglass hourglass(session.prompts);
@@ -174,18 +183,22 @@ bool frmMain::Create_Company(const std::string& name) {
   return true;
 }
 
-// --- backup and restore ----------------------------------------------------------------------------------------
+// --- backup and restore --------------------------------------------------------------------------
 
 bool frmMain::Backup() {
   if (!session.dbCompany) throw store::Error(store::errors::file_not_found, "No company is open.");
-  const std::string file = session.prompts.save_file(Backup_Filter, field_of_company(*session.dbCompany, "Name"));
+  const std::string file =
+      session.prompts.save_file(Backup_Filter, field_of_company(*session.dbCompany, "Name"));
   return !file.empty() && Backup_Company(session, file);
 }
 
-void frmMain::mnuBackup_Click() { Backup(); }
+void frmMain::mnuBackup_Click() {
+  Backup();
+}
 
 bool frmMain::Restore_Company_At_Start() {
-  const auto name = session.prompts.input("Restore Name", "Please Enter the File Name for the Company to restore to.");
+  const auto name =
+      session.prompts.input("Restore Name", "Please Enter the File Name for the Company to restore to.");
   if (!name || name->empty()) return false;
   const auto target = Company_Path(session, *name);
   const std::string file = session.prompts.open_file(Backup_Filter, session.folder.string());
@@ -213,9 +226,11 @@ void frmMain::mnuTaxCheck_Click() {
   if (Check_Updates) Check_Updates();
 }
 
-// --- exit ------------------------------------------------------------------------------------------------------
+// --- exit ----------------------------------------------------------------------------------------
 
-void frmMain::mnuExit_Click() { close(); }
+void frmMain::mnuExit_Click() {
+  close();
+}
 
 void frmMain::closeEvent(QCloseEvent* event) {
   if (!Hide_All()) return event->ignore();

@@ -30,24 +30,34 @@ class ArrowPointer {
 };
 
 /// Windows that belong to the frame itself and need no company.
-bool is_own(const std::string& name) { return name == "frmStart" || name == "frmCreate"; }
+bool is_own(const std::string& name) {
+  return name == "frmStart" || name == "frmCreate";
+}
 
-QMdiSubWindow* frame_of(const Form& form) { return qobject_cast<QMdiSubWindow*>(form.parentWidget()); }
+QMdiSubWindow* frame_of(const Form& form) {
+  return qobject_cast<QMdiSubWindow*>(form.parentWidget());
+}
 
 }  // namespace
 
 void frmMain::run_command(const std::string& name) {
   using Handler = void (frmMain::*)();
   static const std::map<std::string_view, Handler> handlers = {
-      {"mnuNewCompany", &frmMain::mnuNewCompany_Click},   {"mnuOpenCommpany", &frmMain::mnuOpenCompany_Click},
-      {"mnuSwitchMode", &frmMain::mnuSwitchMode_Click},   {"mnuBackup", &frmMain::mnuBackup_Click},
-      {"mnuRestore", &frmMain::mnuRestore_Click},         {"mnuTaxCheck", &frmMain::mnuTaxCheck_Click},
-      {"mnuExit", &frmMain::mnuExit_Click},               {"mnuDepositFunds", &frmMain::mnuDepositFunds_Click},
-      {"btnHelp", &frmMain::btnHelp_Click},               {"frmStart", &frmMain::show_start}};
+      {"mnuNewCompany", &frmMain::mnuNewCompany_Click},
+      {"mnuOpenCommpany", &frmMain::mnuOpenCompany_Click},
+      {"mnuSwitchMode", &frmMain::mnuSwitchMode_Click},
+      {"mnuBackup", &frmMain::mnuBackup_Click},
+      {"mnuRestore", &frmMain::mnuRestore_Click},
+      {"mnuTaxCheck", &frmMain::mnuTaxCheck_Click},
+      {"mnuExit", &frmMain::mnuExit_Click},
+      {"mnuDepositFunds", &frmMain::mnuDepositFunds_Click},
+      {"btnHelp", &frmMain::btnHelp_Click},
+      {"frmStart", &frmMain::show_start}};
   for (const ToolRow& tool : Toolbar_Table())
     if (tool.name == name) {
       if (!tool.command.empty() && tool.command != name) return run_command(std::string(tool.command));
-      if (!tool.window.empty()) return route({.parent = "", .name = tool.name, .caption = "", .window = tool.window});
+      if (!tool.window.empty())
+        return route({.parent = "", .name = tool.name, .caption = "", .window = tool.window});
     }
   if (const auto handler = handlers.find(name); handler != handlers.end()) {
     guard(name + "_Click", [&] { (this->*handler->second)(); });
@@ -71,8 +81,9 @@ void frmMain::route(const MenuRow& row) {
 void frmMain::mnuDepositFunds_Click() {
   if (!session.dbCompany) throw store::Error(store::errors::file_not_found, "No company is open.");
   const bool waiting = !session.dbCompany
-                            ->OpenRecordset("SELECT * FROM Transactions WHERE Type = 'Payment' AND  Paid = 0 AND "
-                                            "Account = 'AR1'")
+                            ->OpenRecordset(
+                                "SELECT * FROM Transactions WHERE Type = 'Payment' AND  Paid = 0 AND "
+                                "Account = 'AR1'")
                             .empty();
   Show_Window({.window = waiting ? "frmOpenPayments" : "frmDeposits", .key = {}});
 }
@@ -93,7 +104,7 @@ void frmMain::Popup(const std::string& menu, QWidget& from, const std::vector<st
   menus_->Popup(menu, at, disabled, std::move(chosen));
 }
 
-// --- windows ---------------------------------------------------------------------------------------------------
+// --- windows -------------------------------------------------------------------------------------
 
 Form* frmMain::find_window(const std::string& name) const {
   for (auto form = forms_.rbegin(); form != forms_.rend(); ++form)
@@ -113,7 +124,8 @@ Form* frmMain::Show_Window(const Request& request) {
   if (!form) form = open_form(request.window);
   if (!form) return nullptr;
   form->guard("Form_Load", [&] { form->take(request); });
-  if (std::find(forms_.begin(), forms_.end(), form) == forms_.end()) return nullptr;  // it closed itself again
+  if (std::find(forms_.begin(), forms_.end(), form) == forms_.end())
+    return nullptr;  // it closed itself again
   bring_up(*form);
   return form;
 }
@@ -142,7 +154,8 @@ void frmMain::stand_inside(Form& form) {
 }
 
 void frmMain::stand_above(Form& form) {
-  form.setParent(this, Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint | Qt::WindowSystemMenuHint);
+  form.setParent(this,
+                 Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint | Qt::WindowSystemMenuHint);
 }
 
 void frmMain::bring_up(Form& form) {

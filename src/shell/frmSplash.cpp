@@ -17,7 +17,8 @@ namespace {
 
 constexpr int tick = 200;    // milliseconds
 constexpr int shown = 2001;  // counted in whole ticks: the eleventh ends it
-const QColor ground(0x0f, 0x66, 0x73), ground_end(0x0a, 0x43, 0x4d), ink(0xff, 0xff, 0xff), quiet(0xbf, 0xe0, 0xe5);
+const QColor ground(0x0f, 0x66, 0x73), ground_end(0x0a, 0x43, 0x4d), ink(0xff, 0xff, 0xff),
+    quiet(0xbf, 0xe0, 0xe5);
 
 QLabel* line(const QString& text, qreal scale, bool bold, const QColor& color) {
   auto* label = new QLabel(text);
@@ -45,8 +46,8 @@ frmSplash::frmSplash(Shell& shell_of_frame) : Form(shell_of_frame, "frmSplash", 
 
 void frmSplash::build() {
   Label1 = named("Label1", line(QStringLiteral("Quillbrook Software Inc."), 1.0, false, quiet));
-  Label2 = named("Label2", line(QStringLiteral("Ver. %1").arg(QCoreApplication::applicationVersion()), 1.0, false,
-                                quiet));
+  Label2 = named("Label2", line(QStringLiteral("Ver. %1").arg(QCoreApplication::applicationVersion()), 1.0,
+                                false, quiet));
   Label3 = named("Label3", line(QStringLiteral("Tallymere"), 3.2, true, ink));
   Label4 = named("Label4", line(QStringLiteral("Tallymere"), 3.2, true, ground_end));  // its shadow
   lblLoad = named("lblLoad", line(QStringLiteral("Loading"), 1.0, false, ink));
@@ -59,13 +60,13 @@ void frmSplash::build() {
   grid->setContentsMargins(4 * theme::unit, 4 * theme::unit, 4 * theme::unit, 3 * theme::unit);
   grid->setHorizontalSpacing(3 * theme::unit);
   grid->addWidget(mark, 0, 0, 2, 1, Qt::AlignTop);
-  grid->addWidget(Label4, 0, 1);
-  grid->addWidget(Label3, 0, 1);
-  grid->addWidget(Label1, 1, 1, Qt::AlignTop);
+  grid->addWidget(Label4, 0, 1, 1, 2);
+  grid->addWidget(Label3, 0, 1, 1, 2);
+  grid->addWidget(Label1, 1, 1, 1, 2, Qt::AlignTop);
   grid->setRowStretch(2, 1);
   grid->addWidget(lblLoad, 3, 0, 1, 2);
   grid->addWidget(Label2, 3, 2, Qt::AlignRight);
-  setFixedSize(66 * theme::unit, 32 * theme::unit);
+  setFixedSize(62 * theme::unit, 27 * theme::unit);
 }
 
 void frmSplash::show_centred() {
@@ -89,8 +90,12 @@ void frmSplash::leave() {
   finish(true);
 }
 
-void frmSplash::mousePressEvent(QMouseEvent*) { leave(); }
-void frmSplash::keyPressEvent(QKeyEvent*) { leave(); }
+void frmSplash::mousePressEvent(QMouseEvent*) {
+  leave();
+}
+void frmSplash::keyPressEvent(QKeyEvent*) {
+  leave();
+}
 
 void frmSplash::paintEvent(QPaintEvent*) {
   QPainter painter(this);

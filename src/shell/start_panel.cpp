@@ -2,6 +2,7 @@
 
 #include <QGridLayout>
 #include <QLabel>
+#include <QPainter>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -61,11 +62,8 @@ const std::vector<StartPanel::Shortcut>& Start_Shortcuts() {
   return shortcuts;
 }
 
-StartPanel::StartPanel(QWidget* parent) : QFrame(parent) {
+StartPanel::StartPanel(QWidget* parent) : QWidget(parent) {
   setObjectName(QStringLiteral("StartPanel"));
-  setFrameShape(QFrame::StyledPanel);
-  setAutoFillBackground(true);
-  setBackgroundRole(QPalette::Window);
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(4 * theme::unit, 4 * theme::unit, 4 * theme::unit, 4 * theme::unit);
   column->setSpacing(theme::gap);
@@ -80,13 +78,23 @@ StartPanel::StartPanel(QWidget* parent) : QFrame(parent) {
   column->addWidget(mark);
   column->addWidget(name_);
   column->addWidget(line_);
-  column->addSpacing(theme::gap);
   column->addLayout(buttons_);
 }
 
-void StartPanel::show_company(const QString& name, const QString& line, const std::vector<Shortcut>& shortcuts) {
+/// A card on the frame's background, whatever colour the company gave it.
+void StartPanel::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(theme::grid_line());
+  painter.setBrush(palette().window());
+  painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), theme::unit, theme::unit);
+}
+
+void StartPanel::show_company(const QString& name, const QString& line,
+                              const std::vector<Shortcut>& shortcuts) {
   name_->setText(name_->fontMetrics().elidedText(name, Qt::ElideRight, 320));
   line_->setText(line);
+  buttons_->setContentsMargins(0, shortcuts.empty() ? 0 : 2 * theme::gap, 0, 0);
   for (QToolButton* button : findChildren<QToolButton*>()) {
     buttons_->removeWidget(button);
     button->hide();

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QFrame>
+#include <QWidget>
 #include <functional>
 #include <string>
 #include <vector>
@@ -11,7 +11,7 @@ class QLabel;
 namespace tallymere {
 
 /// The quiet card in the empty frame: whose books these are, and the few things one begins a day with.
-class StartPanel : public QFrame {
+class StartPanel : public QWidget {
   Q_OBJECT
 
  public:
@@ -29,6 +29,9 @@ class StartPanel : public QFrame {
 
  Q_SIGNALS:
   void chosen(const QString& command);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
 
  private:
   QLabel *name_, *line_;

@@ -8,13 +8,16 @@
 #include <QSvgRenderer>
 
 // The icons are linked in from a library: without this nobody would ask for them.
-static void load_resources() { Q_INIT_RESOURCE(resources); }
+static void load_resources() {
+  Q_INIT_RESOURCE(resources);
+}
 
 namespace tallymere {
 
 namespace {
 
-/// Draws the lines of an SVG file in the palette's text colour of the moment, so a change of scheme needs no new icon.
+/// Draws the lines of an SVG file in the palette's text colour of the moment, so a change of scheme needs no
+/// new icon.
 class LineIconEngine : public QIconEngine {
  public:
   explicit LineIconEngine(QByteArray svg) : svg_(std::move(svg)) {}
@@ -63,6 +66,8 @@ QIcon Line_Icon(const QString& name) {
   return QIcon(new LineIconEngine(file.readAll()));
 }
 
-QIcon Program_Icon() { return QIcon(path_of(QStringLiteral("tallymere"))); }
+QIcon Program_Icon() {
+  return QIcon(path_of(QStringLiteral("tallymere")));
+}
 
 }  // namespace tallymere
