@@ -26,16 +26,16 @@ struct ReportColumn {
   /// Margin: room at the edge, always empty; renderers without a page leave it out.
   enum class Kind { Text, Money, Number, Date, Flag, Margin };
 
-  std::string caption;
+  std::string caption = {};
   Kind kind = Kind::Text;
-  bool right = false;  ///< aligned to the right
-  int width = 0;       ///< in characters; 0: an equal share of the room that is left
-  std::string mask;    ///< for the eye; empty: money as "#,##0.00##", others as they stand
+  bool right = false;     ///< aligned to the right
+  int width = 0;          ///< in characters; 0: an equal share of the room that is left
+  std::string mask = {};  ///< for the eye; empty: money as "#,##0.00##", others as they stand
 };
 
 /// A head of its own above some columns, such as a month. The report's heading is not one of them.
 struct ReportGroup {
-  std::string caption;
+  std::string caption = {};
   int first = 0;
   int count = 1;
 };

@@ -72,7 +72,8 @@ std::string Company_Name(Session& session);
 /// "1/1/2026 - 6/15/2026", as headings show a period.
 std::string Period_Text(Date start, Date end);
 
-/// A heading with the request's title, or else `own_title`, and its period.
-ReportHeading Make_Heading(Session& session, const ReportRequest& request, std::string_view own_title);
+/// The title of a request's heading: its own, or else the report's followed by `subject`; the company; the
+/// period.
+ReportHeading Make_Heading(Session& session, const ReportRequest& request, std::string_view subject = {});
 
 }  // namespace tallymere
