@@ -9,19 +9,12 @@
 namespace tallymere {
 namespace {
 
-constexpr std::string_view other_mark = " - Other";
-
-std::string Unused_CatID(store::Database& db) {
-  for (int64_t number = 0;; ++number) {
-    std::string id = std::to_string(number) + "SS";
-    if (db.value("SELECT RowKey FROM Accounts WHERE CatID = ?", {id}).is_null()) return id;
-  }
-}
+const std::string other_mark = " - Other";
 
 std::string Make_Other_Child(Session& session, const std::string& parent_id) {
   store::Database& db = *session.dbCompany;
   auto parent = db.OpenRecordset("SELECT * FROM Accounts WHERE CatID = ?", {parent_id});
-  std::string name = parent["AccountName"].text() + std::string(other_mark);
+  std::string name = parent["AccountName"].text() + other_mark;
   store::Transaction tx(db, "New category " + name);
   std::string id = Unused_CatID(db);
   auto accounts = db.OpenRecordset("SELECT * FROM Accounts WHERE CatID = ?", {id});
@@ -58,6 +51,13 @@ std::string SubAccount_Clause(Session& session, std::string_view parent) {
 std::string Category_Name(Session& session, const std::string& id) {
   if (id == break_down) return id;
   return session.dbCompany->value("SELECT AccountName FROM Accounts WHERE CatID = ?", {id}).text();
+}
+
+std::string Unused_CatID(store::Database& db) {
+  for (int64_t number = 0;; ++number) {
+    std::string id = std::to_string(number) + "SS";
+    if (db.value("SELECT RowKey FROM Accounts WHERE CatID = ?", {id}).is_null()) return id;
+  }
 }
 
 std::string Get_Postable_Category(Session& session, const std::string& id) {

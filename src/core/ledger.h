@@ -11,14 +11,14 @@
 namespace tallymere {
 
 /// Stands in Category for the other side of a row whose transaction has more than one.
-inline constexpr std::string_view break_down = "<-Break Down->";
+inline const std::string break_down = "<-Break Down->";
 
 /// The fixed categories.
-inline constexpr std::string_view accounts_receivable = "AR1";
-inline constexpr std::string_view accounts_payable = "AP1";
-inline constexpr std::string_view undeposited_funds = "UF1";
-inline constexpr std::string_view retained_earnings = "RE1";
-inline constexpr std::string_view opening_balance = "OE1";
+inline const std::string accounts_receivable = "AR1";
+inline const std::string accounts_payable = "AP1";
+inline const std::string undeposited_funds = "UF1";
+inline const std::string retained_earnings = "RE1";
+inline const std::string opening_balance = "OE1";
 
 /// One more than the highest TransNum in use, 1 in an empty ledger. It is not reserved: Transaction_Writer
 /// looks again.
@@ -30,6 +30,9 @@ std::string SubAccount_Clause(const CategoryTree& tree, std::string_view parent)
 
 /// The AccountName of a CatID; "<-Break Down->" as it stands, "" for what is no category.
 std::string Category_Name(Session& session, const std::string& id);
+
+/// The lowest number from 0 upward that followed by "SS" is no category's CatID yet.
+std::string Unused_CatID(store::Database& db);
 
 /// The category that a posting to `id` goes to: `id` itself when it has no children, else its " - Other"
 /// child, which is made on first use. Inside a save the new child belongs to the same store transaction.

@@ -15,6 +15,9 @@ constexpr ReadingIndex reading[] = {
     {"Transactions_Account", "Transactions", "Account, Date, Debit, Credit, Type, Paid, Class, Amount", ""},
     // one customer's, vendor's or payee's rows, of one category or all, summed from the index alone
     {"Transactions_Name", "Transactions", "Name, Account, Date, Debit, Credit, Type, Paid", ""},
+    // what each customer owes, and the unpaid bills of each vendor, asked for whenever their lists come up
+    {"Transactions_Receivable", "Transactions", "Account, Name, Type, Debit, Credit", "Account = 'AR1'"},
+    {"Transactions_Unpaid", "Transactions", "Name, Debit", "Type = 'Bill' AND Paid = 0"},
     // find by day, the list of years, reports over all categories of a period; what was paid in it
     {"Transactions_Date", "Transactions", "Date, TransNum", ""},
     // stock, sales and sales tax of one item; most rows have none

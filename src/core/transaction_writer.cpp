@@ -1,6 +1,6 @@
 #include "core/transaction_writer.h"
 
-#include <array>
+#include <cassert>
 
 #include "core/ledger.h"
 #include "core/store/sql.h"
@@ -84,13 +84,17 @@ bool Has_Rows(store::Database& db, int64_t number) {
   return !db.value("SELECT RowKey FROM Transactions WHERE TransNum = ? LIMIT 1", {number}).is_null();
 }
 
-/// Rows that go away leave their year's balances as stale as rows that come.
+/// Rows that leave a year make its balances as stale as rows that come.
+void Set_Recalc_For_Rows(Session& session, int64_t number) {
+  session.dbCompany->each("SELECT DISTINCT Date FROM Transactions WHERE TransNum = ?", {number},
+                          [&](const store::Row& row) {
+                            if (auto date = row.date(0)) Set_Recalc_If_Other_Year(session, *date);
+                          });
+}
+
 void Delete_Rows(Session& session, int64_t number) {
-  store::Database& db = *session.dbCompany;
-  db.each("SELECT DISTINCT Date FROM Transactions WHERE TransNum = ?", {number}, [&](const store::Row& row) {
-    if (auto date = row.date(0)) Set_Recalc_If_Other_Year(session, *date);
-  });
-  db.Execute("DELETE FROM Transactions WHERE TransNum = ?", {number});
+  Set_Recalc_For_Rows(session, number);
+  session.dbCompany->Execute("DELETE FROM Transactions WHERE TransNum = ?", {number});
 }
 
 std::string Title_Of_Rows(store::Database& db, int64_t number) {
@@ -143,6 +147,7 @@ Transaction_Writer::Transaction_Writer(Session& session, TransactionHead head, c
   if (probe.is_new()) {
     if (head_.TransNum == 0 || Has_Rows(db_, head_.TransNum)) head_.TransNum = Next_TransNum(db_);
   } else {
+    assert(head_.TransNum != 0);
     probe.check(db_);
     Delete_Rows(session, head_.TransNum);
   }
@@ -186,6 +191,10 @@ int64_t Rewrite_Fields(Session& session, int64_t TransNum, const FieldValues& fi
                          "Item not found in this collection: " + std::string(name) + ".");
     assignments += (assignments.empty() ? "" : ", ") + store::Quoted(field->name) + " = ?";
     values.push_back(value.as(field->type));
+    if (field->name == "Date") {
+      Set_Recalc_For_Rows(session, TransNum);
+      Set_Recalc_If_Other_Year(session, values.back().date());
+    }
   }
   values.emplace_back(TransNum);
   store::Transaction tx(db, Title_Of_Rows(db, TransNum));

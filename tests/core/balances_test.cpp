@@ -211,6 +211,7 @@ class RowByRow {
 class RandomLedger {
  public:
   explicit RandomLedger(unsigned seed) : random_(seed) {
+    store::Transaction all_at_once(company.db(), "A random ledger");
     company.run("DELETE FROM Accounts");
     const char* types[] = {"Bank", "Equity", "Other Expense", "Expense", "Current Liability"};
     for (int at = 0; at < 12; ++at) {
@@ -223,6 +224,7 @@ class RandomLedger {
     // Few rows, so that accounts without rows before, in or after this year all come up.
     for (size_t rows = pick(40); rows > 0; --rows)
       Post(company, ids[pick(ids.size())], day(), amount(), amount());
+    all_at_once.commit();
   }
 
   TestCompany company;
@@ -265,7 +267,7 @@ TEST(UpdateAccounts, AgreesWithTheWalkRowByRow) {
     Expect_Same(ledger, false, Categories::All);
     Expect_Same(ledger, true, Categories::All);
 
-    Fix_Accounts(ledger.*company.session);
+    Fix_Accounts(*ledger.company.session);
     for (const auto& id : ledger.ids) {
       auto row = ledger.company.db().OpenRecordset("SELECT * FROM Accounts WHERE CatID = ?", {id});
       if (Is_Profit_And_Loss(row["AccountType"].text())) continue;

@@ -186,10 +186,8 @@ TEST(TransactionWriter, TheRowOfASetIsAProbeToo) {
 }
 
 TEST(TransactionWriter, ALockedFileSaysTryAgainLater) {
-  TestCompany company;
-  auto other = company.another_user();
-  store::Transaction busy(*other->dbCompany, "A long batch");
-  auto conflict = Save_Or_Conflict([&] { Write_Check(*company.session, 1, 25); });
+  auto conflict = Save_Or_Conflict(
+      [] { throw store::Error(store::errors::locked, "Could not update; currently locked."); });
   ASSERT_TRUE(conflict);
   EXPECT_FALSE(conflict->reload);
   EXPECT_EQ(conflict->box.text, "Could not update; currently locked. Try Again later.");
@@ -242,7 +240,7 @@ TEST(TransactionWriter, DeletesWholeTransactionsAndCanTakeItBack) {
   auto action = store::List_Actions(company.db(), 1).front();
   EXPECT_EQ(action.what, "Deleted Check 1042, Acme Supply");
   store::Transaction back(company.db(), "Back");
-  store::Revert_Changes(company.db(), action.number, [](auto&, auto&) { return false; });
+  store::Revert_Changes(company.db(), action.number);
   back.commit();
   EXPECT_EQ(Ledger_Of(company.db(), 1), "0SS 0 25;9SS 25 0;");
 }
@@ -259,6 +257,12 @@ TEST(TransactionWriter, RowsLeavingAnotherYearAskForAFullPassToo) {
   session.RecalcAll = false;
   Delete_Transaction(session, 1);
   EXPECT_FALSE(session.RecalcAll);
+
+  Write_Check(session, 3, 25);
+  Rewrite_Fields(session, 3, {{"Number", "8"}, {"Date", today}});
+  EXPECT_FALSE(session.RecalcAll);
+  Rewrite_Fields(session, 3, {{"Date", Date(2025, 12, 31)}});
+  EXPECT_TRUE(session.RecalcAll);
 }
 
 }  // namespace

@@ -17,7 +17,7 @@ struct Line {
 std::string Category_Of(Session& session, const std::string& named) {
   auto id = session.dbCompany->value("SELECT CatID FROM Accounts WHERE CatID = ? OR AccountName = ? ORDER BY CatID = ? DESC",
                                      {named, named, named});
-  if (id.blank()) throw Usage("there is no category \"" + named + "\"");
+  if (id.blank()) throw std::runtime_error("there is no category \"" + named + "\"");
   return id.text();
 }
 

@@ -17,19 +17,19 @@ enum class Kind { text, money, number, date, check, hidden };
 
 /// A column of a grid. What is typed is kept as text; the value it stands for sorts, sums and exports.
 struct GridColumn {
-  QString name;  ///< its caption
+  QString name{};  ///< its caption
   Kind kind = Kind::text;
   int width = 0;                 ///< in characters; 0: a share of the room that is left
   bool locked = false;           ///< the user cannot write in it
   SSDBDropDown* list = nullptr;  ///< what its cells choose from; owned elsewhere
   int id_column = -1;  ///< takes the hidden id of what was chosen or typed from the list, "" when not in it
-  std::string mask;    ///< for the eye only; empty: money as "#,##0.00##", others as they stand
+  std::string mask{};  ///< for the eye only; empty: money as "#,##0.00##", others as they stand
   bool list_only = false;  ///< text that is not in the list is refused
 };
 
 /// A head above some columns; captions may have several lines.
 struct GridGroup {
-  QString caption;
+  QString caption{};
   int first = 0;
   int count = 1;
 };
@@ -38,15 +38,15 @@ struct GridGroup {
 struct GridStyle {
   bool bold = false;
   bool underline = false;
-  double size = 0;  ///< points; 0: the grid's own
-  QColor text;      ///< invalid: the grid's own
-  QColor back;
+  double size = 0;  ///< points; 0: the grid's own; negative: so much smaller
+  QColor text{};    ///< invalid: the grid's own
+  QColor back{};
 };
 
 /// A row as a provider hands it over.
 struct GridRow {
-  std::string text;  ///< cells separated by tabs
-  std::string style;
+  std::string text{};  ///< cells separated by tabs
+  std::string style{};
 };
 
 /// The cells behind a grid. Rows stand in memory, or come from a provider when they are first looked at.
@@ -69,7 +69,8 @@ class GridModel : public QAbstractTableModel {
   void remove_all();
   void begin_fill();  ///< many inserts between these two tell the view once
   void end_fill();
-  void sort_rows(int column, bool descending);
+  int sort_rows(int column, bool descending,
+                int follow);  ///< where the row `follow` stands afterwards; -1: nowhere
 
   std::string text(int row, int column) const;
   store::Value value(int row, int column) const;
@@ -111,10 +112,14 @@ class GridModel : public QAbstractTableModel {
   };
   Row made(const GridRow& content) const;
   void read(int row) const;  ///< fetches from the provider and lets the window style the row, once
+  void read_all();           ///< before rows change places: a provider knows them by number
   bool has(int row, int column) const;
   store::Value value_of(const std::string& text, Kind kind) const;
   QString for_the_eye(int row, int column) const;
   QFont font_of(int row, int column) const;
+  QVariant color_of(int row, int column, bool back) const;
+  bool column_is(int column, Kind kind) const { return columns_[static_cast<size_t>(column)].kind == kind; }
+  void set(int row, int column, const std::string& text, const store::Value& value);
   void tell(int row, int column);
 
   std::vector<GridColumn> columns_;

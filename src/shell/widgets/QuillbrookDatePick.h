@@ -43,7 +43,6 @@ class QuillbrookDatePick : public QLineEdit {
   void settle();                      ///< on leaving: take the typed date or go back to the last good one
   void move_to(Date day);             ///< as the user's act
   void show_value();
-  void mark(bool bad);
   std::optional<Date> reached_by(int key) const;
 
   std::optional<Date> value_;

@@ -38,26 +38,32 @@ class SSDBCombo : public QComboBox {
   void pick(int row);
 
   void showPopup() override;
-  void hidePopup() override;
 
  Q_SIGNALS:
   void Click();      ///< a row was picked
-  void CloseUp();    ///< the list went up, after Click
+  void CloseUp();    ///< the list went up by picking, after Click
   void LostFocus();  ///< the box was left
   void Changed();    ///< the user changed the text, by typing or picking
 
  protected:
-  bool eventFilter(QObject* watched, QEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;
 
  private:
+  void take_list(SSDBDropDown* list);
   void typed();
   void picked(int row);
+  void settle();  ///< on leaving a list-only box: no name, no text
   void size_popup();
+  bool holds(int row) const;  ///< the row's name stands in the box
 
   SSDBDropDown* list_;
-  int chosen_ = -1;  ///< the row picked or completed, while its name still stands in the box
-  bool erasing_ = false;
+  std::string kept_;        ///< the text while the list is filled anew
+  int chosen_ = -1;         ///< the row picked or completed, while its name still stands in the box
+  bool completes_ = false;  ///< the last key wrote a letter
+  bool list_only_ = false;
 };
 
 }  // namespace tallymere

@@ -10,7 +10,7 @@ namespace tallymere {
 
 /// A column of a drop-down list. Width in characters; 0: as its text needs.
 struct ListColumn {
-  QString name;
+  QString name{};
   int width = 0;
   bool money = false;  ///< right-aligned, in tabular figures
 };

@@ -30,7 +30,8 @@ class SSDBGrid : public QTableView {
   void set_caption(int column, const std::string& caption);
   void set_locked(int column, bool locked);
   void show_column(int column, bool shown);
-  void fit_columns(int rows_looked_at = 200);  ///< widths as the captions and first rows need
+  /// Widths as the captions and first rows need; columns of width 0 share what is left beyond that.
+  void fit_columns(int rows_looked_at = 200);
 
   // --- rows ---
   void AddItem(const std::string& tab_separated, const std::string& style = {});
@@ -88,7 +89,9 @@ class SSDBGrid : public QTableView {
   void set_sorting(bool allowed);      ///< a click on a column's head sorts by value
   void set_empty_hint(const QString& text);
   void set_may_edit(std::function<bool(int row, int column)> may_edit);
-  void commit();  ///< takes what is being typed, as leaving the cell does
+  /// Takes what is being typed and settles the row, as leaving it does: call it before saving. false:
+  /// BeforeUpdate refused the row.
+  bool commit();
   bool editing() const { return state() == EditingState; }
 
   // --- looks ---
@@ -109,6 +112,8 @@ class SSDBGrid : public QTableView {
   void request_menu(int row, const QPoint& global);
 
   GridModel& cells() { return *model_; }
+  bool selects_rows() const { return selectionBehavior() == SelectRows; }
+  QSize sizeHint() const override;
 
  Q_SIGNALS:
   void RowColChange(int last_row, int last_column);  ///< the current cell moved
@@ -130,34 +135,47 @@ class SSDBGrid : public QTableView {
   void mousePressEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override;
-  void focusOutEvent(QFocusEvent* event) override;
+  bool focusNextPrevChild(bool next) override;
   void paintEvent(QPaintEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void changeEvent(QEvent* event) override;
+  void showEvent(QShowEvent* event) override;
   void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
   QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
-  void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
 
  private:
   friend class GridDelegate;
-  bool take(int row, int column, const std::string& typed,
-            int list_row);  ///< the one way a user's text gets into a cell
+  /// The one way a user's text gets into a cell; list_row: what was chosen from its drop-down, -1: typed.
+  bool take(int row, int column, const std::string& typed, int list_row);
   void store_choice(int row, int column, int list_row);
+  std::string tidied(int column, const std::string& typed, int list_row) const;
+  bool same_content(int row, int column, const std::string& text, int list_row) const;
   bool open_list(const QModelIndex& index);
-  bool leave_row(int row);
+  bool leave_row();
+  bool is_stop(int row, int column) const;  ///< a cell that Enter and Tab stop at
   QModelIndex next_cell(const QModelIndex& from, int step) const;
+  bool enter_pressed();  ///< on to the next cell; in a list, what a double click does
+  void remove_selected();
+  void settle_modes();
+  int char_width(int characters) const;
+  int content_width(int column, int rows_looked_at) const;
+  void set_widths();
   void share_widths();
-  void set_heights();
+  void dragged(int column);
   void sort_clicked(int column);
+  void go_to(int row, int column);  ///< by code: no RowColChange
 
   GridModel* model_;
   GridHeader* header_;
   QString hint_;
+  std::vector<int> least_;     ///< widths fit_columns found, in pixels
+  std::vector<bool> dragged_;  ///< columns the user gave a width of their own
   bool delete_ = false;
+  bool multi_ = false;
   bool valid_ = true;
-  int changed_row_ = -1;
   bool by_code_ = false;
-  bool returning_ = false;
+  int changed_row_ = -1;
   int sorted_by_ = -1;
   bool descending_ = false;
 };

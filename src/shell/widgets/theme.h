@@ -36,6 +36,9 @@ QFont tabular(const QFont& base);
 /// Fusion with our palette, accent, font and default button.
 void apply_theme(QApplication& app, theme::Scheme scheme = theme::Scheme::Desktop);
 
+/// Shows a field's text as one that cannot be taken, or as usual again.
+void mark_faulty(QWidget* field, bool faulty);
+
 /// A label that names a control: right-aligned to it, its buddy ("&Name:"), its accessible name.
 QLabel* label_for(QWidget* control, const QString& text);
 

@@ -1,0 +1,182 @@
+#include "app/desktop.h"
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QInputDialog>
+#include <QMessageBox>
+#include <QStandardPaths>
+
+#include "shell/frmProgress.h"
+#include "shell/frmStatus.h"
+#include "shell/widgets/line_icon.h"
+#include "shell/widgets/sounds.h"
+#include "shell/widgets/theme.h"
+
+namespace tallymere {
+
+namespace {
+
+constexpr int quick = 250;         // milliseconds: a pass that takes less shows no window
+constexpr int between_looks = 40;  // milliseconds between two paintings of a bar
+
+/// The arrow while the program waits for an answer, whatever long pass it interrupts.
+class ArrowPointer {
+ public:
+  ArrowPointer() { QApplication::setOverrideCursor(Qt::ArrowCursor); }
+  ~ArrowPointer() { QApplication::restoreOverrideCursor(); }
+  ArrowPointer(const ArrowPointer&) = delete;
+  ArrowPointer& operator=(const ArrowPointer&) = delete;
+};
+
+QMessageBox::Icon icon_of(Icon icon) {
+  switch (icon) {
+    case Icon::Information:
+      return QMessageBox::Information;
+    case Icon::Question:
+      return QMessageBox::Question;
+    case Icon::Critical:
+      return QMessageBox::Critical;
+    case Icon::None:
+      break;
+  }
+  return QMessageBox::NoIcon;
+}
+
+int run_box(QWidget* above, const Box& box, QMessageBox::StandardButtons buttons,
+            QMessageBox::StandardButton usual) {
+  const ArrowPointer arrow;
+  QString text = qt(box.text);
+  text.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+  QMessageBox dialog(icon_of(box.icon), qt(box.title), text, buttons, above);
+  dialog.setTextFormat(Qt::PlainText);
+  dialog.setDefaultButton(usual);
+  return dialog.exec();
+}
+
+/// "Company Files (*.cmf)|*.cmf" as the toolkit writes it.
+QString filter_of(const std::string& filter) {
+  const QStringList parts = qt(filter).split(QLatin1Char('|'));
+  QStringList filters;
+  for (qsizetype i = 0; i < parts.size(); i += 2)
+    filters << (parts[i].contains(QLatin1Char('(')) || i + 1 >= parts.size()
+                    ? parts[i]
+                    : QStringLiteral("%1 (%2)").arg(parts[i], parts[i + 1]));
+  return filters.join(QStringLiteral(";;"));
+}
+
+/// "cbk" of "Backup Files (*.cbk)|*.cbk".
+QString suffix_of(const std::string& filter) {
+  return qt(filter).section(QStringLiteral("*."), -1);
+}
+
+bool is_file_work(const std::string& label) {
+  return label == "Backup" || label == "Restore";
+}
+
+}  // namespace
+
+void DesktopPrompts::set_frame(Shell* shell, QWidget* frame) {
+  shell_ = shell;
+  frame_ = frame;
+}
+
+QWidget* DesktopPrompts::above() const {
+  if (QWidget* modal = QApplication::activeModalWidget()) return modal;
+  QWidget* active = QApplication::activeWindow();
+  return active ? active : frame_.data();
+}
+
+void DesktopPrompts::box(const Box& box) {
+  run_box(above(), box, QMessageBox::Ok, QMessageBox::Ok);
+}
+
+bool DesktopPrompts::ask(const Box& box, Buttons buttons) {
+  const auto usual = buttons == Buttons::YesNoDefaultNo ? QMessageBox::No : QMessageBox::Yes;
+  return run_box(above(), box, QMessageBox::Yes | QMessageBox::No, usual) == QMessageBox::Yes;
+}
+
+std::optional<std::string> DesktopPrompts::input(const std::string& title, const std::string& prompt) {
+  const ArrowPointer arrow;
+  bool answered = false;
+  const QString answer =
+      QInputDialog::getText(above(), qt(title), qt(prompt), QLineEdit::Normal, QString(), &answered);
+  return answered ? std::optional(utf8(answer)) : std::nullopt;
+}
+
+std::string DesktopPrompts::open_file(const std::string& filter, const std::string& folder) {
+  const ArrowPointer arrow;
+  return utf8(QFileDialog::getOpenFileName(above(), QStringLiteral("Open"), qt(folder), filter_of(filter)));
+}
+
+std::string DesktopPrompts::save_file(const std::string& filter, const std::string& name) {
+  const ArrowPointer arrow;
+  const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+  QFileDialog dialog(above(), QStringLiteral("Save As"), folder, filter_of(filter));
+  dialog.setAcceptMode(QFileDialog::AcceptSave);
+  dialog.setDefaultSuffix(suffix_of(filter));  // so that the question about replacing names the right file
+  dialog.selectFile(qt(name).replace(QLatin1Char('/'), QLatin1Char('-')));
+  return dialog.exec() == QDialog::Accepted ? utf8(dialog.selectedFiles().value(0)) : std::string();
+}
+
+// --- progress ------------------------------------------------------------------------------------
+
+bool DesktopPrompts::progress(const std::string& label, int64_t done, int64_t total) {
+  if (!shell_) return true;
+  if (!since_start_.isValid()) since_start_.start();
+  if (is_file_work(label)) return show_backup_progress(label, done, total);
+  show_status(label, done, total);
+  return true;
+}
+
+bool DesktopPrompts::show_backup_progress(const std::string& label, int64_t done, int64_t total) {
+  if (!progress_) {
+    progress_ = new frmProgress(*shell_);
+    progress_->setParent(above(), Qt::Dialog | Qt::WindowTitleHint | Qt::CustomizeWindowHint);
+    progress_->setWindowModality(Qt::ApplicationModal);
+  }
+  progress_->show_progress(label, done, total);
+  progress_->show();
+  QApplication::processEvents();
+  return !progress_->stopped();
+}
+
+void DesktopPrompts::show_status(const std::string& label, int64_t done, int64_t total) {
+  const bool due = !since_look_.isValid() || since_look_.elapsed() > between_looks;
+  if (since_start_.elapsed() < quick || !due) return;
+  since_look_.start();
+  if (!status_) {
+    status_ = new frmStatus(*shell_);
+    status_->setParent(above(), Qt::Dialog | Qt::WindowTitleHint | Qt::CustomizeWindowHint);
+    status_->setWindowModality(Qt::ApplicationModal);
+  }
+  status_->show_progress(label, done, total);
+  status_->show();
+  QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}
+
+void DesktopPrompts::progress_done() {
+  delete status_.data();
+  delete progress_.data();
+  since_start_.invalidate();
+  since_look_.invalidate();
+}
+
+void DesktopPrompts::hourglass(bool on) {
+  on ? QApplication::setOverrideCursor(Qt::WaitCursor) : QApplication::restoreOverrideCursor();
+}
+
+void DesktopPrompts::sound(const std::string& file) {
+  Play_Sound(sounds_, file);
+}
+
+// --- the program ---------------------------------------------------------------------------------
+
+void Prepare_Application(QApplication& app) {
+  QApplication::setOrganizationName(QStringLiteral("Quillbrook Software"));
+  QApplication::setApplicationName(QStringLiteral("Tallymere"));
+  QApplication::setApplicationVersion(QStringLiteral("1.0.0"));
+  apply_theme(app);
+  QApplication::setWindowIcon(Program_Icon());
+}
+
+}  // namespace tallymere

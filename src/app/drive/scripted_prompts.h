@@ -1,0 +1,38 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include "app/drive/expectations.h"
+#include "core/prompts.h"
+
+namespace tallymere::drive {
+
+/// Answers what the program says and asks from the script's expectations.
+class ScriptedPrompts : public Prompts {
+ public:
+  ScriptedPrompts(Expectations& expectations, std::filesystem::path folder)
+      : expectations_(expectations), folder_(std::move(folder)) {}
+
+  void box(const Box& box) override;
+  bool ask(const Box& box, Buttons buttons) override;
+  std::optional<std::string> input(const std::string& title, const std::string& prompt) override;
+  std::string open_file(const std::string& filter, const std::string& folder) override;
+  std::string save_file(const std::string& filter, const std::string& name) override;
+  bool progress(const std::string&, int64_t, int64_t) override { return true; }
+  void progress_done() override {}
+  void hourglass(bool) override {}
+  void sound(const std::string& file) override { sounds_.push_back(file); }
+
+  const std::vector<std::string>& sounds() const { return sounds_; }
+
+ private:
+  std::string file(const std::string& filter);
+
+  Expectations& expectations_;
+  std::filesystem::path folder_;  ///< what a script's relative paths start from
+  std::vector<std::string> sounds_;
+};
+
+}  // namespace tallymere::drive

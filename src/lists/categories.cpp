@@ -1,0 +1,169 @@
+#include "lists/categories.h"
+
+#include <algorithm>
+
+#include "core/category_tree.h"
+#include "core/ledger.h"
+#include "core/store/recordset.h"
+#include "core/text.h"
+
+namespace tallymere {
+namespace {
+
+/// What the commands of a row go by. "..." in front of a type: any type that contains it.
+constexpr std::string_view reconciled_types[] = {"Bank", "Credit Card"};
+constexpr std::string_view register_types[] = {"Bank",
+                                               "Credit Card",
+                                               "Current Liability",
+                                               "Long Term Liability",
+                                               "Accounts Receivable",
+                                               "Accounts Payable",
+                                               "...Asset"};
+constexpr std::string_view double_click_types[] = {"Accounts Payable",    "Credit Card",  "Bank",
+                                                   "Accounts Receivable", "...Liability", "...Asset"};
+constexpr std::string_view kept_ids[] = {"RE1", "OE1"};
+constexpr std::string_view kept_names[] = {"Undeposited Funds", "Accounts Receivable", "Accounts Payable"};
+
+template <typename List>
+bool Names(const List& list, std::string_view type) {
+  return std::ranges::any_of(list, [&](std::string_view named) {
+    return named.starts_with("...") ? contains(type, named.substr(3)) : named == type;
+  });
+}
+
+bool In_Use(Session& session, const std::string& CatID) {
+  store::Database& db = *session.dbCompany;
+  return !db.value("SELECT RowKey FROM Transactions WHERE Account = ? LIMIT 1", {CatID}).is_null() ||
+         // Sub-categories would never show again in any list.
+         !db.value("SELECT RowKey FROM Accounts WHERE ParentAccount = ? LIMIT 1", {CatID}).is_null();
+}
+
+Fault Mistake(const char* text, const char* title, const char* control) {
+  return {{text, title, Icon::Information}, control};
+}
+
+std::optional<Fault> Form_Fault(Session& session, const CategoryForm& form) {
+  if (form.txtName.empty()) return Mistake("Please enter a name for this Category", "No Name", "txtName");
+  const auto types = Account_Types(session);
+  // A category of a type that is none would show in no list.
+  if (std::ranges::find(types, form.cmbType) == types.end())
+    return Mistake("Please select a type for this Category", "No Type", "cmbType");
+  return std::nullopt;
+}
+
+store::Recordset Row_Of(Session& session, const std::string& CatID) {
+  return session.dbCompany->OpenRecordset("SELECT * FROM Accounts WHERE CatID = ?", {CatID});
+}
+
+void Begin_Row(Session& session, store::Recordset& row, CategoryForm& form) {
+  if (form.mode == AccountMode::Edit) return row.Edit();
+  row.AddNew();
+  row["CatID"] = form.CatID;
+  row["OpeningDate"] = session.today();
+  row["LastYearEndBal"] = Money();
+}
+
+}  // namespace
+
+// --- frmAccounts -----------------------------------------------------------------------------------------
+
+std::vector<AccountRow> Make_List(Session& session, bool show_dormant) {
+  std::vector<AccountRow> rows;
+  for (const CategoryRow& row : Make_Category_List(*session.dbCompany, show_dormant))
+    rows.push_back({Indented(row.AccountName, row.level), row.AccountType, row.Balance, row.CatID});
+  return rows;
+}
+
+AccountCommands Account_Commands(const AccountRow& row) {
+  return {.mnuRegister = Names(register_types, row.Type),
+          .mnuReconcile = Names(reconciled_types, row.Type),
+          .mnuDelete = !Names(kept_ids, row.CatID) && !Names(kept_names, ltrim(row.Name))};
+}
+
+bool Opens_Register(std::string_view AccountType) {
+  return Names(double_click_types, AccountType);
+}
+
+bool Delete_Category(Session& session, const AccountRow& row) {
+  const std::string name = ltrim(row.Name);
+  const Box question{"Are you sure you want to delete \"" + name + "\"", "Confirm Delete", Icon::Critical};
+  if (!session.prompts.ask(question, Buttons::YesNo)) return false;
+
+  store::Transaction tx(*session.dbCompany, "Deleted category " + name);
+  if (In_Use(session, row.CatID)) {
+    session.prompts.box({"Category in use cannot Delete", "No Deletion", Icon::Information});
+    return false;
+  }
+  session.dbCompany->Execute("DELETE FROM Accounts WHERE CatID = ?", {row.CatID});
+  tx.commit();
+  return true;
+}
+
+// --- frmModAccount ---------------------------------------------------------------------------------------
+
+CategoryForm New_Category(AccountMode mode, const std::string& name) {
+  return {.mode = mode, .txtName = name};
+}
+
+CategoryForm Edit_Category(Session& session, const std::string& CatID) {
+  auto row = Row_Of(session, CatID);
+  CategoryForm form{.mode = AccountMode::Edit,
+                    .CatID = CatID,
+                    .txtName = row["AccountName"].text(),
+                    .cmbType = row["AccountType"].text(),
+                    .txtAcctNum = row["AccountNum"].text(),
+                    .txtDescripiton = row["Description"].text(),
+                    .chkDormant = row["Dormant"].flag()};
+  if (row["ParentAccount"].blank()) return form;
+  form.Check1 = true;
+  auto parent = Row_Of(session, row["ParentAccount"].text());
+  if (!parent.has_row()) return form;
+  form.cmbSubCat = parent["AccountName"].text();
+  form.lblParentID = parent["CatID"].text();
+  return form;
+}
+
+std::vector<std::string> Account_Types(Session& session) {
+  std::vector<std::string> types;
+  session.dbAccounts->each("SELECT Type FROM AccountTypes ORDER BY RowKey", {},
+                           [&](const store::Row& row) { types.emplace_back(row.text(0)); });
+  return types;
+}
+
+std::vector<ParentChoice> Parent_Choices(Session& session, const CategoryForm& form) {
+  const CategoryTree tree = CategoryTree::Load(*session.dbCompany);
+  auto left_out = tree.descendants(form.CatID);
+  left_out.push_back(tree.find(form.CatID));
+  std::vector<ParentChoice> choices;
+  for (const Category& category : tree.all())
+    if (same_text(category.AccountType, form.cmbType) &&
+        std::ranges::find(left_out, &category) == left_out.end())
+      choices.push_back({category.AccountName, category.CatID});
+  return choices;
+}
+
+std::optional<Fault> Check_Sub_Category(const CategoryForm& form) {
+  if (!form.cmbType.empty()) return std::nullopt;
+  return Mistake("Please select a Parent Category before selecting a Sub Category.", "No Parent", "cmbType");
+}
+
+std::optional<Fault> Save_Category(Session& session, CategoryForm& form) {
+  if (auto fault = Form_Fault(session, form)) return fault;
+  store::Transaction tx(*session.dbCompany, "Category " + form.txtName);
+  const bool is_new = form.mode != AccountMode::Edit;
+  const std::string CatID = is_new ? Unused_CatID(*session.dbCompany) : form.CatID;
+  auto row = Row_Of(session, CatID);
+  if (is_new) form.CatID = CatID;
+  Begin_Row(session, row, form);
+  row["AccountName"] = form.txtName;
+  row["AccountType"] = form.cmbType;
+  row["AccountNum"] = form.txtAcctNum;
+  row["Description"] = form.txtDescripiton;
+  row["ParentAccount"] = form.Check1 ? form.lblParentID : std::string();
+  row["Dormant"] = form.chkDormant;
+  row.Update();
+  tx.commit();
+  return std::nullopt;
+}
+
+}  // namespace tallymere

@@ -1,0 +1,345 @@
+#include "shell/frmMain.h"
+
+#include <QAction>
+#include <QActionGroup>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QLabel>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QSettings>
+#include <QStatusBar>
+#include <QTimer>
+#include <QToolBar>
+
+#include "core/company.h"
+#include "core/error_box.h"
+#include "core/store/recordset.h"
+#include "shell/frmMenus.h"
+#include "shell/menus.h"
+#include "shell/start_panel.h"
+#include "shell/widgets/Form.h"
+#include "shell/widgets/line_icon.h"
+#include "shell/widgets/theme.h"
+
+namespace tallymere {
+
+namespace {
+
+QString text_of(std::string_view text) {
+  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+/// "Company &Info...." as a sentence names it.
+QString plain(std::string_view caption) {
+  QString text = text_of(caption).remove(QLatin1Char('&'));
+  while (text.endsWith(QLatin1Char('.'))) text.chop(1);
+  return text;
+}
+
+const MenuRow* menu_row(std::string_view name) {
+  for (const MenuRow& row : Menu_Table())
+    if (row.name == name) return &row;
+  return nullptr;
+}
+
+const ToolRow* tool_row(std::string_view name) {
+  for (const ToolRow& row : Toolbar_Table())
+    if (row.name == name) return &row;
+  return nullptr;
+}
+
+bool is_submenu(std::string_view name) {
+  for (const MenuRow& row : Menu_Table())
+    if (row.parent == name) return true;
+  return name == "mnuWindow" || name == "mnuHelp";
+}
+
+/// A colour as the company keeps it: red + 256 * green + 65536 * blue.
+QColor stored_color(int64_t value) {
+  return QColor(static_cast<int>(value & 255), static_cast<int>(value >> 8 & 255),
+                static_cast<int>(value >> 16 & 255));
+}
+
+/// A light background chosen by day is turned to its dark counterpart on a dark desktop.
+QColor suited_to_scheme(const QColor& color) {
+  if (!theme::is_dark() || color.lightness() < 128) return color;
+  return QColor::fromHsl(std::max(0, color.hslHue()), color.hslSaturation() / 2,
+                         std::max(26, 255 - color.lightness()));
+}
+
+constexpr std::string_view company_menus[] = {"mnuAction",  "mnuOptions", "mnuWindow",
+                                              "mnuReports", "mnuBackup",  "mnuRestore",
+                                              "mnuCompany", "mnuImport",  "mnuFile"};
+constexpr std::string_view single_user_menus[] = {"mnuRestore", "mnuCompany"};
+
+bool is_single_user_menu(std::string_view name) {
+  return name == single_user_menus[0] || name == single_user_menus[1];
+}
+
+const QString geometry_key = QStringLiteral("windows/frmMain/geometry");
+
+}  // namespace
+
+frmMain::frmMain(Session& running, const WindowTable& windows)
+    : Shell(running), windows_(windows), menus_(std::make_unique<frmMenus>(running)) {
+  setObjectName(QStringLiteral("frmMain"));
+  setWindowIcon(Program_Icon());
+  mdi_ = new QMdiArea;
+  mdi_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+  mdi_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+  setCentralWidget(mdi_);
+  panel_ = new StartPanel(mdi_->viewport());
+  connect(panel_, &StartPanel::chosen, this, [this](const QString& name) { run_command(utf8(name)); });
+  mdi_->viewport()->installEventFilter(this);
+  build_menus();
+  build_toolbar();
+  build_status_bar();
+  Timer1 = new QTimer(this);
+  Timer1->setObjectName(QStringLiteral("Timer1"));
+  Timer1->setInterval(100);
+  connect(Timer1, &QTimer::timeout, this, [this] { Timer1_Timer(); });
+  resize(1180, 760);
+  Disable_Menus();
+  show_title();
+}
+
+frmMain::~frmMain() {
+  for (Form* form : std::exchange(forms_, {})) disconnect(form, nullptr, this, nullptr);
+}
+
+bool frmMain::guard(const std::string& procedure, const Work& work) {
+  try {
+    work();
+    return true;
+  } catch (const std::exception& fault) {
+    Error_Box(session, "frmMain", procedure, fault);
+    return false;
+  }
+}
+
+// --- menus, toolbar, status bar ------------------------------------------------------------------
+
+void frmMain::build_menus() {
+  std::map<std::string_view, QMenu*> menus;
+  for (const MenuRow& row : Menu_Table()) {
+    QAction* action = nullptr;
+    if (is_submenu(row.name)) {
+      QMenu* menu = row.parent.empty() ? menuBar()->addMenu(text_of(row.caption))
+                                       : menus.at(row.parent)->addMenu(text_of(row.caption));
+      menu->setObjectName(text_of(row.name));
+      menus[row.name] = menu;
+      action = menu->menuAction();
+    } else {
+      action = add_to_menu(*menus.at(row.parent), row);
+    }
+    action->setObjectName(text_of(row.name));
+    commands_.emplace(row.name, action);
+  }
+  connect(menus.at("mnuWindow"), &QMenu::aboutToShow, this, [this] { fill_window_menu(); });
+}
+
+QAction* frmMain::add_to_menu(QMenu& menu, const MenuRow& row) {
+  if (row.caption == Separator) return menu.addSeparator();
+  QAction* action = menu.addAction(text_of(row.caption));
+  action->setShortcut(QKeySequence(QString::fromLatin1(row.shortcut)));
+  connect(action, &QAction::triggered, this, [this, name = std::string(row.name)] { run_command(name); });
+  return action;
+}
+
+void frmMain::build_toolbar() {
+  Toolbar1 = addToolBar(QStringLiteral("Short Cut Bar"));
+  Toolbar1->setObjectName(QStringLiteral("Toolbar1"));
+  Toolbar1->setMovable(false);
+  Toolbar1->setContextMenuPolicy(Qt::PreventContextMenu);
+  Toolbar1->setIconSize(QSize(24, 24));
+  Toolbar1->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
+  for (const ToolRow& row : Toolbar_Table()) {
+    if (row.caption == Separator) {
+      Toolbar1->addSeparator()->setObjectName(text_of(row.name));
+      continue;
+    }
+    QAction* action = Toolbar1->addAction(Line_Icon(QString::fromLatin1(row.icon)), text_of(row.caption));
+    action->setObjectName(text_of(row.name));
+    connect(action, &QAction::triggered, this, [this, name = std::string(row.name)] { run_command(name); });
+    if (QWidget* button = Toolbar1->widgetForAction(action)) {
+      button->setObjectName(text_of(row.name));
+      button->setMinimumWidth(9 * theme::unit);
+    }
+    commands_.emplace(row.name, action);
+  }
+  Toolbar1->setEnabled(false);
+}
+
+void frmMain::build_status_bar() {
+  company_label_ = new QLabel;
+  user_label_ = new QLabel;
+  date_label_ = new QLabel;
+  for (QLabel* label : {company_label_, user_label_, date_label_}) {
+    label->setContentsMargins(theme::gap, 0, theme::gap, 0);
+    statusBar()->addPermanentWidget(label);
+  }
+}
+
+void frmMain::fill_window_menu() {
+  QMenu* menu = commands_.at("mnuWindow")->menu();
+  menu->clear();
+  menu->addAction(QStringLiteral("&Cascade"), mdi_, &QMdiArea::cascadeSubWindows);
+  menu->addAction(QStringLiteral("&Tile"), mdi_, &QMdiArea::tileSubWindows);
+  menu->addSeparator();
+  auto* group = new QActionGroup(menu);
+  int number = 0;
+  for (Form* form : forms_) {
+    const QString mnemonic = ++number < 10 ? QStringLiteral("&%1 ").arg(number) : QString();
+    QAction* action =
+        menu->addAction(mnemonic + form->caption().replace(QLatin1Char('&'), QStringLiteral("&&")));
+    action->setCheckable(true);
+    action->setChecked(form->isActiveWindow() || form->parentWidget() == mdi_->activeSubWindow());
+    group->addAction(action);
+    connect(action, &QAction::triggered, form, [this, form] { bring_up(*form); });
+  }
+}
+
+// --- which commands can be used ------------------------------------------------------------------
+
+QAction* frmMain::command(std::string_view name) const {
+  const auto found = commands_.find(name);
+  return found == commands_.end() ? nullptr : found->second;
+}
+
+bool frmMain::is_available(std::string_view name) const {
+  for (const MenuRow* row = menu_row(name); row; row = menu_row(row->parent)) {
+    const QAction* action = command(row->name);
+    if (!action->isVisible() || !action->isEnabled()) return false;
+  }
+  const QAction* action = command(name);
+  return action && action->isVisible() && action->isEnabled();
+}
+
+void frmMain::set_enabled(std::string_view name, bool enabled) {
+  disabled_[std::string(name)] = !enabled;
+  refresh_commands();
+}
+
+void frmMain::set_visible(std::string_view name, bool visible) {
+  hidden_[std::string(name)] = !visible;
+  refresh_commands();
+}
+
+bool frmMain::exists(const MenuRow& row) const {
+  if (row.name == "mnuTaxCheck") return static_cast<bool>(Check_Updates);
+  if (row.name == "mnuHelp") return false;
+  return row.window.empty() || has_window(std::string(row.window));
+}
+
+void frmMain::refresh_commands() {
+  for (const auto& [name, action] : commands_) refresh_command(name, action);
+}
+
+void frmMain::refresh_command(const std::string& name, QAction* action) {
+  bool there = true, wants_company = false;
+  if (const MenuRow* row = menu_row(name)) {
+    there = exists(*row);
+    wants_company = !row->window.empty();
+  } else if (const ToolRow* tool = tool_row(name)) {
+    there = tool->window.empty() || has_window(std::string(tool->window));
+    wants_company = true;
+  }
+  const QString missing =
+      QStringLiteral("%1 is not part of this version yet.").arg(plain(utf8(action->text())));
+  action->setStatusTip(there ? QString() : missing);
+  action->setToolTip(there ? QString(action->text()).remove(QLatin1Char('&')) : missing);
+  action->setVisible(!hidden_[name]);
+  action->setEnabled(there && !disabled_[name] && (!wants_company || session.company_open()));
+}
+
+void frmMain::Enable_Menus() {
+  for (const std::string_view name : company_menus)
+    disabled_[std::string(name)] = is_single_user_menu(name) && session.MultiUser;
+  refresh_commands();
+  show_background();
+}
+
+void frmMain::Disable_Menus() {
+  for (const std::string_view name : company_menus) disabled_[std::string(name)] = true;
+  refresh_commands();
+}
+
+// --- how the frame looks -------------------------------------------------------------------------
+
+void frmMain::show_title() {
+  setWindowTitle(qt(Main_Title(session)));
+  QString name = windowTitle();
+  name.chop(QStringLiteral(" - Main Display").size());
+  company_label_->setText(session.company_open() ? name : QStringLiteral("No company"));
+  user_label_->setText(session.MultiUser ? qt(session.CurrentUser) : QStringLiteral("Single user"));
+  user_label_->setVisible(session.company_open());
+  date_label_->setText(qt(session.today().to_text()));
+}
+
+void frmMain::show_background() {
+  QColor color = palette().color(QPalette::Window).darker(theme::is_dark() ? 80 : 104);
+  if (session.sets.Colors) {
+    session.sets.Colors->MoveFirst();
+    if (session.sets.Colors->Seek("MainBack"))
+      color = suited_to_scheme(stored_color((*session.sets.Colors)["Color"].integer()));
+  }
+  mdi_->setBackground(color);
+  std::vector<StartPanel::Shortcut> usable;
+  for (const auto& shortcut : session.company_open() ? Company_Shortcuts() : Start_Shortcuts())
+    if (is_available(shortcut.command) || !session.company_open()) usable.push_back(shortcut);
+  const QString name = session.company_open() ? company_label_->text() : QStringLiteral("Tallymere");
+  const QString line = session.company_open()
+                           ? QLocale(QLocale::English)
+                                 .toString(QDate::fromString(qt(session.today().to_iso()), Qt::ISODate),
+                                           QStringLiteral("dddd, MMMM d, yyyy"))
+                           : QStringLiteral("No company is open.");
+  panel_->show_company(name, line, usable);
+}
+
+/// Once per company, a moment after it came up; never in the middle of what a box or a progress window is
+/// about.
+void frmMain::Timer1_Timer() {
+  if (QApplication::activeModalWidget()) return;
+  Timer1->stop();
+  if (!session.sets.Colors) return;
+  guard("Timer1_Timer", [this] {
+    show_background();
+    session.sets.GeneralPrefs->MoveFirst();
+    const bool there = session.sets.GeneralPrefs->Seek("ToolBarVisible");
+    Toolbar1->setVisible(there && (*session.sets.GeneralPrefs)["State"].text() == "Yes");
+    if (Check_Repeats) Check_Repeats();
+  });
+}
+
+void frmMain::changed(const std::string& table) {
+  for (Form* form : std::vector<Form*>(forms_)) form->on_changed(table);
+  if (!session.dbCompany) return;
+  if (table == "Colors") show_background();
+  if (table == "GeneralPrefs") {
+    session.sets.GeneralPrefs->MoveFirst();
+    if (session.sets.GeneralPrefs->Seek("ToolBarVisible"))
+      Toolbar1->setVisible((*session.sets.GeneralPrefs)["State"].text() == "Yes");
+  }
+}
+
+void frmMain::say(const std::string& text) {
+  statusBar()->showMessage(qt(text), 6000);
+}
+
+bool frmMain::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == mdi_->viewport() && event->type() == QEvent::Resize) panel_->centre();
+  return QMainWindow::eventFilter(watched, event);
+}
+
+void frmMain::restore_place() {
+  if (remembers_place) restoreGeometry(QSettings().value(geometry_key).toByteArray());
+}
+
+void frmMain::keep_place() {
+  if (remembers_place) QSettings().setValue(geometry_key, saveGeometry());
+}
+
+}  // namespace tallymere

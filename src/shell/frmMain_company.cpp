@@ -1,0 +1,249 @@
+#include <QAction>
+#include <QCloseEvent>
+#include <QMdiArea>
+#include <QTimer>
+#include <QToolBar>
+
+#include "core/backup.h"
+#include "core/company.h"
+#include "core/rights.h"
+#include "core/store/recordset.h"
+#include "shell/frmLogin.h"
+#include "shell/frmMain.h"
+#include "shell/frmMenus.h"
+#include "shell/frmPassword.h"
+
+/// How a company comes up, changes and goes.
+namespace tallymere {
+
+namespace {
+
+constexpr const char* company_filter = "Company Files (*.cmf)|*.cmf";
+
+std::string field_of_company(store::Database& company, const char* field) {
+  const auto info = company.OpenTable("CompanyInfo");
+  info->MoveFirst();
+  return (*info)[field].text();
+}
+
+}  // namespace
+
+// --- start ---------------------------------------------------------------------------------------
+
+void frmMain::Start() {
+  restore_place();
+  show_background();
+  show();
+  show_start();
+}
+
+bool frmMain::Start_With(const std::string& path) {
+  restore_place();
+  show_background();
+  show();
+  bool opened = false;
+  guard("mnuOpenCompany_Click", [&] { opened = Open_Company(path, true); });
+  if (!opened) show_start();
+  return opened;
+}
+
+void frmMain::show_start() {
+  Show_Window({.window = "frmStart", .key = {}});
+}
+
+void frmMain::company_came_up() {
+  show_title();
+  Enable_Menus();
+  Timer1->start();
+  Toolbar1->setEnabled(true);
+}
+
+// --- open ----------------------------------------------------------------------------------------
+
+bool frmMain::Open_Company_At_Start() {
+  const std::string path = session.prompts.open_file(company_filter, session.folder.string());
+  return !path.empty() && Open_Company(path, true);
+}
+
+void frmMain::mnuOpenCompany_Click() {
+  const std::string path = session.prompts.open_file(company_filter, session.folder.string());
+  if (!path.empty() && Hide_All()) Open_Company(path, false);
+}
+
+bool frmMain::Open_Company(const std::string& path, bool at_start) {
+  Open_Company_File(session, path);
+  if (!Log_In(at_start)) return false;
+  Hide_All();
+  Set_Recordsets(session);
+  company_came_up();
+  return true;
+}
+
+bool frmMain::Log_In(bool at_start) {
+  session.MultiUser = field_of_company(*session.dbCompany, "UserMode") != "Single";
+  if (!session.MultiUser) {
+    session.CurrentUser.clear();
+    Apply_User_Rights();
+    const bool locked = !field_of_company(*session.dbCompany, "Password").empty();
+    if (locked && !Ask_Password()) return Withdraw(at_start), false;
+  } else {
+    if (!Ask_User()) return Withdraw(true), false;
+    Apply_User_Rights();
+  }
+  caption_switch_mode();
+  return true;
+}
+
+bool frmMain::Ask_Password() {
+  frmPassword asking(*this);
+  return Run_Modal(asking);
+}
+
+bool frmMain::Ask_User() {
+  frmLogin asking(*this);
+  return Run_Modal(asking);
+}
+
+/// A company that was not let in is closed again. The path of one whose password was refused while another
+/// company was open stays, and with it the menus; its windows say that no company is open.
+void frmMain::Withdraw(bool forget_path) {
+  Timer1->stop();
+  Close_Company_File(session);
+  if (forget_path) session.CompanyPath.clear();
+}
+
+void frmMain::Apply_User_Rights() {
+  UserFlags flags;
+  if (session.MultiUser) {
+    const auto users = session.dbCompany->OpenTable("Users");
+    users->Index("UserName");
+    flags = {false, false, false, false, false};
+    if (users->Seek(session.CurrentUser))
+      flags = {(*users)["AR"].flag(), (*users)["AP"].flag(), (*users)["BankCC"].flag(),
+               (*users)["Inventory"].flag(), (*users)["Payroll"].flag()};
+  }
+  for (const CommandRight& right :
+       tallymere::Apply_User_Rights(session.MultiUser, session.CurrentUser, flags)) {
+    Q_ASSERT(command(right.name));
+    auto& refused = right.property == CommandRight::Property::Visible ? hidden_ : disabled_;
+    refused[std::string(right.name)] = !right.granted;
+  }
+  refresh_commands();
+}
+
+void frmMain::caption_switch_mode() {
+  command("mnuSwitchMode")
+      ->setText(session.MultiUser ? QStringLiteral("Switch to Single-User Mode")
+                                  : QStringLiteral("Switch to Multi-User Mode"));
+}
+
+void frmMain::mnuSwitchMode_Click() {
+  if (session.MultiUser && session.CurrentUser != Administrator)
+    return session.prompts.box(
+        {"Only \"Admin\" User can switch Compnay file to Single-User Mode", "Access Denied", Icon::Critical});
+  const bool multi = !session.MultiUser;
+  store::Transaction tx(*session.dbCompany,
+                        multi ? "Switch to Multi-User Mode" : "Switch to Single-User Mode");
+  auto& info = *session.sets.CompanyInfo;
+  info.MoveFirst();
+  info.Edit();
+  info["UserMode"] = multi ? "Multi" : "Single";
+  info.Update();
+  tx.commit();
+  session.MultiUser = multi;
+  session.CurrentUser = multi ? std::string(Administrator) : std::string();
+  caption_switch_mode();
+  Apply_User_Rights();
+  Enable_Menus();
+  show_title();
+}
+
+// --- new -----------------------------------------------------------------------------------------
+
+void frmMain::mnuNewCompany_Click() {
+  Hourglass hourglass(session.prompts);
+  if (Hide_All()) Create_Company_At_Start();
+}
+
+void frmMain::Create_Company_At_Start() {
+  Show_Window({.window = "frmCreate", .key = {}});
+}
+
+bool frmMain::Create_Company(const std::string& name) {
+  Hourglass hourglass(session.prompts);
+  New_Company(session, name);
+  if (session.LastCompanyError == store::errors::database_exists) return false;
+  Open_Company_File(session, Company_Path(session, name));
+  Set_Recordsets(session);
+  session.MultiUser = false;
+  session.CurrentUser.clear();
+  Apply_User_Rights();
+  caption_switch_mode();
+  company_came_up();
+  return true;
+}
+
+// --- backup and restore --------------------------------------------------------------------------
+
+bool frmMain::Backup() {
+  if (!session.dbCompany) throw store::Error(store::errors::file_not_found, "No company is open.");
+  const std::string file =
+      session.prompts.save_file(Backup_Filter, field_of_company(*session.dbCompany, "Name"));
+  return !file.empty() && Backup_Company(session, file);
+}
+
+void frmMain::mnuBackup_Click() {
+  Backup();
+}
+
+bool frmMain::Restore_Company_At_Start() {
+  const auto name =
+      session.prompts.input("Restore Name", "Please Enter the File Name for the Company to restore to.");
+  if (!name || name->empty()) return false;
+  const auto target = Company_Path(session, *name);
+  const std::string file = session.prompts.open_file(Backup_Filter, session.folder.string());
+  if (file.empty() || !Restore_Company(session, file, target)) return false;
+  session.CompanyFile = *name;
+  Hourglass hourglass(session.prompts);
+  Set_Recordsets(session);
+  Apply_User_Rights();
+  company_came_up();
+  return true;
+}
+
+void frmMain::mnuRestore_Click() {
+  const std::string file = session.prompts.open_file(Backup_Filter, session.folder.string());
+  if (file.empty()) return;
+  const std::string shown_name = session.CompanyFile;
+  if (!Restore_Company(session, file, session.CompanyPath, [this] { return Hide_All(); })) return;
+  session.CompanyFile = shown_name;
+  Hourglass hourglass(session.prompts);
+  Set_Recordsets(session);
+  Timer1->start();
+}
+
+void frmMain::mnuTaxCheck_Click() {
+  if (Check_Updates) Check_Updates();
+}
+
+// --- exit ----------------------------------------------------------------------------------------
+
+void frmMain::mnuExit_Click() {
+  close();
+}
+
+void frmMain::closeEvent(QCloseEvent* event) {
+  if (!Hide_All()) return event->ignore();
+  const bool asked = session.company_open() &&
+                     session.prompts.ask({"Do you want to Back up your data?", "Back Up", Icon::Question});
+  // Who asked for a backup and did not get it is not sent away without one.
+  if (asked && !guard("MDIForm_Unload", [this] { Backup(); })) return event->ignore();
+  Timer1->stop();
+  if (session.company_open()) Close_Sets(session);
+  session.log.close();
+  menus_.reset();
+  keep_place();
+  event->accept();
+}
+
+}  // namespace tallymere

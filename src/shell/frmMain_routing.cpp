@@ -1,0 +1,216 @@
+#include <QApplication>
+#include <QCursor>
+#include <QEventLoop>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QPushButton>
+#include <QStatusBar>
+#include <QToolButton>
+
+#include "core/store/error.h"
+#include "shell/frmCreate.h"
+#include "shell/frmMain.h"
+#include "shell/frmMenus.h"
+#include "shell/frmStart.h"
+#include "shell/menus.h"
+#include "shell/widgets/Form.h"
+
+/// From a command to its window.
+namespace tallymere {
+
+namespace {
+
+/// The arrow while a window waits for the user, whatever long pass it interrupts.
+class ArrowPointer {
+ public:
+  ArrowPointer() { QApplication::setOverrideCursor(Qt::ArrowCursor); }
+  ~ArrowPointer() { QApplication::restoreOverrideCursor(); }
+  ArrowPointer(const ArrowPointer&) = delete;
+  ArrowPointer& operator=(const ArrowPointer&) = delete;
+};
+
+/// Windows that belong to the frame itself and need no company.
+bool is_own(const std::string& name) {
+  return name == "frmStart" || name == "frmCreate";
+}
+
+QMdiSubWindow* frame_of(const Form& form) {
+  return qobject_cast<QMdiSubWindow*>(form.parentWidget());
+}
+
+}  // namespace
+
+void frmMain::run_command(const std::string& name) {
+  using Handler = void (frmMain::*)();
+  static const std::map<std::string_view, Handler> handlers = {
+      {"mnuNewCompany", &frmMain::mnuNewCompany_Click},
+      {"mnuOpenCommpany", &frmMain::mnuOpenCompany_Click},
+      {"mnuSwitchMode", &frmMain::mnuSwitchMode_Click},
+      {"mnuBackup", &frmMain::mnuBackup_Click},
+      {"mnuRestore", &frmMain::mnuRestore_Click},
+      {"mnuTaxCheck", &frmMain::mnuTaxCheck_Click},
+      {"mnuExit", &frmMain::mnuExit_Click},
+      {"mnuDepositFunds", &frmMain::mnuDepositFunds_Click},
+      {"btnHelp", &frmMain::btnHelp_Click},
+      {"frmStart", &frmMain::show_start}};
+  for (const ToolRow& tool : Toolbar_Table())
+    if (tool.name == name) {
+      if (!tool.command.empty() && tool.command != name) return run_command(std::string(tool.command));
+      if (!tool.window.empty())
+        return route({.parent = "", .name = tool.name, .caption = "", .window = tool.window});
+    }
+  if (const auto handler = handlers.find(name); handler != handlers.end()) {
+    guard(name + "_Click", [&] { (this->*handler->second)(); });
+    return;
+  }
+  for (const MenuRow& row : Menu_Table())
+    if (row.name == name) return route(row);
+}
+
+void frmMain::route(const MenuRow& row) {
+  guard(std::string(row.name) + "_Click", [&] {
+    const Request request{.window = std::string(row.window), .key = std::string(row.key)};
+    if (request.window == "frmPrintCustom")
+      Show_Custom_Report(request);
+    else
+      Show_Window(request);
+  });
+}
+
+/// Payments that wait in the customers' accounts are offered first.
+void frmMain::mnuDepositFunds_Click() {
+  if (!session.dbCompany) throw store::Error(store::errors::file_not_found, "No company is open.");
+  const bool waiting = !session.dbCompany
+                            ->OpenRecordset(
+                                "SELECT * FROM Transactions WHERE Type = 'Payment' AND  Paid = 0 AND "
+                                "Account = 'AR1'")
+                            .empty();
+  Show_Window({.window = waiting ? "frmOpenPayments" : "frmDeposits", .key = {}});
+}
+
+void frmMain::btnHelp_Click() {
+  session.prompts.box(
+      {"Please Contact Quillbrook Software for Help or Tech Support.", "Help", Icon::Information});
+}
+
+void frmMain::Go_To_Transaction(const std::string& type, int64_t number) {
+  Show_Window({.window = std::string(Window_Of_Type(type)), .key = {}, .number = number});
+}
+
+void frmMain::Popup(const std::string& menu, QWidget& from, const std::vector<std::string>& disabled,
+                    std::function<void(const std::string&)> chosen) {
+  const bool button = qobject_cast<QPushButton*>(&from) || qobject_cast<QToolButton*>(&from);
+  const QPoint at = button ? from.mapToGlobal(QPoint(0, from.height())) : QCursor::pos();
+  menus_->Popup(menu, at, disabled, std::move(chosen));
+}
+
+// --- windows -------------------------------------------------------------------------------------
+
+Form* frmMain::find_window(const std::string& name) const {
+  for (auto form = forms_.rbegin(); form != forms_.rend(); ++form)
+    if (utf8((*form)->objectName()) == name) return *form;
+  return nullptr;
+}
+
+Form* frmMain::Show_Window(const Request& request) {
+  if (!is_own(request.window) && !has_window(request.window)) {
+    say(request.window + " is not part of this version yet.");
+    return nullptr;
+  }
+  if (!is_own(request.window) && !session.dbCompany)
+    throw store::Error(store::errors::file_not_found, "No company is open.");
+  Hourglass hourglass(session.prompts);
+  Form* form = request.new_instance ? nullptr : find_window(request.window);
+  if (!form) form = open_form(request.window);
+  if (!form) return nullptr;
+  form->guard("Form_Load", [&] { form->take(request); });
+  if (std::find(forms_.begin(), forms_.end(), form) == forms_.end())
+    return nullptr;  // it closed itself again
+  bring_up(*form);
+  return form;
+}
+
+/// A window that cannot load says so itself and does not come up.
+Form* frmMain::open_form(const std::string& name) {
+  std::unique_ptr<Form> form;
+  if (name == "frmStart")
+    form = std::make_unique<frmStart>(*this, *this);
+  else if (name == "frmCreate")
+    form = std::make_unique<frmCreate>(*this, *this);
+  else
+    form.reset(windows_.at(name)(*this));
+  if (!form->guard("Form_Load", [&] { form->load(); })) return nullptr;
+  Form* opened = form.release();
+  opened->place() == Form::Place::Inside ? stand_inside(*opened) : stand_above(*opened);
+  forms_.push_back(opened);
+  connect(opened, &Form::finished, this, [this, opened] { forget(opened); });
+  return opened;
+}
+
+void frmMain::stand_inside(Form& form) {
+  QMdiSubWindow* frame = mdi_->addSubWindow(&form);
+  frame->setAttribute(Qt::WA_DeleteOnClose);
+  frame->setWindowIcon(windowIcon());
+}
+
+void frmMain::stand_above(Form& form) {
+  form.setParent(this,
+                 Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint | Qt::WindowSystemMenuHint);
+}
+
+void frmMain::bring_up(Form& form) {
+  QMdiSubWindow* frame = frame_of(form);
+  if (!frame) {
+    form.show();
+    form.raise();
+    return form.activateWindow();
+  }
+  const bool fresh = !frame->isVisible();
+  form.show();
+  frame->isMinimized() ? frame->showNormal() : frame->show();
+  if (fresh && !frame->isMaximized()) frame->resize(frame->size().boundedTo(mdi_->viewport()->size()));
+  mdi_->setActiveSubWindow(frame);
+}
+
+void frmMain::forget(Form* form) {
+  if (std::erase(forms_, form) == 0) return;
+  if (QMdiSubWindow* frame = frame_of(*form)) {
+    frame->hide();
+    frame->deleteLater();
+  } else {
+    form->deleteLater();
+  }
+}
+
+/// Closes every window but this one. false: one of them asked to stay.
+bool frmMain::Hide_All() {
+  for (Form* form : std::vector<Form*>(forms_)) {
+    if (std::find(forms_.begin(), forms_.end(), form) == forms_.end()) continue;
+    QMdiSubWindow* frame = frame_of(*form);
+    if (!(frame ? frame->close() : form->close())) return false;
+  }
+  return true;
+}
+
+bool frmMain::Run_Modal(Form& form) {
+  if (!form.guard("Form_Load", [&] { form.load(); })) return false;
+  QWidget* below = QApplication::activeModalWidget();
+  form.setParent(below ? below : this,
+                 Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint | Qt::WindowSystemMenuHint);
+  form.setWindowModality(Qt::ApplicationModal);
+  QEventLoop loop;
+  connect(&form, &Form::finished, &loop, &QEventLoop::quit);
+  forms_.push_back(&form);
+  {
+    const ArrowPointer arrow;
+    form.show();
+    form.activateWindow();
+    loop.exec();
+  }
+  std::erase(forms_, &form);
+  form.hide();
+  form.setParent(nullptr);
+  return form.accepted();
+}
+
+}  // namespace tallymere

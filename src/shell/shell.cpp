@@ -1,0 +1,14 @@
+#include "shell/shell.h"
+
+#include "shell/menus.h"
+
+namespace tallymere {
+
+Form* Shell::Show_Custom_Report(Request request) {
+  request.window = "frmPrintCustom";
+  request.new_instance = true;
+  if (request.columns.empty()) request.columns = Custom_Report_Columns(request.key);
+  return Show_Window(request);
+}
+
+}  // namespace tallymere

@@ -1,0 +1,56 @@
+#include "shell/widgets/AddressEdit.h"
+
+#include <QFocusEvent>
+#include <QFontMetrics>
+#include <QKeyEvent>
+
+#include "core/text.h"
+#include "shell/widgets/theme.h"
+
+namespace tallymere {
+
+namespace {
+
+constexpr int most_lines_by_enter = 3;
+constexpr int lines_shown = 5;
+
+}  // namespace
+
+AddressEdit::AddressEdit(QWidget* parent) : QPlainTextEdit(parent) {
+  setTabChangesFocus(true);
+  setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+  setMinimumHeight(QFontMetrics(font()).lineSpacing() * 4 + theme::unit);
+}
+
+std::string AddressEdit::text() const {
+  return replace_all(toPlainText().toStdString(), "\n", "\r\n");
+}
+
+void AddressEdit::set_text(const std::string& text) {
+  setPlainText(QString::fromStdString(replace_all(text, "\r\n", "\n")));
+}
+
+QSize AddressEdit::sizeHint() const {
+  const QFontMetrics metrics(font());
+  return {metrics.averageCharWidth() * 36, metrics.lineSpacing() * lines_shown + 2 * theme::unit};
+}
+
+void AddressEdit::keyPressEvent(QKeyEvent* event) {
+  const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  if (enter && blockCount() > most_lines_by_enter) return event->ignore();  // the window moves on
+  QPlainTextEdit::keyPressEvent(event);
+}
+
+void AddressEdit::focusInEvent(QFocusEvent* event) {
+  QPlainTextEdit::focusInEvent(event);
+  if (event->reason() != Qt::PopupFocusReason && event->reason() != Qt::ActiveWindowFocusReason) selectAll();
+}
+
+void AddressEdit::focusOutEvent(QFocusEvent* event) {
+  QPlainTextEdit::focusOutEvent(event);
+  if (event->reason() == Qt::PopupFocusReason || event->reason() == Qt::ActiveWindowFocusReason) return;
+  if (const QString all = toPlainText(); all.endsWith(QLatin1Char('\n'))) setPlainText(all.chopped(1));
+  Q_EMIT LostFocus();
+}
+
+}  // namespace tallymere

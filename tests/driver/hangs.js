@@ -1,0 +1,4 @@
+// fails with: hangs\.js:3: the script hangs
+start();
+print("here");
+for (;;) {}

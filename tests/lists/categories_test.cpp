@@ -1,0 +1,143 @@
+#include "lists/categories.h"
+
+#include <functional>
+
+#include "core/store/recordset.h"
+#include "core/text.h"
+#include "support/test_company.h"
+
+namespace tallymere {
+namespace {
+
+using testing::TestCompany;
+
+std::string Names(const std::vector<AccountRow>& rows, const std::string& type) {
+  std::string names;
+  for (const AccountRow& row : rows)
+    if (row.Type == type) names += row.Name + ";";
+  return names;
+}
+
+TEST(Categories, TheListIsATreeByTypeAndHidesWhatHangsBelowDormantParents) {
+  TestCompany company;
+  company.run("DELETE FROM Accounts");
+  company.add_category("b", "Bank");
+  company.add_category("a", "Bank");
+  company.add_category("a1", "Bank", "a");
+  company.add_category("a11", "Expense", "a1");  // of another type than its parent
+  company.add_category("a2", "Bank", "a", true);
+  company.add_category("d", "Bank", "", true);
+  company.add_category("d1", "Bank", "d");
+  company.add_category("e", "Expense");
+  company.add_category("lost", "Bank", "gone");
+  const auto rows = Make_List(*company.session, false);
+  EXPECT_EQ(Names(rows, "Bank"), "Name of a;     Name of a1;Name of b;");
+  EXPECT_EQ(Names(rows, "Expense"), "          Name of a11;Name of e;");
+  EXPECT_EQ(Names(Make_List(*company.session, true), "Bank"),
+            "Name of a;     Name of a1;     Name of a2;Name of b;Name of d;     Name of d1;");
+}
+
+TEST(Categories, CommandsFollowTheRow) {
+  struct Case {
+    AccountRow row;
+    const char* allowed;  ///< r register, c reconcile, d delete, 2 double click
+  };
+  const Case cases[] = {
+      {{"Checking", "Bank", {}, "0SS"}, "rcd2"},
+      {{"Visa", "Credit Card", {}, "1SS"}, "rcd2"},
+      {{"Undeposited Funds", "Current Asset", {}, "UF1"}, "r2"},
+      {{"     Truck", "Fixed Asset", {}, "2SS"}, "rd2"},
+      {{"     Accounts Payable", "Accounts Payable", {}, "AP1"}, "r2"},
+      {{"Trade", "Accounts Receivable", {}, "AR1"}, "rd2"},
+      {{"Loan", "Long Term Liability", {}, "3SS"}, "rd2"},
+      {{"Retained Earnings", "Equity", {}, "RE1"}, ""},
+      {{"Opening", "Equity", {}, "OE1"}, ""},
+      {{"Sales", "Income", {}, "4SS"}, "d"},
+      {{"Cost", "Cost of Goods Sold", {}, "5SS"}, "d"},
+      {{"Odd", "Other Asset", {}, "6SS"}, "rd2"},
+      {{"Odd", "Other Liability", {}, "7SS"}, "d2"},  // the menu names its liabilities, the click does not
+  };
+  for (const Case& expected : cases) {
+    const AccountCommands commands = Account_Commands(expected.row);
+    EXPECT_EQ(std::string(commands.mnuRegister ? "r" : "") + (commands.mnuReconcile ? "c" : "") +
+                  (commands.mnuDelete ? "d" : "") + (Opens_Register(expected.row.Type) ? "2" : ""),
+              expected.allowed)
+        << expected.row.Name << ", " << expected.row.Type;
+  }
+}
+
+TEST(Categories, OnlyAnUnusedCategoryIsDeleted) {
+  TestCompany company;
+  auto delete_it = [&](const char* id, bool yes) {
+    company.prompts.boxes.clear();
+    company.prompts.answers = {yes};
+    return Delete_Category(*company.session, {"     Name", "Expense", {}, id});
+  };
+  company.run("INSERT INTO Transactions (TransNum, Account) VALUES (1, '46SS')");
+  EXPECT_FALSE(delete_it("40SS", false));
+  EXPECT_EQ(company.prompts.boxes.front().text, "Are you sure you want to delete \"Name\"");
+  EXPECT_EQ(company.prompts.boxes.front().icon, Icon::Critical);
+  for (const char* used : {"46SS", "41SS"}) {  // posted to; parent of others
+    EXPECT_FALSE(delete_it(used, true));
+    EXPECT_EQ(company.prompts.boxes.back().title, "No Deletion");
+  }
+  EXPECT_TRUE(delete_it("40SS", true));
+  EXPECT_TRUE(company.db().value("SELECT CatID FROM Accounts WHERE CatID = '40SS'").is_null());
+}
+
+TEST(Categories, TheFormNamesItsFirstMistake) {
+  TestCompany company;
+  CategoryForm form = New_Category();
+  EXPECT_EQ(Save_Category(*company.session, form)->control, "txtName");
+  form.txtName = "Fuel";
+  EXPECT_EQ(Save_Category(*company.session, form)->box.text, "Please select a type for this Category");
+  EXPECT_EQ(Check_Sub_Category(form)->box.title, "No Parent");
+  form.cmbType = "Expanse";  // would show in no list
+  EXPECT_EQ(Save_Category(*company.session, form)->control, "cmbType");
+}
+
+TEST(Categories, ANewCategoryTakesTheLowestFreeNumber) {
+  TestCompany company;
+  company.run("DELETE FROM Accounts WHERE CatID = '7SS'");
+  CategoryForm form = New_Category(AccountMode::FromCheck, "Gifts");
+  form.cmbType = "Expense";
+  form.lblParentID = "41SS";  // picked, then the box was cleared
+  ASSERT_FALSE(Save_Category(*company.session, form));
+  EXPECT_EQ(form.CatID, "7SS");
+  auto row = company.db().OpenRecordset("SELECT * FROM Accounts WHERE CatID = '7SS'");
+  EXPECT_EQ(row["OpeningDate"].date(), Date(2026, 6, 15));
+  EXPECT_EQ(row["LastYearEndBal"].money(), Money());
+  EXPECT_FALSE(row["LastYearEndBal"].value().is_null());
+  EXPECT_TRUE(row["ParentAccount"].blank());
+}
+
+TEST(Categories, AnEditKeepsWhatTheFormDoesNotShow) {
+  TestCompany company;
+  company.run("UPDATE Accounts SET LastYearEndBal = ?, AccountNum = '6120' WHERE CatID = '42SS'",
+              {Money::dollars(9)});
+  CategoryForm form = Edit_Category(*company.session, "42SS");
+  EXPECT_TRUE(form.Check1);
+  EXPECT_EQ(form.cmbSubCat + form.lblParentID + form.txtAcctNum, "Automobile41SS6120");
+  form.txtName = "Gas";
+  form.chkDormant = true;
+  ASSERT_FALSE(Save_Category(*company.session, form));
+  auto row = company.db().OpenRecordset("SELECT * FROM Accounts WHERE CatID = '42SS'");
+  EXPECT_EQ(row["AccountName"].text() + row["ParentAccount"].text(), "Gas41SS");
+  EXPECT_TRUE(row["Dormant"].flag());
+  EXPECT_EQ(row["LastYearEndBal"].money(), Money::dollars(9));
+}
+
+TEST(Categories, NoCategoryIsOfferedAFamilyMemberBelowItAsParent) {
+  TestCompany company;
+  auto offers = [](const std::vector<ParentChoice>& choices, const char* id) {
+    return std::ranges::any_of(choices, [&](const ParentChoice& choice) { return choice.CatID == id; });
+  };
+  const auto choices = Parent_Choices(*company.session, Edit_Category(*company.session, "41SS"));
+  EXPECT_TRUE(offers(choices, "40SS"));
+  EXPECT_FALSE(offers(choices, "41SS"));
+  EXPECT_FALSE(offers(choices, "42SS"));
+  EXPECT_FALSE(offers(choices, "0SS"));
+}
+
+}  // namespace
+}  // namespace tallymere

@@ -1,0 +1,35 @@
+// A company with a password of its own asks for it, and lets nobody in without.
+// As the company form keeps "Rain7".
+const kept = "$argon2id$v=19$m=65536,t=2,p=1$dTrHdSwrJEe3UBDQ2yZ5gA$fYK29lcZ72zAe37Eem8x8PqukhQjs8sTMcmSuFRZC54";
+
+start();
+newCompany("Acme");
+other("UPDATE CompanyInfo SET Password = ?", kept);
+box("Back Up", null, "No");
+menu("mnuExit");
+
+start();
+modal("frmPassword", function (w) {
+  equal(w.caption, "Password Required");
+  click(w.cmdCancel);
+});
+openCompany("Acme");
+ok(isOpen("frmStart"), "turned away");
+equal(win("frmMain").caption, "Main Display");
+ok(!win("frmMain").mnuAction.enabled && !win("frmMain").Toolbar1.enabled);
+
+modal("frmPassword", function (w) {
+  for (const wrong of ["", "rain7", "Rain7 "]) {
+    type(w.Text1, wrong);
+    box("Password", "Incorrect Password");
+    click(w.cmdOk);
+  }
+  type(w.Text1, "Rain7");
+  click(w.cmdOk);
+});
+openCompany("Acme");
+ok(!isOpen("frmStart"));
+equal(win("frmMain").caption, "Acme - Main Display");
+ok(win("frmMain").mnuRestore.enabled);
+equal(log(), []);
+equal(rows("SELECT UserMode FROM CompanyInfo"), [{UserMode: "Single"}]);
