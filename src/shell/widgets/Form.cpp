@@ -113,8 +113,9 @@ void Form::go_to(QWidget* control) {
   select_all(control);
 }
 
-void Form::finish(bool accepted) {
+void Form::finish(bool accepted, const std::string& answer) {
   accepted_ = accepted;
+  answer_ = answer;
   auto* frame = qobject_cast<QMdiSubWindow*>(parentWidget());
   frame ? frame->close() : close();
 }

@@ -46,8 +46,10 @@ class Form : public QWidget {
   /// Goes to a control, bringing its tab page to the front and selecting its text.
   void go_to(QWidget* control);
 
-  void finish(bool accepted);  ///< ends a modal run, or closes
+  /// Ends a modal run with an answer for the caller, or closes.
+  void finish(bool accepted, const std::string& answer = {});
   bool accepted() const { return accepted_; }
+  const std::string& answer() const { return answer_; }
   const Clock& clock() const { return session.clock; }
   QSize sizeHint() const override;  ///< as the user last left it, where sizes are remembered
 
@@ -101,6 +103,7 @@ class Form : public QWidget {
 
   Place place_;
   bool accepted_ = false;
+  std::string answer_;
   bool prepared_ = false;
 };
 
