@@ -1,12 +1,13 @@
 #include "app/windows.h"
 
+#include "entry/frmRegister.h"
 #include "shell/frmMain.h"
 
 namespace tallymere {
 
 /// A window's row: {"frmCheck", Make_Window<frmCheck>}.
 const WindowTable& Windows() {
-  static const WindowTable windows = {};
+  static const WindowTable windows = {{"frmRegister", Make_Window<frmRegister>}};
   return windows;
 }
 
