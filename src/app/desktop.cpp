@@ -64,6 +64,11 @@ QString filter_of(const std::string& filter) {
   return filters.join(QStringLiteral(";;"));
 }
 
+/// "cbk" of "Backup Files (*.cbk)|*.cbk".
+QString suffix_of(const std::string& filter) {
+  return qt(filter).section(QStringLiteral("*."), -1);
+}
+
 bool is_file_work(const std::string& label) {
   return label == "Backup" || label == "Restore";
 }
@@ -112,12 +117,14 @@ std::string DesktopPrompts::open_file(const std::string& filter, const std::stri
 std::string DesktopPrompts::save_file(const std::string& filter, const std::string& name) {
   const ArrowPointer arrow;
   const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-  return utf8(QFileDialog::getSaveFileName(above(), QStringLiteral("Save As"),
-                                           folder + QLatin1Char('/') + qt(name), filter_of(filter)));
+  QFileDialog dialog(above(), QStringLiteral("Save As"), folder, filter_of(filter));
+  dialog.setAcceptMode(QFileDialog::AcceptSave);
+  dialog.setDefaultSuffix(suffix_of(filter));  // so that the question about replacing names the right file
+  dialog.selectFile(qt(name).replace(QLatin1Char('/'), QLatin1Char('-')));
+  return dialog.exec() == QDialog::Accepted ? utf8(dialog.selectedFiles().value(0)) : std::string();
 }
 
-// --- progress
-// ------------------------------------------------------------------------------------------------
+// --- progress ------------------------------------------------------------------------------------
 
 bool DesktopPrompts::progress(const std::string& label, int64_t done, int64_t total) {
   if (!shell_) return true;
@@ -168,8 +175,7 @@ void DesktopPrompts::sound(const std::string& file) {
   Play_Sound(sounds_, file);
 }
 
-// --- the program
-// ---------------------------------------------------------------------------------------------
+// --- the program ---------------------------------------------------------------------------------
 
 void Prepare_Application(QApplication& app) {
   QApplication::setOrganizationName(QStringLiteral("Quillbrook Software"));

@@ -46,21 +46,31 @@ Arguments read_arguments(const QApplication& app) {
           utf8(parser.value(folder))};
 }
 
-/// Draws the frame once it has settled, without asking anything on the way out.
-void draw_and_exit(frmMain& frame, const std::string& file) {
-  QTimer::singleShot(600, &frame, [&frame, file] {
+/// Draws the frame once it has settled. Nobody is there to answer what comes up on the way.
+void draw_and_exit(frmMain& frame, const std::string& file, bool opened) {
+  QTimer::singleShot(600, &frame, [&frame, file, opened] {
     const bool drawn = frame.grab().save(qt(file));
     if (!drawn) qWarning("The picture could not be written: %s", file.c_str());
-    QApplication::exit(drawn ? 0 : 1);
+    QApplication::exit(drawn && opened ? 0 : 1);
   });
 }
 
+void answer_for_nobody(frmMain& frame) {
+  auto* nobody = new QTimer(&frame);
+  QObject::connect(nobody, &QTimer::timeout, nobody, [] {
+    if (QWidget* modal = QApplication::activeModalWidget()) modal->close();
+  });
+  nobody->start(50);
+}
+
 void start(frmMain& frame, const Arguments& arguments) {
+  if (!arguments.screenshot.empty()) answer_for_nobody(frame);
+  bool opened = true;
   if (arguments.company.empty())
     frame.Start();
   else
-    frame.Start_With(fs::absolute(arguments.company).string());
-  if (!arguments.screenshot.empty()) draw_and_exit(frame, arguments.screenshot);
+    opened = frame.Start_With(fs::absolute(arguments.company).string());
+  if (!arguments.screenshot.empty()) draw_and_exit(frame, arguments.screenshot, opened);
 }
 
 /// The splash stands until the frame comes up; nobody waits for it to look at a company or a picture.

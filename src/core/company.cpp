@@ -94,7 +94,15 @@ void Fill_New_Company(Session& session, Database& company, const std::string& na
   fill.commit();
 }
 
-void Sign(Session& session, Database& db) {
+bool Is_Cache(const std::string& table, const std::string& field) {
+  const TableDef* definition = find_table(table);
+  const FieldDef* found = definition ? definition->find_field(field) : nullptr;
+  return found && found->cache;
+}
+
+/// Tells a company's file who works on it and which of its fields are only caches.
+void Introduce(Session& session, Database& db) {
+  db.set_caches(Is_Cache);
   db.set_author({[&session] { return session.acting_user(); }, [&session] { return session.clock.stamp(); }});
 }
 
@@ -140,7 +148,7 @@ void New_Company(Session& session, const std::string& name) {
   try {
     auto company = Database::CreateDatabase(path, FileKind::Company);
     company->NewPassword("", database_password);
-    Sign(session, *company);
+    Introduce(session, *company);
     Fill_New_Company(session, *company, name);
   } catch (...) {
     std::error_code ignored;
@@ -152,7 +160,7 @@ void New_Company(Session& session, const std::string& name) {
 
 void Open_Company_File(Session& session, const fs::path& path) {
   auto opened = Open_Current(path, FileKind::Company);
-  Sign(session, *opened);
+  Introduce(session, *opened);
   Close_Company_File(session);
   session.dbCompany = std::move(opened);
   session.CompanyPath = path.string();

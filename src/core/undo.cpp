@@ -11,12 +11,6 @@ namespace {
 using store::Change;
 using store::Database;
 
-bool Is_Cache(const std::string& table, const std::string& field) {
-  const TableDef* definition = find_table(table);
-  const FieldDef* found = definition ? definition->find_field(field) : nullptr;
-  return found && found->cache;
-}
-
 std::string Refusal(const store::Action& action, const std::string& why) {
   return "Action " + std::to_string(action.number) + " (" + action.what + ") cannot be taken back: " + why;
 }
@@ -55,7 +49,7 @@ void Refuse_If_Pointed_At(Database& db, const store::Action& action, const Chang
 void Undo_Action(Database& company, int64_t number) {
   store::Action action = store::Find_Action(company, number);
   store::Transaction undo(company, "Undo " + std::to_string(number) + ": " + action.what);
-  store::Revert_Changes(company, number, Is_Cache);
+  store::Revert_Changes(company, number);
   for (const Change& change : store::Changes_Of(company, number))
     if (change.kind == store::RowChange::Kind::Added) Refuse_If_Pointed_At(company, action, change);
   undo.undoes(number);

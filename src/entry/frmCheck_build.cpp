@@ -62,14 +62,8 @@ class WordsLine : public QLabel {
   }
 };
 
-QLabel* shown(QLabel* label, QWidget* control) {
-  label->setBuddy(control);
-  label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-  return label;
-}
-
-QLabel* caption(const char* text, QWidget* control) {
-  return shown(new QLabel(QString::fromLatin1(text)), control);
+QLabel* label(const char* text, QWidget* control) {
+  return label_for(control, QString::fromLatin1(text));
 }
 
 QHBoxLayout* figure(const char* text, QLabel* value) {
@@ -90,7 +84,7 @@ QPushButton* later(QPushButton* button, bool there, const char* window) {
 }  // namespace
 
 frmCheck::frmCheck(Shell& shell_of_frame)
-    : EntryForm(shell_of_frame, "frmCheck"), lists_(new DropDowns(session, this)) {
+    : EntryForm(shell_of_frame, "frmCheck"), check_{.Date = session.today()}, lists_(new DropDowns(session, this)) {
   setWindowTitle(QStringLiteral("Checks"));
   build_fields();
   build_lines();
@@ -127,23 +121,23 @@ QFrame* frmCheck::build_check() {
   auto* grid = new QGridLayout(fraCheck);
   grid->setContentsMargins(3 * theme::unit, 2 * theme::unit, 3 * theme::unit, 2 * theme::unit);
   grid->setSpacing(theme::gap);
-  grid->addWidget(caption("N&umber", txtNumber), 0, 3);
+  grid->addWidget(label("N&umber", txtNumber), 0, 3);
   grid->addWidget(txtNumber, 0, 4);
-  grid->addWidget(caption("D&ate", DTPicker1), 1, 3);
+  grid->addWidget(label("D&ate", DTPicker1), 1, 3);
   grid->addWidget(DTPicker1, 1, 4);
   grid->setRowMinimumHeight(2, theme::gap);
-  grid->addWidget(caption("Pa&y to the Order of", cmbPayee), 3, 0);
+  grid->addWidget(label("Pa&y to the Order of", cmbPayee), 3, 0);
   grid->addWidget(cmbPayee, 3, 1, 1, 2);
-  grid->addWidget(caption("$", nullptr), 3, 3);
+  grid->addWidget(new QLabel(QStringLiteral("$")), 3, 3, Qt::AlignRight | Qt::AlignVCenter);
   grid->addWidget(txtAmount, 3, 4);
   grid->addWidget(lblAmount, 4, 0, 1, 4);
   grid->addWidget(new QLabel(QStringLiteral("Dollars")), 4, 4, Qt::AlignLeft | Qt::AlignBottom);
-  QLabel* address = caption("Addre&ss", txtAddress);
+  QLabel* address = label("Addre&ss", txtAddress);
   address->setAlignment(Qt::AlignRight | Qt::AlignTop);
   address->setContentsMargins(0, theme::unit / 2, 0, 0);
   grid->addWidget(address, 5, 0);
   grid->addWidget(txtAddress, 5, 1);
-  grid->addWidget(caption("&Memo", txtMemo), 6, 0);
+  grid->addWidget(label("&Memo", txtMemo), 6, 0);
   grid->addWidget(txtMemo, 6, 1);
   grid->setColumnStretch(1, 4);
   grid->setColumnStretch(2, 3);
@@ -219,7 +213,7 @@ QGroupBox* frmCheck::build_liability() {
 void frmCheck::build() {
   auto* bank = row_layout();
   cmbAccount->setMinimumContentsLength(28);
-  bank->addWidget(caption("&Bank", cmbAccount));
+  bank->addWidget(label("&Bank", cmbAccount));
   bank->addWidget(cmbAccount);
   bank->addStretch(1);
   bank->addWidget(new QLabel(QStringLiteral("Balance:")));

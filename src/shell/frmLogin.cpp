@@ -45,19 +45,22 @@ void frmLogin::load() {
   txtPassord->setFocus();
 }
 
-bool frmLogin::may_log_in(const std::string& user) const {
+/// The user's name as the company spells it, when the password is right.
+std::optional<std::string> frmLogin::accepted_user(const std::string& user) const {
   const auto users = session.dbCompany->OpenTable("Users");
   users->Index("UserName");
-  return users->Seek(user) && Password_Matches((*users)["Password"].text(), utf8(txtPassord->text()));
+  if (!users->Seek(user)) return std::nullopt;
+  if (!Password_Matches((*users)["Password"].text(), utf8(txtPassord->text()))) return std::nullopt;
+  return (*users)["UserName"].text();
 }
 
 void frmLogin::cmdLogin_AfterClick() {
   const std::string user = cmbUser->text();
   if (user.empty())
     return show_fault({{"Please enter a User name.", "No User", Icon::Information}, "cmbUser"});
-  if (!may_log_in(user))
-    return show_fault({{"Invlaid Login", "Access Denied", Icon::Critical}, "txtPassord"});
-  session.CurrentUser = user;
+  const auto name = accepted_user(user);
+  if (!name) return show_fault({{"Invlaid Login", "Access Denied", Icon::Critical}, "txtPassord"});
+  session.CurrentUser = *name;
   finish(true);
 }
 

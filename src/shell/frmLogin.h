@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 #include "shell/widgets/Form.h"
 
 class QLineEdit;
@@ -20,7 +22,7 @@ class frmLogin : public Form {
  private:
   void build();
   void cmdLogin_AfterClick();
-  bool may_log_in(const std::string& user) const;
+  std::optional<std::string> accepted_user(const std::string& user) const;
 
   SSDBCombo* cmbUser;
   QLineEdit* txtPassord;

@@ -108,8 +108,7 @@ bool frmMain::guard(const std::string& procedure, const Work& work) {
   }
 }
 
-// --- menus, toolbar, status bar
-// -----------------------------------------------------------------------------
+// --- menus, toolbar, status bar ------------------------------------------------------------------
 
 void frmMain::build_menus() {
   std::map<std::string_view, QMenu*> menus;
@@ -191,8 +190,7 @@ void frmMain::fill_window_menu() {
   }
 }
 
-// --- which commands can be used
-// -----------------------------------------------------------------------------
+// --- which commands can be used ------------------------------------------------------------------
 
 QAction* frmMain::command(std::string_view name) const {
   const auto found = commands_.find(name);
@@ -257,8 +255,7 @@ void frmMain::Disable_Menus() {
   refresh_commands();
 }
 
-// --- how the frame looks
-// --------------------------------------------------------------------------------------
+// --- how the frame looks -------------------------------------------------------------------------
 
 void frmMain::show_title() {
   setWindowTitle(qt(Main_Title(session)));

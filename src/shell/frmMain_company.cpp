@@ -28,8 +28,7 @@ std::string field_of_company(store::Database& company, const char* field) {
 
 }  // namespace
 
-// --- start
-// -----------------------------------------------------------------------------------------------------
+// --- start ---------------------------------------------------------------------------------------
 
 void frmMain::Start() {
   restore_place();
@@ -59,8 +58,7 @@ void frmMain::company_came_up() {
   Toolbar1->setEnabled(true);
 }
 
-// --- open
-// ------------------------------------------------------------------------------------------------------
+// --- open ----------------------------------------------------------------------------------------
 
 bool frmMain::Open_Company_At_Start() {
   const std::string path = session.prompts.open_file(company_filter, session.folder.string());
@@ -125,9 +123,11 @@ void frmMain::Apply_User_Rights() {
                (*users)["Inventory"].flag(), (*users)["Payroll"].flag()};
   }
   for (const CommandRight& right :
-       tallymere::Apply_User_Rights(session.MultiUser, session.CurrentUser, flags))
-    (right.property == CommandRight::Property::Visible ? hidden_ : disabled_)[std::string(right.name)] =
-        !right.granted;
+       tallymere::Apply_User_Rights(session.MultiUser, session.CurrentUser, flags)) {
+    Q_ASSERT(command(right.name));
+    auto& refused = right.property == CommandRight::Property::Visible ? hidden_ : disabled_;
+    refused[std::string(right.name)] = !right.granted;
+  }
   refresh_commands();
 }
 
@@ -158,8 +158,7 @@ void frmMain::mnuSwitchMode_Click() {
   show_title();
 }
 
-// --- new
-// -------------------------------------------------------------------------------------------------------
+// --- new -----------------------------------------------------------------------------------------
 
 void frmMain::mnuNewCompany_Click() {
   Hourglass hourglass(session.prompts);
@@ -184,8 +183,7 @@ bool frmMain::Create_Company(const std::string& name) {
   return true;
 }
 
-// --- backup and restore
-// ----------------------------------------------------------------------------------------
+// --- backup and restore --------------------------------------------------------------------------
 
 bool frmMain::Backup() {
   if (!session.dbCompany) throw store::Error(store::errors::file_not_found, "No company is open.");
@@ -228,8 +226,7 @@ void frmMain::mnuTaxCheck_Click() {
   if (Check_Updates) Check_Updates();
 }
 
-// --- exit
-// ------------------------------------------------------------------------------------------------------
+// --- exit ----------------------------------------------------------------------------------------
 
 void frmMain::mnuExit_Click() {
   close();

@@ -104,8 +104,7 @@ void frmMain::Popup(const std::string& menu, QWidget& from, const std::vector<st
   menus_->Popup(menu, at, disabled, std::move(chosen));
 }
 
-// --- windows
-// ---------------------------------------------------------------------------------------------------
+// --- windows -------------------------------------------------------------------------------------
 
 Form* frmMain::find_window(const std::string& name) const {
   for (auto form = forms_.rbegin(); form != forms_.rend(); ++form)

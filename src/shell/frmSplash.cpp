@@ -60,9 +60,9 @@ void frmSplash::build() {
   grid->setContentsMargins(4 * theme::unit, 4 * theme::unit, 4 * theme::unit, 3 * theme::unit);
   grid->setHorizontalSpacing(3 * theme::unit);
   grid->addWidget(mark, 0, 0, 2, 1, Qt::AlignTop);
-  grid->addWidget(Label4, 0, 1);
-  grid->addWidget(Label3, 0, 1);
-  grid->addWidget(Label1, 1, 1, Qt::AlignTop);
+  grid->addWidget(Label4, 0, 1, 1, 2);
+  grid->addWidget(Label3, 0, 1, 1, 2);
+  grid->addWidget(Label1, 1, 1, 1, 2, Qt::AlignTop);
   grid->setRowStretch(2, 1);
   grid->addWidget(lblLoad, 3, 0, 1, 2);
   grid->addWidget(Label2, 3, 2, Qt::AlignRight);

@@ -240,7 +240,7 @@ TEST(TransactionWriter, DeletesWholeTransactionsAndCanTakeItBack) {
   auto action = store::List_Actions(company.db(), 1).front();
   EXPECT_EQ(action.what, "Deleted Check 1042, Acme Supply");
   store::Transaction back(company.db(), "Back");
-  store::Revert_Changes(company.db(), action.number, [](auto&, auto&) { return false; });
+  store::Revert_Changes(company.db(), action.number);
   back.commit();
   EXPECT_EQ(Ledger_Of(company.db(), 1), "0SS 0 25;9SS 25 0;");
 }

@@ -73,6 +73,9 @@ struct Author {
   std::function<std::string()> now;  ///< "yyyy-mm-dd hh:mm:ss"
 };
 
+/// Whether a field is only a cache, recomputed from other rows: no change of it counts as another user's work.
+using IsCache = std::function<bool(const std::string& table, const std::string& field)>;
+
 /// A database file. Queries take `?` parameters; they may also be written with the program's own points of SQL
 /// (`#m/d/yyyy#`, `True`, `LIKE 'a*'`, any column name). Amounts in query text travel as parameters only.
 class Database {
@@ -117,6 +120,8 @@ class Database {
 
   void set_author(Author author) { author_ = std::move(author); }
   const Author& author() const { return author_; }
+  void set_caches(IsCache caches) { caches_ = std::move(caches); }
+  bool is_cache(const std::string& table, const std::string& field) const { return caches_ && caches_(table, field); }
   bool keeps_history() const { return keeps_history_; }
   bool in_transaction() const { return depth_ > 0; }
   Connection& connection() { return connection_; }
@@ -133,6 +138,7 @@ class Database {
   std::filesystem::path path_;
   mutable Connection connection_;
   Author author_;
+  IsCache caches_;
   bool keeps_history_ = false;
   int depth_ = 0;
   mutable std::optional<std::vector<TableDef>> tables_;

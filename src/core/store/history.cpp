@@ -63,11 +63,11 @@ std::vector<Change> Changes_Of(Database& db, int64_t number) {
   return changes;
 }
 
-void Revert_Changes(Database& db, int64_t number, const IsCache& is_cache) {
+void Revert_Changes(Database& db, int64_t number) {
   Action action = Find_Action(db, number);
   auto refused = db.connection().apply_inverse(Changeset_Of(db, number), [&](const std::string& table, int column) {
     const Field* field = Field_At(db, table, column);
-    return field && is_cache(table, field->name);
+    return field && db.is_cache(table, field->name);
   });
   if (refused.empty()) return;
   throw Error(errors::undo_refused, "Action " + std::to_string(number) + " (" + action.what +

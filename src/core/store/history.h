@@ -35,8 +35,7 @@ std::vector<Action> List_Actions(Database& db, int64_t limit);
 Action Find_Action(Database& db, int64_t number);
 std::vector<Change> Changes_Of(Database& db, int64_t number);
 
-using IsCache = std::function<bool(const std::string& table, const std::string& field)>;
 /// Takes an action back inside the caller's Transaction. Error 3350 with the tables named when later work stands on it.
-void Revert_Changes(Database& db, int64_t number, const IsCache& is_cache);
+void Revert_Changes(Database& db, int64_t number);
 
 }  // namespace tallymere::store

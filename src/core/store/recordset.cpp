@@ -127,6 +127,7 @@ std::string RowSet::where_unchanged(std::vector<Value>& params) const {
   std::string condition = " WHERE RowKey = ?";
   params.push_back(key_);
   for (size_t at = 0; at < fields_.size(); ++at) {
+    if (db_->is_cache(table_, fields_[at].name)) continue;
     condition += " AND " + Quoted(fields_[at].name) + " IS ?";
     bool is_text = fields_[at].type == FieldType::Text || fields_[at].type == FieldType::Memo;
     if (is_text) condition += " COLLATE BINARY";

@@ -13,6 +13,7 @@ class HistoryOf : public ::testing::Test {
   HistoryOf() {
     db = Database::CreateDatabase(folder / "a.cmf", FileKind::Company);
     db->set_author({[] { return "Ann"; }, [] { return "2026-01-02 10:11:12"; }});
+    db->set_caches([](auto&, auto& field) { return field == "Balance"; });
     Transaction make(*db, "make");
     db->CreateTableDef(TableDef{"Accounts", {}, {}}.CreateField("Name", FieldType::Text).CreateField("Balance", FieldType::Money));
     make.commit();
@@ -26,7 +27,7 @@ class HistoryOf : public ::testing::Test {
   int undo(int64_t number) {
     try {
       Transaction tx(*db, "Undo " + std::to_string(number));
-      Revert_Changes(*db, number, [](auto&, auto& field) { return field == "Balance"; });
+      Revert_Changes(*db, number);
       tx.undoes(number);
       tx.commit();
       return 0;
@@ -81,6 +82,16 @@ TEST_F(HistoryOf, AnyActionIsTakenBackWholeInAnyOrderUnlessLaterWorkStandsOnIt) 
 TEST_F(HistoryOf, ARefreshedBalanceIsNoLaterWork) {
   int64_t added = act("Add", "INSERT INTO Accounts (Name, Balance) VALUES ('Bank', 0)");
   act("Updating Categories", "UPDATE Accounts SET Balance = 990000");
+  auto open_in_a_window = db->OpenRecordset("SELECT * FROM Accounts");
+  open_in_a_window.Edit();
+  open_in_a_window["Name"] = "Checking";
+  act("Updating Categories", "UPDATE Accounts SET Balance = 1");
+  Transaction rename(*db, "Rename");
+  EXPECT_NO_THROW(open_in_a_window.Update());
+  EXPECT_EQ(names(), "Checking ");
+  rename.commit();
+  EXPECT_EQ(undo(added), errors::undo_refused);
+  EXPECT_EQ(undo(List_Actions(*db, 1).at(0).number), 0);
   EXPECT_EQ(undo(added), 0);
   EXPECT_EQ(names(), "");
 }

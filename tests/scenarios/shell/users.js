@@ -22,7 +22,7 @@ modal("frmLogin", function (w) {
   type(w.cmbUser, "Nobody");
   box("Access Denied", "Invlaid Login");
   click(w.cmdLogin);
-  type(w.cmbUser, "Karen");
+  type(w.cmbUser, "karen");
   type(w.txtPassord, "guess");
   box("Access Denied", "Invlaid Login");
   click(w.cmdLogin);
