@@ -70,6 +70,7 @@ void frmRegister::take(const Request& request) {
   register_ = std::make_unique<Register>(session, request.key);
   show_category();
   Load_Register(0);
+  focus_line();
 }
 
 void frmRegister::on_changed(const std::string& table) {
@@ -116,9 +117,7 @@ void frmRegister::Timer1_Timer() {
   if (row_ < 0) return;
   grdRegister->set_cell(row_, std::max(grdRegister->Col(), 0));
   place_floats();
-  const QWidget* focus = QApplication::focusWidget();
-  if (!focus || !isAncestorOf(focus) || fraBreakDown->isAncestorOf(focus)) return;
-  grdRegister->Col() == column::Date ? focus_date() : grdRegister->setFocus();
+  if (isAncestorOf(QApplication::focusWidget()) && !fraBreakDown->isVisible()) focus_line();
 }
 
 std::string frmRegister::cells_of(int row) {
@@ -177,7 +176,7 @@ void frmRegister::grdRegister_RowColChange(int last_column) {
   if (last_column == column::Payee) fill_memorised();
   if (grdRegister->Row() != row_) arrive(grdRegister->Row());
   place_floats();
-  if (grdRegister->Col() == column::Date && grdRegister->hasFocus()) focus_date();
+  if (grdRegister->Col() == column::Date && grdRegister->hasFocus()) focus_line();
 }
 
 void frmRegister::grdRegister_AfterColUpdate(int column) {

@@ -48,7 +48,7 @@ class frmRegister : public Form {
   void connect_commands();
   void place_floats();  ///< datReg over the line's Date cell, fraBreakDown below the line
   void place_break_down();
-  void focus_date();
+  void focus_line();  ///< the current cell, or the date control over it
   void leave_date();
   void show_category();
   void show_colors();

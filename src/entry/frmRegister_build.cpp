@@ -25,6 +25,7 @@ namespace {
 class RegisterGrid : public SSDBGrid {
  public:
   void set_date_control(QuillbrookDatePick* control) { date_ = control; }
+  QSize sizeHint() const override { return {128 * theme::unit, 60 * theme::unit}; }
 
  protected:
   bool edit(const QModelIndex& cell, EditTrigger trigger, QEvent* event) override {
@@ -44,7 +45,7 @@ GridColumn text(const char* name, int width = 0) {
   return {.name = QString::fromLatin1(name), .width = width};
 }
 GridColumn money(const char* name) {
-  return {.name = QString::fromLatin1(name), .kind = Kind::money, .width = 12};
+  return {.name = QString::fromLatin1(name), .kind = Kind::money, .width = 11};
 }
 GridColumn choice(const char* name, SSDBDropDown* list, int id = -1) {
   return {.name = QString::fromLatin1(name), .list = list, .id_column = id};
@@ -80,7 +81,7 @@ void frmRegister::build_register() {
   grdRegister = named("grdRegister", grid);
   GridColumn balance = money("Balance");
   balance.locked = true;
-  grdRegister->set_columns({{.name = QStringLiteral("Date"), .kind = Kind::date, .width = 15},
+  grdRegister->set_columns({{.name = QStringLiteral("Date"), .kind = Kind::date, .width = 13},
                             text("Num", 8),
                             choice("Payee", drpVendor),
                             choice("Category", SSDBDropDown1, column::CatID),
@@ -155,7 +156,6 @@ void frmRegister::build() {
   column->addLayout(total);
   column->addLayout(button_row({cmdGoto, cmdBreakdown, cmdRefresh}, {cmdRecord}));
   setMinimumSize(90 * theme::unit, 40 * theme::unit);
-  resize(130 * theme::unit, 70 * theme::unit);
 }
 
 void frmRegister::show_category() {
@@ -198,7 +198,8 @@ void frmRegister::place_break_down() {
   fraBreakDown->setGeometry(sheet.left() + apart, y, width, height);
 }
 
-void frmRegister::focus_date() {
+void frmRegister::focus_line() {
+  if (datReg->isHidden() || grdRegister->Col() != column::Date) return grdRegister->setFocus();
   datReg->setFocus();
   datReg->selectAll();
 }

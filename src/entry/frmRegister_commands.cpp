@@ -73,7 +73,7 @@ void frmRegister::show_mistake(const Fault& fault) {
     guard("cmdRecord_Click", [&] {
       if (in_break_down) return show_break_down();
       grdRegister->set_cell(row_, mistaken_column());
-      grdRegister->Col() == column::Date ? focus_date() : grdRegister->setFocus();
+      focus_line();
     });
   });
 }

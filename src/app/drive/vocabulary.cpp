@@ -84,23 +84,6 @@ QJSValue Popup(Toolbox&, const Args& args) {
   return {};
 }
 
-/// A window as another one asks for it: show("frmRegister", {key: "0SS", new_instance: true}).
-QJSValue Show(Toolbox&, const Args& args) {
-  const QJSValue wish = args.value(1);
-  const auto text = [&](const char* name) {
-    const QJSValue value = wish.property(QString::fromLatin1(name));
-    return value.isUndefined() ? std::string() : utf8(value.toString());
-  };
-  auto& shell = dynamic_cast<Shell&>(lookup::Frame());
-  const Form* shown = shell.Show_Window({.window = utf8(args.text(0)),
-                                         .key = text("key"),
-                                         .number = wish.property(QStringLiteral("number")).toInt(),
-                                         .new_instance = wish.property(QStringLiteral("new_instance")).toBool()});
-  if (!shown) throw Failed{utf8(args.text(0)) + " did not come up"};
-  hands::Settle();
-  return {};
-}
-
 // --- windows and controls
 // -----------------------------------------------------------------------------------
 
@@ -258,7 +241,6 @@ const std::map<QString, Verb>& Verbs() {
                                              {"click", Click},
                                              {"popup", Popup},
                                              {"rightclick", Right_Click},
-                                             {"show", Show},
                                              {"win", Win},
                                              {"isOpen", Is_Open},
                                              {"wins", Wins},
