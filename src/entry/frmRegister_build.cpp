@@ -81,7 +81,7 @@ void frmRegister::build_register() {
   grdRegister = named("grdRegister", grid);
   GridColumn balance = money("Balance");
   balance.locked = true;
-  grdRegister->set_columns({{.name = QStringLiteral("Date"), .kind = Kind::date, .width = 13},
+  grdRegister->set_columns({{.name = QStringLiteral("Date"), .kind = Kind::date, .width = 15},
                             text("Num", 8),
                             choice("Payee", drpVendor),
                             choice("Category", SSDBDropDown1, column::CatID),
@@ -98,6 +98,7 @@ void frmRegister::build_register() {
   datReg->setAccessibleName(QStringLiteral("Date"));
   datReg->setMinimumWidth(0);
   datReg->setFrame(false);
+  datReg->setTextMargins(theme::unit / 2, 0, 0, 0);  // the date does not jump when its line is gone to
   datReg->allow_blank(true);
   datReg->setFocusPolicy(Qt::ClickFocus);  // Tab comes to it through the grid's Date cell
   datReg->hide();
