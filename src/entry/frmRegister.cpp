@@ -24,12 +24,10 @@ struct TextCell {
   int column;
   std::string RegisterEntry::*field;
 };
-constexpr TextCell text_cells[] = {{column::Num, &RegisterEntry::Number},
-                                   {column::Payee, &RegisterEntry::Name},
-                                   {column::Category, &RegisterEntry::Category},
-                                   {column::Memo, &RegisterEntry::Memo},
-                                   {column::Class, &RegisterEntry::Class},
-                                   {column::CatID, &RegisterEntry::CatID}};
+constexpr TextCell text_cells[] = {
+    {column::Num, &RegisterEntry::Number},        {column::Payee, &RegisterEntry::Name},
+    {column::Category, &RegisterEntry::Category}, {column::Memo, &RegisterEntry::Memo},
+    {column::Class, &RegisterEntry::Class},       {column::CatID, &RegisterEntry::CatID}};
 
 /// Other windows write texts of several lines; a cell shows them in one.
 std::string one_line(const std::string& text) {
@@ -69,7 +67,7 @@ void frmRegister::take(const Request& request) {
   if (register_ && !let_go()) return;
   register_ = std::make_unique<Register>(session, request.key);
   show_category();
-  Load_Register(0);
+  show_lines(0);
   focus_line();
 }
 
@@ -90,10 +88,13 @@ void frmRegister::unloading() {
 
 void frmRegister::Load_Register(int64_t return_to) {
   const Hourglass hourglass(session.prompts);
+  register_ = std::make_unique<Register>(session, register_->category().CatID);
+  show_lines(return_to);
+}
+
+void frmRegister::show_lines(int64_t return_to) {
   const QScopedValueRollback code(filling_, true);
   reload_due_ = false;
-  hide_break_down();
-  register_ = std::make_unique<Register>(session, register_->category().CatID);
   const int column = return_to ? std::max(grdRegister->Col(), 0) : static_cast<int>(column::Date);
   const int count = static_cast<int>(register_->count());
   grdRegister->set_rows(count, [this](int row) { return GridRow{cells_of(row), {}}; });
@@ -112,12 +113,16 @@ void frmRegister::reload_later() {
 
 /// After the grid was laid out: the current line in view, the date control on it.
 void frmRegister::Timer1_Timer() {
-  if (reload_due_ && changed_) return;  // typed text stays; leaving the line comes back here
+  if (reload_due_ && is_typing()) return;  // what is typed stays; moving on comes back here
   if (reload_due_) return Load_Register(entry_.TransNum);
   if (row_ < 0) return;
   grdRegister->set_cell(row_, std::max(grdRegister->Col(), 0));
   place_floats();
   if (isAncestorOf(QApplication::focusWidget()) && !fraBreakDown->isVisible()) focus_line();
+}
+
+bool frmRegister::is_typing() const {
+  return changed_ || grdRegister->editing() || (datReg->hasFocus() && datReg->isModified());
 }
 
 std::string frmRegister::cells_of(int row) {
@@ -177,6 +182,7 @@ void frmRegister::grdRegister_RowColChange(int last_column) {
   if (grdRegister->Row() != row_) arrive(grdRegister->Row());
   place_floats();
   if (grdRegister->Col() == column::Date && grdRegister->hasFocus()) focus_line();
+  if (reload_due_) Timer1->start();
 }
 
 void frmRegister::grdRegister_AfterColUpdate(int column) {
@@ -227,12 +233,15 @@ void frmRegister::take_cell(int column) {
   datReg->set_value(entry_.Date);
 }
 
-/// A line stands on one side: an amount on the other gives way.
+/// A line stands on one side: an amount on the other gives way. Text that is no amount is none.
 void frmRegister::take_amount(int column) {
   const int opposite = column == column::Out ? column::In : column::Out;
-  if (!grdRegister->text(row_, column).empty()) show_cell(opposite, "");
-  entry_.Credit = Money_At(*grdRegister, row_, column::Out);
-  entry_.Debit = Money_At(*grdRegister, row_, column::In);
+  if (Money_At(*grdRegister, row_, column)) show_cell(opposite, "");
+  const auto out = Money_At(*grdRegister, row_, column::Out), in = Money_At(*grdRegister, row_, column::In);
+  const bool readable = (out || grdRegister->text(row_, column::Out).empty()) &&
+                        (in || grdRegister->text(row_, column::In).empty());
+  entry_.Credit = readable ? out : std::nullopt;
+  entry_.Debit = readable ? in : std::nullopt;
 }
 
 void frmRegister::fill_memorised() {

@@ -56,8 +56,10 @@ class frmRegister : public Form {
   // --- lines (frmRegister.cpp)
   /// Fills the grid anew and goes to the line of a transaction, else to the end.
   void Load_Register(int64_t return_to);
+  void show_lines(int64_t return_to);
   void reload_later();  ///< once nothing typed would be lost by it
   void Timer1_Timer();
+  bool is_typing() const;
   std::string cells_of(int row);  ///< fills the line when it comes into view
   void arrive(int row);
   void open_line(int row);

@@ -1,4 +1,5 @@
-// How a register looks: the sheet of lines, the date control and the break down that float over it, the commands.
+// How a register looks: the sheet of lines, the date control and the break down that float over it, the
+// commands.
 #include <QCoreApplication>
 #include <QFrame>
 #include <QKeyEvent>
@@ -25,7 +26,7 @@ namespace {
 class RegisterGrid : public SSDBGrid {
  public:
   void set_date_control(QuillbrookDatePick* control) { date_ = control; }
-  QSize sizeHint() const override { return {128 * theme::unit, 60 * theme::unit}; }
+  QSize sizeHint() const override { return {134 * theme::unit, 60 * theme::unit}; }
 
  protected:
   bool edit(const QModelIndex& cell, EditTrigger trigger, QEvent* event) override {
@@ -47,8 +48,8 @@ GridColumn text(const char* name, int width = 0) {
 GridColumn money(const char* name) {
   return {.name = QString::fromLatin1(name), .kind = Kind::money, .width = 11};
 }
-GridColumn choice(const char* name, SSDBDropDown* list, int id = -1) {
-  return {.name = QString::fromLatin1(name), .list = list, .id_column = id};
+GridColumn choice(const char* name, SSDBDropDown* list, int width = 0, int id = -1) {
+  return {.name = QString::fromLatin1(name), .width = width, .list = list, .id_column = id};
 }
 GridColumn hidden(const char* name) {
   return {.name = QString::fromLatin1(name), .kind = Kind::hidden};
@@ -82,11 +83,11 @@ void frmRegister::build_register() {
   GridColumn balance = money("Balance");
   balance.locked = true;
   grdRegister->set_columns({{.name = QStringLiteral("Date"), .kind = Kind::date, .width = 15},
-                            text("Num", 8),
+                            text("Num", 7),
                             choice("Payee", drpVendor),
-                            choice("Category", SSDBDropDown1, column::CatID),
+                            choice("Category", SSDBDropDown1, 22, column::CatID),
                             text("Memo"),
-                            choice("Class", lists_->drpClass),
+                            choice("Class", lists_->drpClass, 10),
                             money("Payment"),
                             {.name = QStringLiteral("Clear"), .kind = Kind::check, .width = 5},
                             money("Deposit"),
@@ -98,7 +99,7 @@ void frmRegister::build_register() {
   datReg->setAccessibleName(QStringLiteral("Date"));
   datReg->setMinimumWidth(0);
   datReg->setFrame(false);
-  datReg->setTextMargins(theme::unit / 2, 0, 0, 0);  // the date does not jump when its line is gone to
+  datReg->setTextMargins(theme::unit * 3 / 4, 0, 0, 0);  // the date does not jump when its line is gone to
   datReg->allow_blank(true);
   datReg->setFocusPolicy(Qt::ClickFocus);  // Tab comes to it through the grid's Date cell
   datReg->hide();
@@ -110,7 +111,7 @@ void frmRegister::build_break_down() {
   fraBreakDown->setFrameShape(QFrame::StyledPanel);
   fraBreakDown->setAutoFillBackground(true);
   grdBreakDown = named("grdBreakDown", new SSDBGrid);
-  grdBreakDown->set_columns({choice("Account", SSDBDropDown1, line::CatID), money("Amount"), text("Memo"),
+  grdBreakDown->set_columns({choice("Account", SSDBDropDown1, 0, line::CatID), money("Amount"), text("Memo"),
                              choice("Customer", drpCustomers), choice("Class", lists_->drpClass),
                              hidden("CatID"), hidden("SourceName")});
   grdBreakDown->set_read_only(false);
