@@ -40,9 +40,10 @@ QString text_of(double hours) {
 
 void frmCheck::load() {
   lists_->fill();
+  lblCompany->setText(qt(session.dbCompany->value("SELECT Name FROM CompanyInfo").text()));
   on_changed("Accounts");
   on_changed("Colors");
-  show_check(New_Check(session));
+  show_check(Open_Checks(session));
   cmbPayee->setFocus();
 }
 
@@ -193,17 +194,12 @@ void frmCheck::cmbAccount_LostFocus() {
   set_bank(cmbAccount->Valid() ? cmbAccount->id() : utf8(lblBankID->text()));
 }
 
-void frmCheck::cmbPayee_LostFocus() {
-  if (check_.is_narrow()) return;
-  Load_Address_Box();
-}
-
 /// An address that was written by hand stays until another payee is chosen.
 void frmCheck::Load_Address_Box() {
   const std::string name = cmbPayee->text();
-  if (check_.is_narrow() || name == addressed_) return;
+  if (name == addressed_) return;
   addressed_ = name;
-  txtAddress->set_text(tallymere::Load_Address_Box(session, name));
+  if (!check_.is_narrow()) txtAddress->set_text(tallymere::Load_Address_Box(session, name));
   if (name.empty()) return;
   valid_ = cmbPayee->Valid();
   Check_New_Payee();
@@ -279,7 +275,7 @@ bool frmCheck::settle() {
   grdExpense->commit();
   grdItems->commit();
   new_category();
-  cmbPayee_LostFocus();
+  Load_Address_Box();
   return utf8(txtAmount->text()) == in_words_ || txtAmount_LostFocus();
 }
 

@@ -63,7 +63,6 @@ class frmCheck : public EntryForm {
   bool settle();  ///< what leaving the fields and lines sets off, before saving; false: something was refused
   void set_bank(const std::string& CatID);
   void cmbAccount_LostFocus();
-  void cmbPayee_LostFocus();
   void Load_Address_Box();
   void Check_New_Payee();
   bool txtAmount_LostFocus();
@@ -90,7 +89,7 @@ class frmCheck : public EntryForm {
 
   QFrame* fraCheck;
   SSDBCombo *cmbAccount, *cmbPayee;
-  QLabel *lblBankID, *lblBalance, *lblAmount, *lblPayPeriod, *lblHours, *lblPaidThrough;
+  QLabel *lblCompany, *lblBankID, *lblBalance, *lblAmount, *lblPayPeriod, *lblHours, *lblPaidThrough;
   QLineEdit *txtIndex, *txtNumber, *txtMemo;
   QuillbrookDatePick* DTPicker1;
   MoneyEdit* txtAmount;

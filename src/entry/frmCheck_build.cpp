@@ -121,6 +121,12 @@ QFrame* frmCheck::build_check() {
   auto* grid = new QGridLayout(fraCheck);
   grid->setContentsMargins(3 * theme::unit, 2 * theme::unit, 3 * theme::unit, 2 * theme::unit);
   grid->setSpacing(theme::gap);
+  lblCompany = named("lblCompany", new QLabel);
+  QFont heading = lblCompany->font();
+  heading.setBold(true);
+  heading.setPointSizeF(heading.pointSizeF() * 1.2);
+  lblCompany->setFont(heading);
+  grid->addWidget(lblCompany, 0, 0, 1, 3);
   grid->addWidget(label("N&umber", txtNumber), 0, 3);
   grid->addWidget(txtNumber, 0, 4);
   grid->addWidget(label("D&ate", DTPicker1), 1, 3);
@@ -136,11 +142,10 @@ QFrame* frmCheck::build_check() {
   address->setAlignment(Qt::AlignRight | Qt::AlignTop);
   address->setContentsMargins(0, theme::unit / 2, 0, 0);
   grid->addWidget(address, 5, 0);
-  grid->addWidget(txtAddress, 5, 1);
+  grid->addWidget(txtAddress, 5, 1, 1, 2);
   grid->addWidget(label("&Memo", txtMemo), 6, 0);
-  grid->addWidget(txtMemo, 6, 1);
-  grid->setColumnStretch(1, 4);
-  grid->setColumnStretch(2, 3);
+  grid->addWidget(txtMemo, 6, 1, 1, 2);
+  grid->setColumnStretch(1, 1);
   grid->setColumnMinimumWidth(4, 18 * theme::unit);
   return fraCheck;
 }
@@ -257,7 +262,7 @@ void frmCheck::connect_controls() {
         field, signal, this, [this, procedure, handler] { guard(procedure, [&] { (this->*handler)(); }); },
         Qt::QueuedConnection);
   };
-  later_on(cmbPayee, &SSDBCombo::LostFocus, "cmbPayee_LostFocus", &frmCheck::cmbPayee_LostFocus);
+  later_on(cmbPayee, &SSDBCombo::LostFocus, "cmbPayee_LostFocus", &frmCheck::Load_Address_Box);
   later_on(txtAmount, &MoneyEdit::LostFocus, "txtAmount_LostFocus", &frmCheck::txtAmount_LostFocus);
   on(SSTab1, &QTabWidget::currentChanged, "SSTab1_Click", [this] { go_to_lines(); });
   on(cmdPrint, "cmdPrint_Click", [this] { cmdPrint_Click(); });

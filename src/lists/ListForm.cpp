@@ -28,6 +28,12 @@ void ListForm::build(std::vector<GridColumn> columns, int id_column, QWidget* be
   column->addLayout(buttons);
 }
 
+/// Room for some twenty rows, unless the user left the window otherwise.
+QSize ListForm::sizeHint() const {
+  const QSize size = Form::sizeHint();
+  return size == QWidget::sizeHint() ? size.expandedTo({0, 70 * theme::unit}) : size;
+}
+
 void ListForm::load() {
   Make_List();
   grid_->set_Row(0);

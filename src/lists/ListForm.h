@@ -20,6 +20,7 @@ class ListForm : public Form {
 
  public:
   void load() override;
+  QSize sizeHint() const override;
 
  protected:
   /// The context menu of the list, and which of its items the Insert and Delete keys stand for.

@@ -13,6 +13,11 @@ namespace tallymere {
 
 frmNewPayee::frmNewPayee(Shell& shell_of_frame) : Form(shell_of_frame, "frmNewPayee", Place::Above) {
   setWindowTitle(QStringLiteral("New Payee"));
+  lblName = named("lblName", new QLabel);
+  lblName->setTextFormat(Qt::PlainText);
+  QFont bold = lblName->font();
+  bold.setBold(true);
+  lblName->setFont(bold);
   auto* frame = named("fraType", new QGroupBox(QStringLiteral("Select New Payee Type")));
   auto* customer = named("optType_0", new QRadioButton(QStringLiteral("&Customer")));
   auto* vendor = named("optType_1", new QRadioButton(QStringLiteral("&Vendor")));
@@ -26,6 +31,7 @@ frmNewPayee::frmNewPayee(Shell& shell_of_frame) : Form(shell_of_frame, "frmNewPa
   options->addWidget(vendor);
   cmdOk = named("cmdOk", new QPushButton(QStringLiteral("&Ok")));
   auto* column = column_layout(this);
+  column->addWidget(lblName);
   column->addWidget(frame);
   column->addLayout(button_row({}, {cmdOk}));
   setMinimumWidth(34 * theme::unit);
@@ -34,7 +40,7 @@ frmNewPayee::frmNewPayee(Shell& shell_of_frame) : Form(shell_of_frame, "frmNewPa
 
 void frmNewPayee::take(const Request& request) {
   name_ = request.key;
-  setWindowTitle(QStringLiteral("New Payee"));
+  lblName->setText(qt(name_));
   optType->checkedButton()->setFocus();
 }
 

@@ -3,6 +3,7 @@
 #include "shell/widgets/Form.h"
 
 class QButtonGroup;
+class QLabel;
 class QPushButton;
 
 namespace tallymere {
@@ -22,6 +23,7 @@ class frmNewPayee : public Form {
 
   std::string name_;
   QButtonGroup* optType;
+  QLabel* lblName;
   QPushButton* cmdOk;
 };
 

@@ -226,6 +226,7 @@ bool frmMain::run_loaded(Form& form) {
   std::erase(forms_, &form);
   form.hide();
   form.setParent(nullptr);
+  (below ? below : this)->activateWindow();
   return form.accepted();
 }
 

@@ -78,6 +78,8 @@ class Form : public QWidget {
   void closeEvent(QCloseEvent* event) override;
   void showEvent(QShowEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;  ///< what the controls left over
+  bool event(QEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
   Shell& shell;
   Session& session;
@@ -99,11 +101,13 @@ class Form : public QWidget {
   }
   void failed(const char* procedure, int number, const std::string& description);
   void enter_pressed();
+  bool claims(const QKeyEvent& key);
   void prepare_controls();
 
   Place place_;
   bool accepted_ = false;
   std::string answer_;
+  std::function<void()> mnemonic_;  ///< what the Alt key that is being pressed does here
   bool prepared_ = false;
 };
 
