@@ -30,6 +30,8 @@ class Prompts {
   virtual ~Prompts() = default;
   virtual void box(const Box& box) = 0;
   virtual bool ask(const Box& box, Buttons buttons = Buttons::YesNo) = 0;  ///< true: Yes
+  /// Yes, No, or nothing: go back to where the question came up. Without a way to say so it is Yes or No.
+  virtual std::optional<bool> ask_or_stay(const Box& box) { return ask(box, Buttons::YesNo); }
   virtual std::optional<std::string> input(const std::string& title, const std::string& prompt) = 0;
   /// Filters are written "Company Files (*.cmf)|*.cmf". Empty: cancelled.
   virtual std::string open_file(const std::string& filter, const std::string& folder) = 0;
