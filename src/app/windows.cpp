@@ -1,6 +1,7 @@
 #include "app/windows.h"
 
 #include "entry/frmCheck.h"
+#include "entry/frmRegister.h"
 #include "lists/frmAccounts.h"
 #include "lists/frmClass.h"
 #include "lists/frmModAccount.h"
@@ -16,6 +17,7 @@ const WindowTable& Windows() {
       {"frmAccounts", Make_Window<frmAccounts>}, {"frmCheck", Make_Window<frmCheck>},
       {"frmClass", Make_Window<frmClass>},       {"frmModAccount", Make_Window<frmModAccount>},
       {"frmNewPayee", Make_Window<frmNewPayee>}, {"frmOtherNames", Make_Window<frmOtherNames>},
+      {"frmRegister", Make_Window<frmRegister>},
   };
   return windows;
 }

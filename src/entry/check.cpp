@@ -321,6 +321,10 @@ SaveResult Enter_Check(Session& session, Check& check) {
     return {.fault = Mistake("Please enter an amount for this check.", "No Amount", "txtAmount")};
   Set_Recalc_If_Other_Year(session, check.Date);
   if (!check.is_narrow()) {
+    // A company without a default bank begins its checks without one.
+    if (check.BankID.empty())
+      return {.fault = Mistake("Please select the bank category this check is paid from.", "No Bank",
+                               "cmbAccount")};
     // What the amount proposed on the other tab before an item was chosen is not written and does not count.
     if (check.Tab == CheckTab::Items)
       std::erase_if(check.expenses, [](const ExpenseLine& line) { return line.CatID.empty(); });

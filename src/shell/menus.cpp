@@ -225,20 +225,6 @@ constexpr TypeRow type_rows[] = {
     {"Item Receipt", "frmBills"},   {"Credit", "frmBills"},   {"Invoice", "frmInvoice"},
 };
 
-constexpr std::string_view category_columns = "Type,Date,Number,Name,Memo,Category,Amount,Balance,";
-struct ColumnsRow {
-  std::string_view key;
-  std::string_view columns;
-};
-constexpr ColumnsRow columns_rows[] = {
-    {"AcctRep", category_columns},
-    {"PrintAcctRep", category_columns},
-    {"PrintAcctBal", category_columns},
-    {"VendorRep", category_columns},
-    {"ItemRep", "Type,Date,Number,Name,Memo,Qty,Amount,"},
-    {"PayItem", "Type,Date,Number,Name,PayrollItem,Amount,"},
-};
-
 }  // namespace
 
 std::span<const MenuRow> Menu_Table() {
@@ -255,12 +241,6 @@ std::string_view Window_Of_Type(std::string_view type) {
   for (const TypeRow& row : type_rows)
     if (row.type == type) return row.window;
   return "frmJournal";
-}
-
-std::string_view Custom_Report_Columns(std::string_view key) {
-  for (const ColumnsRow& row : columns_rows)
-    if (row.key == key) return row.columns;
-  return {};
 }
 
 }  // namespace tallymere

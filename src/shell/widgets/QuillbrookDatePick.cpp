@@ -144,6 +144,13 @@ void QuillbrookDatePick::showEvent(QShowEvent* event) {
   QLineEdit::showEvent(event);
 }
 
+/// On paper of another colour the sign stays visible.
+void QuillbrookDatePick::changeEvent(QEvent* event) {
+  QLineEdit::changeEvent(event);
+  if (open_ && event->type() == QEvent::PaletteChange)
+    open_->setIcon(calendar_icon(palette().color(QPalette::Text)));
+}
+
 void QuillbrookDatePick::show_calendar() {
   if (isReadOnly()) return;
   auto* calendar =

@@ -88,4 +88,20 @@ try {
 }
 ok(refused);
 equal(expense.text(0, "Amount"), "20");
+
+// A company without a default bank: the check is written on none until one is chosen.
+click(w.cmdOk);
+other("DELETE FROM GeneralPrefs WHERE Preference = 'DefaultBank'");
+menu("mnuChecks");
+w = win("frmCheck");
+equal([w.cmbAccount.value, w.lblBankID.value], ["", ""]);
+pick(w.cmbPayee, "Acme Supply");
+type(w.txtAmount, "3");
+w.grdExpense.set(0, "Category", "Fuel");
+box("No Bank", null);
+click(w.cmdOk);
+ok(w.cmbAccount.focused, "on the bank");
+pick(w.cmbAccount, "Savings");
+click(w.cmdOk);
+equal(ledger(2)[0].Account, "1SS");
 equal(log(), []);

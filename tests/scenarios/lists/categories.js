@@ -91,6 +91,13 @@ modal("frmModAccount", function (m) {
 choose("Drones", "mnuEdit");
 equal(category("Rockets"), undefined);
 
+rightclick(g, place("Drones"));
+modal("frmModAccount", function (m) {
+  equal(m.txtName.value, "Drones", "the row under the pointer");
+  click(m.cmdCancel);
+});
+popup("mnuEdit");
+
 // Deleting: refused, in use, done.
 const question = "Are you sure you want to delete \"Drones\"";
 box("Confirm Delete", question, "No");
