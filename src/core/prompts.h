@@ -23,8 +23,8 @@ struct Fault {
   std::string control;  ///< objectName; empty: none
 };
 
-/// The few things the program says and asks. The desktop implements it with dialogs, the command line with text, tests
-/// with a script. Logic never shows a window; where it must speak on its way it does so here.
+/// The few things the program says and asks. The desktop implements it with dialogs, the command line with
+/// text, tests with a script. Logic never shows a window; where it must speak on its way it does so here.
 class Prompts {
  public:
   virtual ~Prompts() = default;

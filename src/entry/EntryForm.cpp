@@ -98,7 +98,8 @@ void EntryForm::bounce() {
   session.prompts.sound(ball_bounce);
 }
 
-// --- nothing is lost by a slip -------------------------------------------------------------------------------
+// --- nothing is lost by a slip
+// -------------------------------------------------------------------------------
 
 std::string EntryForm::content() const {
   QString all;
@@ -118,7 +119,8 @@ bool EntryForm::may_close() {
   return let_go();
 }
 
-// --- grids of lines ------------------------------------------------------------------------------------------
+// --- grids of lines
+// ------------------------------------------------------------------------------------------
 
 SSDBGrid* EntryForm::line_grid(const char* name, std::vector<GridColumn> columns, const QString& hint) {
   auto* grid = named(name, new SSDBGrid);

@@ -11,10 +11,12 @@ class QPushButton;
 
 namespace tallymere {
 
-/// What the entry windows share: a document on screen that is saved whole, the walk to the next and previous one,
-/// Control+Enter, the boxes when another user was faster, and the question before a changed document goes.
+/// What the entry windows share: a document on screen that is saved whole, the walk to the next and previous
+/// one, Control+Enter, the boxes when another user was faster, and the question before a changed document
+/// goes.
 ///
-/// A window fills its controls from a document and calls keep(); it implements enter(), step() and load_again().
+/// A window fills its controls from a document and calls keep(); it implements enter(), step() and
+/// load_again().
 class EntryForm : public Form {
   Q_OBJECT
 

@@ -36,7 +36,8 @@ QString text_of(double hours) {
 
 }  // namespace
 
-// --- opening -------------------------------------------------------------------------------------------------
+// --- opening
+// -------------------------------------------------------------------------------------------------
 
 void frmCheck::load() {
   lists_->fill();
@@ -63,7 +64,8 @@ void frmCheck::on_changed(const std::string& table) {
   cmbAccount->list().set_items(banks);
 }
 
-// --- document to screen --------------------------------------------------------------------------------------
+// --- document to screen
+// --------------------------------------------------------------------------------------
 
 void frmCheck::show_check(const Check& check) {
   check_ = check;
@@ -112,7 +114,8 @@ void frmCheck::show_other_kinds(const Check& check) {
   for (const PaidBill& bill : check.bills)
     grdBills->AddValues({bill.DueDate, bill.Number, bill.Vendor, bill.Amount, bill.BillDate});
   grdLiabilities->RemoveAll();
-  for (const LiabilityLine& line : check.liabilities) grdLiabilities->AddValues({line.PayrollItem, line.Amount});
+  for (const LiabilityLine& line : check.liabilities)
+    grdLiabilities->AddValues({line.PayrollItem, line.Amount});
   lblPayPeriod->setText(qt(check.PayPeriod));
   lblHours->setText(text_of(check.Hours));
   lblPaidThrough->setText(check.PaidThrough ? qt(check.PaidThrough->to_text()) : QString());
@@ -137,7 +140,8 @@ void frmCheck::set_editable(const Check& check) {
   cmdLiaEdit->setToolTip(there ? QString() : QStringLiteral("Its window is not part of this version yet."));
 }
 
-// --- screen to document --------------------------------------------------------------------------------------
+// --- screen to document
+// --------------------------------------------------------------------------------------
 
 Check frmCheck::read() const {
   Check check = check_;
@@ -181,7 +185,8 @@ std::vector<ItemLine> frmCheck::read_items() const {
   return lines;
 }
 
-// --- while it is filled in -----------------------------------------------------------------------------------
+// --- while it is filled in
+// -----------------------------------------------------------------------------------
 
 void frmCheck::set_bank(const std::string& CatID) {
   const Bank bank = Read_Bank(session, CatID);
@@ -247,9 +252,8 @@ void frmCheck::new_category() {
   const int row = std::exchange(left_line_, -1);
   const std::string name = grdExpense->text(row, expense::Category);
   if (name.empty() || !grdExpense->text(row, expense::CatID).empty()) return;
-  const auto CatID = shell.Ask_Window({.window = "frmModAccount",
-                                       .key = name,
-                                       .number = static_cast<int64_t>(AccountMode::FromCheck)});
+  const auto CatID = shell.Ask_Window(
+      {.window = "frmModAccount", .key = name, .number = static_cast<int64_t>(AccountMode::FromCheck)});
   if (!CatID) return;
   const SSDBDropDown& categories = *lists_->drpExpenseList;
   grdExpense->set_text(row, expense::Category, categories.text(categories.find_id(*CatID)));
@@ -279,7 +283,8 @@ bool frmCheck::settle() {
   return utf8(txtAmount->text()) == in_words_ || txtAmount_LostFocus();
 }
 
-// --- saving and moving ---------------------------------------------------------------------------------------
+// --- saving and moving
+// ---------------------------------------------------------------------------------------
 
 bool frmCheck::enter() {
   if (!settle()) return false;
@@ -312,7 +317,8 @@ void frmCheck::load_again() {
   show_check(check ? *check : New_Check(session));
 }
 
-// --- commands ------------------------------------------------------------------------------------------------
+// --- commands
+// ------------------------------------------------------------------------------------------------
 
 void frmCheck::cmdDelete_Click() {
   const DeleteResult result = Delete_Check(session, check_);
@@ -331,7 +337,8 @@ void frmCheck::cmdPrint_Click() {
 }
 
 void frmCheck::cmdRepeat_Click() {
-  shell.Show_Window({.window = "frmModRepeat", .key = "Check", .number = check_.TransNum, .parent = check_.BankID});
+  shell.Show_Window(
+      {.window = "frmModRepeat", .key = "Check", .number = check_.TransNum, .parent = check_.BankID});
 }
 
 void frmCheck::cmdEditPayCheck_Click() {

@@ -18,8 +18,8 @@ class MoneyEdit;
 class QuillbrookDatePick;
 class SSDBCombo;
 
-/// The check book: a paper check over the rows of one transaction. It writes plain checks and shows the three kinds
-/// that other windows write.
+/// The check book: a paper check over the rows of one transaction. It writes plain checks and shows the three
+/// kinds that other windows write.
 class frmCheck : public EntryForm {
   Q_OBJECT
 
@@ -80,11 +80,11 @@ class frmCheck : public EntryForm {
   void cmdEditPayCheck_Click();
   void cmdLiaEdit_Click();
 
-  Check check_;                ///< as it was loaded or last saved
-  bool valid_ = true;          ///< Valid: the category, item or payee last typed is one of its list
-  std::string addressed_;      ///< the payee whose address was last asked for
-  std::string in_words_;       ///< the text of txtAmount that lblAmount and the remainder stand for
-  int left_line_ = -1;         ///< the expense line that was left last; -1: dealt with
+  Check check_;            ///< as it was loaded or last saved
+  bool valid_ = true;      ///< Valid: the category, item or payee last typed is one of its list
+  std::string addressed_;  ///< the payee whose address was last asked for
+  std::string in_words_;   ///< the text of txtAmount that lblAmount and the remainder stand for
+  int left_line_ = -1;     ///< the expense line that was left last; -1: dealt with
   DropDowns* lists_;
 
   QFrame* fraCheck;

@@ -41,24 +41,33 @@ class Paper : public QFrame {
   }
 };
 
-/// The words of the amount stand on a line; the asterisks before them are cut when there is no room.
+/// The words of the amount stand on a line. The asterisks before them are cut when there is no room, the words never:
+/// they are set smaller.
 class WordsLine : public QLabel {
  public:
-  WordsLine() {
-    setAlignment(Qt::AlignRight | Qt::AlignBottom);
-    setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-  }
+  WordsLine() { setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed); }
   QSize sizeHint() const override {
     return {60 * theme::unit, QFontMetrics(font()).height() + theme::unit};
   }
   QSize minimumSizeHint() const override { return {20 * theme::unit, sizeHint().height()}; }
 
  protected:
-  void paintEvent(QPaintEvent* event) override {
-    QLabel::paintEvent(event);
+  void paintEvent(QPaintEvent*) override {
     QPainter painter(this);
     painter.setPen(palette().color(QPalette::WindowText));
     painter.drawLine(0, height() - 1, width(), height() - 1);
+    painter.setFont(fitting_font());
+    painter.drawText(rect().adjusted(0, 0, 0, -3), Qt::AlignRight | Qt::AlignBottom, text());
+  }
+
+ private:
+  QFont fitting_font() const {
+    QString words = text();
+    while (words.startsWith(QLatin1String("* "))) words.remove(0, 2);
+    QFont fitting = font();
+    const int wanted = QFontMetrics(fitting).horizontalAdvance(words);
+    if (wanted > width()) fitting.setPointSizeF(fitting.pointSizeF() * width() / (wanted + 1.0));
+    return fitting;
   }
 };
 
@@ -77,14 +86,17 @@ QHBoxLayout* figure(const char* text, QLabel* value) {
 QPushButton* later(QPushButton* button, bool there, const char* window) {
   button->setEnabled(there);
   if (!there)
-    button->setToolTip(QStringLiteral("%1 is not part of this version yet.").arg(QString::fromLatin1(window)));
+    button->setToolTip(
+        QStringLiteral("%1 is not part of this version yet.").arg(QString::fromLatin1(window)));
   return button;
 }
 
 }  // namespace
 
 frmCheck::frmCheck(Shell& shell_of_frame)
-    : EntryForm(shell_of_frame, "frmCheck"), check_{.Date = session.today()}, lists_(new DropDowns(session, this)) {
+    : EntryForm(shell_of_frame, "frmCheck"),
+      check_{.Date = session.today()},
+      lists_(new DropDowns(session, this)) {
   setWindowTitle(QStringLiteral("Checks"));
   build_fields();
   build_lines();
@@ -136,8 +148,10 @@ QFrame* frmCheck::build_check() {
   grid->addWidget(cmbPayee, 3, 1, 1, 2);
   grid->addWidget(new QLabel(QStringLiteral("$")), 3, 3, Qt::AlignRight | Qt::AlignVCenter);
   grid->addWidget(txtAmount, 3, 4);
-  grid->addWidget(lblAmount, 4, 0, 1, 4);
-  grid->addWidget(new QLabel(QStringLiteral("Dollars")), 4, 4, Qt::AlignLeft | Qt::AlignBottom);
+  auto* words = row_layout();
+  words->addWidget(lblAmount, 1);
+  words->addWidget(new QLabel(QStringLiteral("Dollars")), 0, Qt::AlignBottom);
+  grid->addLayout(words, 4, 0, 1, 5);
   QLabel* address = label("Addre&ss", txtAddress);
   address->setAlignment(Qt::AlignRight | Qt::AlignTop);
   address->setContentsMargins(0, theme::unit / 2, 0, 0);
@@ -246,9 +260,10 @@ void frmCheck::build() {
 
 /// As a check is written: payee and amount before address and memo, then the lines.
 void frmCheck::order_tabs() {
-  QWidget* const order[] = {cmbAccount, txtNumber, DTPicker1,  cmbPayee,        txtAmount, txtAddress,
-                            txtMemo,    grdExpense, grdItems,  grdBills,        cmdEditPayCheck,
-                            grdLiabilities, cmdLiaEdit, cmdPrev, cmdNext, cmdOk, cmdPrint, cmdDelete, cmdRepeat};
+  QWidget* const order[] = {cmbAccount,      txtNumber,      DTPicker1,  cmbPayee, txtAmount,
+                            txtAddress,      txtMemo,        grdExpense, grdItems, grdBills,
+                            cmdEditPayCheck, grdLiabilities, cmdLiaEdit, cmdPrev,  cmdNext,
+                            cmdOk,           cmdPrint,       cmdDelete,  cmdRepeat};
   for (size_t i = 1; i < std::size(order); ++i) setTabOrder(order[i - 1], order[i]);
 }
 

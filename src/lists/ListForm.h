@@ -10,11 +10,12 @@ class QPushButton;
 
 namespace tallymere {
 
-/// What the list windows share: one grid that fills the window, below it Action and Close. Action and a right click pop
-/// the list's context menu; Insert and Delete do what it says of new and delete; Enter does what a double click does.
+/// What the list windows share: one grid that fills the window, below it Action and Close. Action and a right
+/// click pop the list's context menu; Insert and Delete do what it says of new and delete; Enter does what a
+/// double click does.
 ///
-/// A window gives its columns and the menu's name and implements Make_List(), chosen() and, if some commands do not
-/// suit every row, disabled().
+/// A window gives its columns and the menu's name and implements Make_List(), chosen() and, if some commands
+/// do not suit every row, disabled().
 class ListForm : public Form {
   Q_OBJECT
 

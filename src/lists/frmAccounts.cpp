@@ -74,7 +74,8 @@ void frmAccounts::chosen(const std::string& item) {
   (this->*handlers.at(item))();
 }
 
-// --- mnuAccount ----------------------------------------------------------------------------------------------
+// --- mnuAccount
+// ----------------------------------------------------------------------------------------------
 
 void frmAccounts::cmdNew_Click() {
   shell.Ask_Window({.window = "frmModAccount", .key = {}, .number = static_cast<int64_t>(AccountMode::New)});

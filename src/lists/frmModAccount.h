@@ -12,8 +12,8 @@ namespace tallymere {
 
 class SSDBCombo;
 
-/// Makes or changes a category. Asked with its mode as `number`, and as `key` the CatID to change or the name that was
-/// typed into an entry window; its answer is the CatID.
+/// Makes or changes a category. Asked with its mode as `number`, and as `key` the CatID to change or the name
+/// that was typed into an entry window; its answer is the CatID.
 class frmModAccount : public Form {
   Q_OBJECT
 

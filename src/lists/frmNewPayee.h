@@ -8,8 +8,8 @@ class QPushButton;
 
 namespace tallymere {
 
-/// A payee was typed who is in no list: asks whether it is a customer or a vendor, and adds it. The name comes as `key`
-/// and is the answer.
+/// A payee was typed who is in no list: asks whether it is a customer or a vendor, and adds it. The name
+/// comes as `key` and is the answer.
 class frmNewPayee : public Form {
   Q_OBJECT
 

@@ -27,8 +27,8 @@ std::optional<bool> ScriptedPrompts::ask_or_stay(const Box& box) {
   if (!expected) return std::nullopt;
   const std::string answer = expected->answer.value_or("");
   if (answer != "Yes" && answer != "No" && answer != "Cancel") {
-    expectations_.fail({"the box " + Shown(box.text) + " asks", "an answer \"Yes\", \"No\" or \"Cancel\"",
-                        Shown(answer)});
+    expectations_.fail(
+        {"the box " + Shown(box.text) + " asks", "an answer \"Yes\", \"No\" or \"Cancel\"", Shown(answer)});
   }
   return answer == "Cancel" ? std::nullopt : std::optional(answer == "Yes");
 }

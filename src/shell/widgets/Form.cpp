@@ -185,7 +185,9 @@ bool Form::event(QEvent* event) {
 bool Form::eventFilter(QObject* watched, QEvent* event) {
   if (!mnemonic_ || event->type() != QEvent::KeyPress) return QWidget::eventFilter(watched, event);
   qApp->removeEventFilter(this);
-  std::exchange(mnemonic_, {})();
+  const auto press = std::exchange(mnemonic_, {});
+  if (!(static_cast<QKeyEvent*>(event)->modifiers() & Qt::AltModifier)) return false;
+  press();
   return true;
 }
 

@@ -104,8 +104,7 @@ bool GridDelegate::eventFilter(QObject* watched, QEvent* event) {
   if (editor && event->type() == QEvent::KeyPress) {
     const auto* key = static_cast<QKeyEvent*>(event);
     const bool enter = key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter;
-    if (enter && key->modifiers() & Qt::ControlModifier)
-      return false;  // the window's: it takes the cell, too
+    if (enter && key->modifiers() & Qt::ControlModifier) return false;  // the window's, which ends the writing
     if (enter) {
       Q_EMIT commitData(editor);
       Q_EMIT closeEditor(editor, EditNextItem);

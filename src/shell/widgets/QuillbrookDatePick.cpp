@@ -50,6 +50,12 @@ QuillbrookDatePick::QuillbrookDatePick(QWidget* parent) : QLineEdit(parent) {
           [this] { mark_faulty(this, !text().trimmed().isEmpty() && !typed()); });
 }
 
+void QuillbrookDatePick::changeEvent(QEvent* event) {
+  QLineEdit::changeEvent(event);
+  if (event->type() == QEvent::PaletteChange && open_)
+    open_->setIcon(calendar_icon(palette().color(QPalette::Text)));
+}
+
 Date QuillbrookDatePick::value() const {
   return maybe_value().value_or(clock_of(this).today());
 }
