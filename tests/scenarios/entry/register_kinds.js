@@ -62,6 +62,12 @@ for (const number of [11, 12, 14]) {
 }
 equal(sounds(), ["stapler.wav"]);
 
+rightclick(g, find(g, 14));
+box("Confirm Delete", null, "Yes");
+box("No Delete", "Payments can only be deleted from the payment screen.");
+popup("mnuDelReg");
+equal(ledger(14).length, 2);
+
 // A ledger entry of more than two rows only takes its mark, on the one row.
 g.set(find(g, 13), "Memo", "changed");
 g.toggle(find(g, 13), "Clear");
@@ -108,7 +114,7 @@ lines.set(0, "Account", "Sales Income");
 lines.set(1, "Account", "Service Income");
 lines.set(1, "Amount", "10");
 box("Not Equal", null);
-click(w.cmdRecord);
+key(w, "Alt+R");
 equal(ledger(16), []);
 lines.set(0, "Amount", "20");
 box("Save Changes", null, "Yes");
