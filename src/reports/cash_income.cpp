@@ -1,0 +1,152 @@
+#include <unordered_set>
+
+#include "core/ledger.h"
+#include "reports/ledger_sums.h"
+
+// Income on cash basis: counted when the customer pays.
+namespace tallymere {
+namespace {
+
+using Receive = std::function<void(const CashReceipt&)>;
+
+struct Payment {
+  Date date;
+  Money Amount;
+};
+
+/// The payments of a period. Which numbers may lie in it is read once, when that spares looking at most
+/// payments.
+class Payments {
+ public:
+  Payments(store::Database& db, DateRange days) : db_(db), days_(days) {
+    auto oldest = db.value("SELECT MIN(Date) FROM Transactions").maybe_date();
+    auto newest = db.value("SELECT MAX(Date) FROM Transactions").maybe_date();
+    if (!oldest || (*oldest >= days.start && *newest <= days.end)) return;
+    in_period_.emplace();
+    db.each(
+        "SELECT TransNum FROM Transactions INDEXED BY Transactions_Date WHERE Date >= ? AND Date <= ?"
+        " GROUP BY Date, TransNum",
+        {days.start, days.end}, [&](const store::Row& row) { in_period_->insert(row.integer(0)); });
+  }
+
+  /// The first row of that transaction when it is dated in the period.
+  const std::optional<Payment>& find(int64_t number) {
+    static const std::optional<Payment> none;
+    if (in_period_ && !in_period_->contains(number)) return none;
+    if (auto known = known_.find(number); known != known_.end()) return known->second;
+    return known_.emplace(number, read(number)).first->second;
+  }
+
+ private:
+  std::optional<Payment> read(int64_t number) {
+    std::optional<Payment> found;
+    db_.each("SELECT Date, Amount FROM Transactions WHERE TransNum = ? ORDER BY RowKey LIMIT 1", {number},
+             [&](const store::Row& row) {
+               auto date = row.date(0);
+               if (date && *date >= days_.start && *date <= days_.end) found = Payment{*date, row.money(1)};
+             });
+    return found;
+  }
+
+  store::Database& db_;
+  DateRange days_;
+  std::optional<std::unordered_set<int64_t>> in_period_;
+  std::unordered_map<int64_t, std::optional<Payment>> known_;
+};
+
+/// A row that names the transactions which paid it.
+struct PaidRow {
+  std::string Account;
+  int64_t TransNum;
+  bool is_credit;
+  Money Amount;
+};
+
+/// Rows with one and the same PaidBy. They come together, an invoice's receivable row among them.
+class PaidRows {
+ public:
+  PaidRows(store::Database& db, const CatIDs& categories, DateRange days, const Receive& receive)
+      : db_(db), payments_(db, days), receive_(receive) {
+    for (const std::string& id : categories) wanted_.emplace(id, true);
+  }
+
+  void add(const store::Row& row) {
+    if (row.text(0) != PaidBy_) start(row.text(0));
+    if (paying_.empty()) return;
+    if (same_text(row.text(1), accounts_receivable))
+      receivables_.try_emplace(row.integer(2), row.money(4));
+    else if (wanted_.contains(row.text(1)))
+      rows_.push_back({std::string(row.text(1)), row.integer(2), row.integer(3) != 0, row.money(4)});
+  }
+
+  void finish() {
+    for (const Payment& payment : paying_)
+      for (const PaidRow& row : rows_) receive_share(row, payment);
+    rows_.clear();
+    receivables_.clear();
+  }
+
+ private:
+  void start(std::string_view PaidBy) {
+    finish();
+    PaidBy_ = PaidBy;
+    paying_.clear();
+    for (int64_t number : Payments_Of(PaidBy))
+      if (const auto& payment = payments_.find(number)) paying_.push_back(*payment);
+  }
+
+  void receive_share(const PaidRow& row, const Payment& payment) {
+    Money receivable = receivable_of(row.TransNum);
+    bool in_part = receivable > payment.Amount && !receivable.is_zero();
+    Money share = in_part ? row.Amount.share(payment.Amount, receivable) : row.Amount;
+    receive_({row.Account, payment.date, row.is_credit ? share : -share});
+  }
+
+  /// The Amount of the invoice's receivable row; zero, so that the whole row counts, when it has none.
+  Money receivable_of(int64_t TransNum) {
+    auto known = receivables_.find(TransNum);
+    if (known != receivables_.end()) return known->second;
+    auto read = db_.value(
+        "SELECT Amount FROM Transactions WHERE TransNum = ? AND Account = ? ORDER BY RowKey LIMIT 1",
+        {TransNum, accounts_receivable});
+    return receivables_.emplace(TransNum, read.money()).first->second;
+  }
+
+  store::Database& db_;
+  Payments payments_;
+  const Receive& receive_;
+  CaselessMap<bool> wanted_;
+  std::string PaidBy_;
+  std::vector<Payment> paying_;
+  std::vector<PaidRow> rows_;
+  std::unordered_map<int64_t, Money> receivables_;
+};
+
+}  // namespace
+
+void Sum_CashIncome(store::Database& db, const CatIDs& categories, DateRange days, const Receive& receive) {
+  PaidRows paid(db, categories, days, receive);
+  db.each(
+      "SELECT PaidBy, Account, TransNum, Credit, Amount FROM Transactions INDEXED BY Transactions_PaidBy"
+      " WHERE PaidBy IS NOT NULL AND (Paid <> 0 OR Type = 'Invoice') ORDER BY PaidBy",
+      {}, [&](const store::Row& row) { paid.add(row); });
+  paid.finish();
+  db.each(
+      "SELECT Account, Date, SUM(CASE WHEN Credit <> 0 THEN ABS(Amount) ELSE -ABS(Amount) END)"
+      " FROM json_each(?3) AS wanted CROSS JOIN Transactions INDEXED BY Transactions_Account"
+      " WHERE Account = wanted.value AND Date >= ?1 AND Date <= ?2 AND (Paid IS NULL OR Paid = 0)"
+      "  AND (Transactions.Type IS NULL OR Transactions.Type <> 'Invoice') GROUP BY wanted.key, Date",
+      {days.start, days.end, Id_List(categories)}, [&](const store::Row& row) {
+        receive({row.text(0), *row.date(1), row.money(2)});
+      });
+}
+
+Figures Sum_CashIncome(store::Database& db, const CatIDs& categories, DateRange days) {
+  Figures figures;
+  Sum_CashIncome(db, categories, days, [&](const CashReceipt& receipt) {
+    figures[std::string(receipt.Account)] += receipt.amount;
+  });
+  return figures;
+}
+
+}  // namespace tallymere
