@@ -1,5 +1,6 @@
 #include "entry/check.h"
 
+#include "core/balances.h"
 #include "core/ledger.h"
 #include "core/store/recordset.h"
 #include "core/text.h"
@@ -114,6 +115,12 @@ void Read_Liabilities(store::Recordset& rows, Check& check) {
 }
 
 }  // namespace
+
+Check Open_Checks(Session& session, int64_t TransNum) {
+  Update_Accounts(session, Categories::Bank);
+  auto asked = TransNum == 0 ? std::nullopt : Load_Check(session, TransNum);
+  return asked ? std::move(*asked) : New_Check(session);
+}
 
 Check New_Check(Session& session) {
   return {.TransNum = Next_TransNum(*session.dbCompany),

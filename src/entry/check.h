@@ -69,6 +69,9 @@ struct Check {
 std::vector<Bank> Banks(Session& session);
 Bank Read_Bank(Session& session, const std::string& CatID);
 
+/// What frmCheck opens with, after the banks' balances are brought up to date: the check asked for, or a
+/// blank one.
+Check Open_Checks(Session& session, int64_t TransNum = 0);
 /// A blank check on the default bank, numbered one past the highest TransNum of the ledger.
 Check New_Check(Session& session);
 /// The check under this number; nothing when it is no check or another user has deleted it.

@@ -62,6 +62,7 @@ Query Within(const Walk& walk, const std::string& column, int64_t TransNum) {
   Query query{"SELECT " + column + " FROM Transactions WHERE Type IN ("};
   for (std::string_view type : walk.types) Add(query, query.params.empty() ? "?" : ", ?", {type});
   query.sql += ")";
+  if (!walk.account.empty()) Add(query, " AND Account = ?", {walk.account});
   if (walk.band > 0)
     Add(query, " AND TransNum > ? AND TransNum < ?", {TransNum - walk.band, TransNum + walk.band});
   return query;

@@ -77,6 +77,8 @@ struct SaveResult {
 struct Walk {
   std::span<const std::string_view> types;
   int64_t band = 0;  ///< only numbers nearer than this to the one on screen; 0: the whole ledger
+  std::string_view account =
+      {};  ///< where each of them has a row, as bills in "AP1": spares reading the ledger
 };
 enum class Arrival {
   Document,  ///< show `TransNum`

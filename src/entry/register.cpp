@@ -52,14 +52,14 @@ bool Takes_New_Lines(std::string_view AccountType) {
 
 // --- Load_Register ---------------------------------------------------------------------------------------
 
-Register::Register(Session& session, const std::string& CatID)
-    : session_(session), categories_(CategoryTree::Load(*session.dbCompany)) {
-  if (const Category* found = categories_.find(CatID)) category_ = *found;
+Register::Register(Session& session, const std::string& CatID) : session_(session) {
   category_.CatID = CatID;
   Load_Register();
 }
 
 void Register::Load_Register() {
+  categories_ = CategoryTree::Load(*session_.dbCompany);
+  if (const Category* found = categories_.find(category_.CatID)) category_ = *found;
   days_.clear();
   count_ = 0;
   ending_ = Money();

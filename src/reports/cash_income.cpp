@@ -7,8 +7,6 @@
 namespace tallymere {
 namespace {
 
-using Receive = std::function<void(const CashReceipt&)>;
-
 struct Payment {
   Date date;
   Money Amount;
@@ -29,10 +27,14 @@ class Payments {
         {days.start, days.end}, [&](const store::Row& row) { in_period_->insert(row.integer(0)); });
   }
 
+  /// Every transaction is dated in the period.
+  bool all_in_period() const { return !in_period_; }
+  bool may_be_in_period(int64_t number) const { return !in_period_ || in_period_->contains(number); }
+
   /// The first row of that transaction when it is dated in the period.
   const std::optional<Payment>& find(int64_t number) {
     static const std::optional<Payment> none;
-    if (in_period_ && !in_period_->contains(number)) return none;
+    if (!may_be_in_period(number)) return none;
     if (auto known = known_.find(number); known != known_.end()) return known->second;
     return known_.emplace(number, read(number)).first->second;
   }
@@ -54,9 +56,9 @@ class Payments {
   std::unordered_map<int64_t, std::optional<Payment>> known_;
 };
 
-/// A row that names the transactions which paid it.
+/// An income row that names the transactions which paid it.
 struct PaidRow {
-  std::string Account;
+  size_t category;
   int64_t TransNum;
   bool is_credit;
   Money Amount;
@@ -65,41 +67,60 @@ struct PaidRow {
 /// Rows with one and the same PaidBy. They come together, an invoice's receivable row among them.
 class PaidRows {
  public:
-  PaidRows(store::Database& db, const CatIDs& categories, DateRange days, const Receive& receive)
-      : db_(db), payments_(db, days), receive_(receive) {
-    for (const std::string& id : categories) wanted_.emplace(id, true);
+  PaidRows(store::Database& db, const CatIDs& categories, DateRange days, const TakeAmount& take)
+      : db_(db), payments_(db, days), places_(categories), take_(take) {}
+
+  /// Reads every row that names a payment of the period; a long period's in one go, a short one's payment by
+  /// payment.
+  void read() {
+    if (payments_.all_in_period())
+      db_.each(select + " ORDER BY PaidBy", {}, [this](const store::Row& row) { add(row); });
+    else
+      read_some();
+    finish();
+  }
+
+ private:
+  static inline const std::string select =
+      "SELECT PaidBy, Account, TransNum, Credit, Amount FROM Transactions INDEXED BY Transactions_PaidBy"
+      " WHERE PaidBy IS NOT NULL AND (Paid <> 0 OR Type = 'Invoice')";
+
+  void read_some() {
+    db_.each(
+        "SELECT DISTINCT PaidBy FROM Transactions INDEXED BY Transactions_PaidBy WHERE PaidBy IS NOT NULL",
+        {}, [this](const store::Row& row) {
+          for (int64_t number : Payments_Of(row.text(0)))
+            if (payments_.may_be_in_period(number))
+              return db_.each(select + " AND PaidBy = ?", {row.text(0)},
+                              [this](const store::Row& each) { add(each); });
+        });
   }
 
   void add(const store::Row& row) {
-    if (row.text(0) != PaidBy_) start(row.text(0));
-    if (paying_.empty()) return;
+    if (row.text(0) != PaidBy_) {
+      finish();
+      PaidBy_ = row.text(0);
+    }
     if (same_text(row.text(1), accounts_receivable))
       receivables_.try_emplace(row.integer(2), row.money(4));
-    else if (wanted_.contains(row.text(1)))
-      rows_.push_back({std::string(row.text(1)), row.integer(2), row.integer(3) != 0, row.money(4)});
+    else if (auto place = places_.find(row.text(1)))
+      rows_.push_back({*place, row.integer(2), row.integer(3) != 0, row.money(4)});
   }
 
   void finish() {
-    for (const Payment& payment : paying_)
-      for (const PaidRow& row : rows_) receive_share(row, payment);
+    if (!rows_.empty())
+      for (int64_t number : Payments_Of(PaidBy_))
+        if (const auto& payment = payments_.find(number))
+          for (const PaidRow& row : rows_) take_share(row, *payment);
     rows_.clear();
     receivables_.clear();
   }
 
- private:
-  void start(std::string_view PaidBy) {
-    finish();
-    PaidBy_ = PaidBy;
-    paying_.clear();
-    for (int64_t number : Payments_Of(PaidBy))
-      if (const auto& payment = payments_.find(number)) paying_.push_back(*payment);
-  }
-
-  void receive_share(const PaidRow& row, const Payment& payment) {
+  void take_share(const PaidRow& row, const Payment& payment) {
     Money receivable = receivable_of(row.TransNum);
     bool in_part = receivable > payment.Amount && !receivable.is_zero();
     Money share = in_part ? row.Amount.share(payment.Amount, receivable) : row.Amount;
-    receive_({row.Account, payment.date, row.is_credit ? share : -share});
+    take_({row.category, payment.date, row.is_credit ? share : -share});
   }
 
   /// The Amount of the invoice's receivable row; zero, so that the whole row counts, when it has none.
@@ -114,38 +135,32 @@ class PaidRows {
 
   store::Database& db_;
   Payments payments_;
-  const Receive& receive_;
-  CaselessMap<bool> wanted_;
+  CategoryPlaces places_;
+  const TakeAmount& take_;
   std::string PaidBy_;
-  std::vector<Payment> paying_;
   std::vector<PaidRow> rows_;
-  std::unordered_map<int64_t, Money> receivables_;
+  std::map<int64_t, Money> receivables_;
 };
 
 }  // namespace
 
-void Sum_CashIncome(store::Database& db, const CatIDs& categories, DateRange days, const Receive& receive) {
-  PaidRows paid(db, categories, days, receive);
+void Sum_CashIncome(store::Database& db, const CatIDs& categories, DateRange days, const TakeAmount& take) {
+  PaidRows(db, categories, days, take).read();
   db.each(
-      "SELECT PaidBy, Account, TransNum, Credit, Amount FROM Transactions INDEXED BY Transactions_PaidBy"
-      " WHERE PaidBy IS NOT NULL AND (Paid <> 0 OR Type = 'Invoice') ORDER BY PaidBy",
-      {}, [&](const store::Row& row) { paid.add(row); });
-  paid.finish();
-  db.each(
-      "SELECT Account, Date, SUM(CASE WHEN Credit <> 0 THEN ABS(Amount) ELSE -ABS(Amount) END)"
+      "SELECT wanted.key, Date, SUM(CASE WHEN Credit <> 0 THEN ABS(Amount) ELSE -ABS(Amount) END)"
       " FROM json_each(?3) AS wanted CROSS JOIN Transactions INDEXED BY Transactions_Account"
       " WHERE Account = wanted.value AND Date >= ?1 AND Date <= ?2 AND (Paid IS NULL OR Paid = 0)"
-      "  AND (Transactions.Type IS NULL OR Transactions.Type <> 'Invoice') GROUP BY wanted.key, Date",
+      " AND (Transactions.Type IS NULL OR Transactions.Type <> 'Invoice') GROUP BY wanted.key, Date",
       {days.start, days.end, Id_List(categories)}, [&](const store::Row& row) {
-        receive({row.text(0), *row.date(1), row.money(2)});
+        take({static_cast<size_t>(row.integer(0)), *row.date(1), row.money(2)});
       });
 }
 
 Figures Sum_CashIncome(store::Database& db, const CatIDs& categories, DateRange days) {
+  std::vector<Money> sums(categories.size());
+  Sum_CashIncome(db, categories, days, [&](const DatedAmount& part) { sums[part.category] += part.amount; });
   Figures figures;
-  Sum_CashIncome(db, categories, days, [&](const CashReceipt& receipt) {
-    figures[std::string(receipt.Account)] += receipt.amount;
-  });
+  for (size_t at = 0; at < sums.size(); ++at) figures[categories[at]] += sums[at];
   return figures;
 }
 

@@ -54,6 +54,23 @@ class TransactionDates {
   std::unordered_map<int64_t, std::optional<Date>> dates_;
 };
 
+constexpr std::string_view bill_columns = "Account, Name, Class, Debit, Credit, PaidBy, Date";
+constexpr std::string_view is_paid_bill = " AND Transactions.Type = 'Bill' AND Paid <> 0";
+
+/// The period's paid bills, reached by their own dates, or by those of the transactions after the period,
+/// which is the shorter way when few days have passed since.
+std::string Paid_Bills(DateRange days, Date newest) {
+  if (days_between(days.start, days.end) < days_between(days.end, newest))
+    return Category_Rows(bill_columns, is_paid_bill);
+  return "SELECT " + std::string(bill_columns) +
+         " FROM (SELECT DISTINCT TransNum AS payment FROM Transactions INDEXED BY Transactions_Date WHERE "
+         "Date > ?2)"
+         " CROSS JOIN Transactions INDEXED BY Transactions_PaidBy"
+         " WHERE PaidBy >= payment || ';' AND PaidBy < payment || '<' AND Date >= ?1 AND Date <= ?2"
+         " AND Account IN (SELECT value FROM json_each(?3))" +
+         std::string(is_paid_bill);
+}
+
 /// Tells of the period's paid bills that were paid after its end: what Sum_Category must not count.
 template <typename Fn>
 void Bills_Paid_Later(store::Database& db, const CatIDs& categories, const SumRange& range, Fn&& tell) {
@@ -61,15 +78,12 @@ void Bills_Paid_Later(store::Database& db, const CatIDs& categories, const SumRa
   auto newest = db.value("SELECT MAX(Date) FROM Transactions").maybe_date();
   if (!newest || *newest <= range.days.end) return;
   TransactionDates date_of(db);
-  db.each(Category_Rows("Account, Name, Class, Debit, Credit, PaidBy, Date",
-                        " AND Transactions.Type = 'Bill' AND Paid <> 0"),
-          Params_Of(categories, range.days), [&](const store::Row& row) {
-            auto payments = Payments_Of(row.text(5));
-            auto paid = payments.empty() ? std::nullopt : date_of(payments.front());
-            if (paid && *paid > range.days.end)
-              tell(LateBill{row.text(0), row.text(1), row.text(2), row.text(6),
-                            Row_Value(row.money(3), row.money(4))});
-          });
+  db.each(Paid_Bills(range.days, *newest), Params_Of(categories, range.days), [&](const store::Row& row) {
+    auto payments = Payments_Of(row.text(5));
+    auto paid = payments.empty() ? std::nullopt : date_of(payments.front());
+    if (!paid || *paid <= range.days.end) return;
+    tell(LateBill{row.text(0), row.text(1), row.text(2), row.text(6), Row_Value(row.money(3), row.money(4))});
+  });
 }
 
 /// Where each name stands among a report's columns; a name that stands twice has two.
@@ -181,15 +195,27 @@ ColumnFigures Sum_Category_By_Class(store::Database& db, const CatIDs& categorie
 }
 
 void Sum_Category_By_Day(store::Database& db, const CatIDs& categories, const SumRange& range,
-                         const std::function<void(const CashReceipt&)>& receive) {
-  db.each(Category_Rows("Account, Date, SUM(" + std::string(row_value) + ")", If_Counted(range.basis)) +
+                         const TakeAmount& take) {
+  db.each(Category_Rows("wanted.key, Date, SUM(" + std::string(row_value) + ")", If_Counted(range.basis)) +
               " GROUP BY wanted.key, Date",
           Params_Of(categories, range.days), [&](const store::Row& row) {
-            receive({row.text(0), *row.date(1), row.money(2)});
+            take({static_cast<size_t>(row.integer(0)), *row.date(1), row.money(2)});
           });
+  CategoryPlaces places(categories);
   Bills_Paid_Later(db, categories, range, [&](const LateBill& bill) {
-    receive({bill.Account, *Date::from_iso(bill.date), -bill.value});
+    if (auto place = places.find(bill.Account)) take({*place, *Date::from_iso(bill.date), -bill.value});
   });
+}
+
+CategoryPlaces::CategoryPlaces(const CatIDs& categories) {
+  for (size_t at = 0; at < categories.size(); ++at) places_.try_emplace(categories[at], at);
+}
+
+std::optional<size_t> CategoryPlaces::find(std::string_view CatID) {
+  if (auto seen = spellings_.find(CatID); seen != spellings_.end()) return seen->second;
+  auto place = places_.find(CatID);
+  auto answer = place == places_.end() ? std::nullopt : std::optional(place->second);
+  return spellings_.emplace(CatID, answer).first->second;
 }
 
 }  // namespace tallymere

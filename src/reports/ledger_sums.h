@@ -46,23 +46,34 @@ ColumnFigures Sum_Category_By_Name(store::Database& db, const CatIDs& categories
 ColumnFigures Sum_Category_By_Class(store::Database& db, const CatIDs& categories, const SumRange& range,
                                     const std::vector<std::string>& classes);
 
-/// Part of a category's income, counted on the day it was paid.
-struct CashReceipt {
-  std::string_view Account;
+/// Part of a category's figure, and the day it counts on.
+struct DatedAmount {
+  size_t category;  ///< its place in the list of categories asked for
   Date date;
   Money amount;
 };
+using TakeAmount = std::function<void(const DatedAmount&)>;
 
 /// Cash-basis income: an invoice's rows count by what was paid in the period, in the proportion of the
-/// payment to the invoice's receivable; other unpaid rows by their own date. `receive` hears of every share,
-/// in no order.
-void Sum_CashIncome(store::Database& db, const CatIDs& categories, DateRange days,
-                    const std::function<void(const CashReceipt&)>& receive);
+/// payment to the invoice's receivable; other unpaid rows by their own date. `take` hears of every share, in
+/// no order.
+void Sum_CashIncome(store::Database& db, const CatIDs& categories, DateRange days, const TakeAmount& take);
 Figures Sum_CashIncome(store::Database& db, const CatIDs& categories, DateRange days);
 
-/// The value of counted rows day by day, on the rows' own dates.
+/// Sum_Category day by day, on the rows' own dates.
 void Sum_Category_By_Day(store::Database& db, const CatIDs& categories, const SumRange& range,
-                         const std::function<void(const CashReceipt&)>& receive);
+                         const TakeAmount& take);
+
+/// Where a row's category stands in a list, in whatever case it was written; quick when asked for every row.
+class CategoryPlaces {
+ public:
+  explicit CategoryPlaces(const CatIDs& categories);
+  std::optional<size_t> find(std::string_view CatID);
+
+ private:
+  CaselessMap<size_t> places_;
+  std::map<std::string, std::optional<size_t>, std::less<>> spellings_;
+};
 
 /// The transaction numbers of a PaidBy: each stands before a ";".
 std::vector<int64_t> Payments_Of(std::string_view PaidBy);

@@ -58,22 +58,22 @@ std::vector<ReportColumn> Detail_Columns() {
 ReportTable Summary(Session& session, const ReportRequest& request, Party party) {
   store::Database& db = *session.dbCompany;
   const CategoryTree tree = CategoryTree::Load(db);
-  const auto names = Names_Of(db, party);
-  std::vector<std::optional<Money>> totals(names.size());  // nothing: no row of the period bears the name
-  db.each("SELECT name.key, Account, " + Sum_Of_Counted(request.basis) + std::string(from_names) +
-              " GROUP BY name.key, Account",
-          {request.from, request.to, Id_List(names)}, [&](const store::Row& row) {
-            auto& total = totals[static_cast<size_t>(row.integer(0))];
-            if (!total) total = Money();
+  CaselessMap<Money> totals;  // of every name that some row of the period bears
+  db.each("SELECT Name, Account, " + Sum_Of_Counted(request.basis) +
+              " FROM Transactions INDEXED BY Transactions_Name WHERE Date >= ? AND Date <= ? GROUP BY Name, "
+              "Account",
+          {request.from, request.to}, [&](const store::Row& row) {
+            Money& total = totals[std::string(row.text(0))];
             const Category* category = tree.find(row.text(1));
             if (category && Is_Result_Type(category->AccountType))
-              *total += party == Party::Vendor ? row.money(2) : -row.money(2);
+              total += party == Party::Vendor ? row.money(2) : -row.money(2);
           });
   ReportTable table;
   table.heading = Make_Heading(session, request);
   table.columns = Summary_Columns(request);
-  for (size_t at = 0; at < names.size(); ++at)
-    if (totals[at]) table.add_row("", RowKey{names[at]}).skip().text(names[at]).money(*totals[at]);
+  for (const std::string& name : Names_Of(db, party))
+    if (auto total = totals.find(name); total != totals.end())
+      table.add_row("", RowKey{name}).skip().text(name).money(total->second);
   return table;
 }
 
@@ -85,7 +85,7 @@ class Details {
 
   void start(const std::string& name) {
     finish();
-    name_ = name;
+    name_ = &name;
     table_.add_row("", RowKey{*name_}).skip().text(*name_);
   }
 
@@ -114,7 +114,7 @@ class Details {
     table_.add_row("", RowKey{*name_}).skip().text(*name_).skip(5).money(total_);
     table_.add_spacer();
     total_ = {};
-    name_.reset();
+    name_ = nullptr;
   }
 
  private:
@@ -122,7 +122,7 @@ class Details {
   const CategoryTree& tree_;
   Party party_;
   Basis basis_;
-  std::optional<std::string> name_;
+  const std::string* name_ = nullptr;  ///< whose rows are being listed
   Money total_;
 };
 

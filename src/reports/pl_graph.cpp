@@ -17,7 +17,7 @@ void Add_Months(PL_Graph& graph, const ReportRequest& request) {
 void Add_Income(PL_Graph& graph, store::Database& db, const CategoryTree& tree,
                 const ReportRequest& request) {
   const SumRange range{{request.from, request.to}, request.basis};
-  auto receive = [&](const CashReceipt& share) {
+  auto receive = [&](const DatedAmount& share) {
     graph.months[Month_At(graph, share.date)].income += share.amount;
   };
   CatIDs ordinary = Section_Categories(tree, "Other Income");
@@ -35,11 +35,13 @@ void Add_Expenses(PL_Graph& graph, store::Database& db, const CategoryTree& tree
   for (std::string_view section : PL_Sections)
     if (Is_Expense_Side(section))
       for (std::string& id : Section_Categories(tree, section)) all.push_back(std::move(id));
-  Figures own;
-  Sum_Category_By_Day(db, all, {{request.from, request.to}, request.basis}, [&](const CashReceipt& share) {
+  std::vector<Money> sums(all.size());
+  Sum_Category_By_Day(db, all, {{request.from, request.to}, request.basis}, [&](const DatedAmount& share) {
     graph.months[Month_At(graph, share.date)].expense -= share.amount;
-    own[std::string(share.Account)] -= share.amount;
+    sums[share.category] -= share.amount;
   });
+  Figures own;
+  for (size_t at = 0; at < all.size(); ++at) own[all[at]] += sums[at];
   for (const Category* category : Top_Level_By_Name(tree)) {
     if (!Is_Expense_Side(category->AccountType)) continue;
     Money amount = tree.sum_family(category->CatID, own);

@@ -46,6 +46,19 @@ TEST(Checks, ANewCheckTakesTheNextNumberOfTheWholeLedgerAndTheDefaultBank) {
   EXPECT_TRUE(check.is_new());
 }
 
+TEST(Checks, OpeningFreshensTheBanksAndShowsTheCheckAskedFor) {
+  EntryCompany company;
+  Session& session = *company.session;
+  const int64_t check = company.write("Check", Date(2026, 2, 1), "0SS", "40SS", Dollars(30));
+  const int64_t invoice = company.write("Invoice", Date(2026, 2, 1), "29SS", "AR1", Dollars(1));
+  EXPECT_EQ(Read_Bank(session, "0SS").Balance, Money());
+  EXPECT_EQ(Open_Checks(session, check).Amount, Dollars(30));
+  EXPECT_EQ(Read_Bank(session, "0SS").Balance, -Dollars(30));
+  EXPECT_TRUE(Open_Checks(session, invoice).is_new());
+  ASSERT_EQ(Banks(session).size(), 3u);
+  EXPECT_EQ(Banks(session).front().AccountName, "Checking");
+}
+
 // --- saving ----------------------------------------------------------------------------------------------
 
 TEST(Checks, TheFirstMistakeInOrderStopsTheSave) {
@@ -183,6 +196,19 @@ TEST(Checks, AnEditKeepsNumberAndClearingAndDropsTheOldRows) {
   check.Memo = "Again";  // a second save from the same window meets its own rows, not a conflict
   ASSERT_TRUE(Enter_Check(session, check).ok());
   EXPECT_EQ(Rows_Of(company.db(), number, "Account Category Credit Cleared"), first);
+}
+
+TEST(Checks, AFailureHalfWayLeavesTheOldRows) {
+  EntryCompany company;
+  Session& session = *company.session;
+  const int64_t number = Saved(session, Simple_Check(session));
+  company.add_category("90SS", "Expense", "gone");  // its parent has no row to take a name from
+  Check check = *Load_Check(session, number);
+  check.expenses.front().CatID = "gone";
+  EXPECT_THROW(Enter_Check(session, check), store::Error);
+  EXPECT_EQ(Rows_Of(company.db(), number, sides), "0SS|40SS|0|25|25\n40SS|0SS|25|0|25\n");
+  check.expenses.front().CatID = "46SS";
+  EXPECT_TRUE(Enter_Check(session, check).written) << "what was typed can still be saved";
 }
 
 TEST(Checks, AnotherYearAsksForAFullPassEvenWhenRefused) {
@@ -412,35 +438,6 @@ TEST(Checks, AClearedCheckIsAskedAboutTwiceAndThePreviousOneFollows) {
 }
 
 // --- helps of the window ---------------------------------------------------------------------------------
-
-TEST(Checks, TheRestOfTheAmountIsProposed) {
-  std::vector<ExpenseLine> lines = {{.Category = "a", .Amount = Dollars(10)}, {.Category = "b"}};
-  EXPECT_EQ(Expense_Remainder(lines, Dollars(25)), Dollars(15));
-  EXPECT_EQ(lines.size(), 1u);
-  EXPECT_EQ(Expense_Remainder(lines, Dollars(4)), -Dollars(6));
-  EXPECT_EQ(Expense_Remainder(lines, Dollars(10)), std::nullopt);
-}
-
-TEST(Checks, AnItemLineAmountsToQuantityTimesCost) {
-  ItemLine line{.Quantity = 1.5, .Cost = Dollars(10), .Amount = Dollars(7)};
-  EXPECT_EQ(Item_Amount(line, "Service"), Dollars(15));
-  EXPECT_EQ(Item_Amount(line, "Subtotal"), Dollars(7));
-  EXPECT_EQ(Item_Amount(line, "Sales Tax"), Dollars(7));
-  line.Quantity.reset();
-  EXPECT_EQ(Item_Amount(line, "Service"), Dollars(10));
-  line = {.Quantity = 3, .Amount = Dollars(7)};
-  EXPECT_EQ(Item_Amount(line, "Service"), std::nullopt);
-}
-
-TEST(Checks, OnlyStockPostsToItsAsset) {
-  EntryCompany company;
-  company.run(
-      "INSERT INTO Items (ItemName, ItemType, ItemCat, InvAsset) VALUES ('Bolt', 'Inventory Part', '29SS', "
-      "'3SS'), ('Work', 'Service', '30SS', '3SS')");
-  EXPECT_EQ(Item_Category(*company.session, "Bolt"), "3SS");
-  EXPECT_EQ(Item_Category(*company.session, "work"), "30SS");
-  EXPECT_EQ(Item_Category(*company.session, "Nut"), "");
-}
 
 TEST(Checks, TheAddressComesFromTheFirstListThatKnowsThePayee) {
   EntryCompany company;

@@ -35,6 +35,8 @@ int Schema(Arguments& arguments) {
 
 constexpr Command commands[] = {
     {"new", "new NAME [--folder DIR]", "makes a new company in the program's folder", New},
+    {"demo", "demo NAME [--years N] [--transactions N] [--seed N] [--today m/d/yyyy]",
+     "makes a company with years of business in it, as small or large as told", Demo},
     {"enter", "enter --company FILE --name PAYEE --from BANK --to CATEGORY=AMOUNT[,...] [--number N] [--date m/d/yyyy]"
      " [--memo TEXT] [--times N]",
      "writes a check, or the same one several times; each number is told once it is safely kept", Enter},

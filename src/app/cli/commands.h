@@ -32,6 +32,7 @@ struct CliSession {
 
 // The commands themselves, by what they are about.
 int New(Arguments& arguments);
+int Demo(Arguments& arguments);
 int Verify(Arguments& arguments);
 int Figures(Arguments& arguments);
 int Back_Up(Arguments& arguments);

@@ -253,6 +253,27 @@ void Database::create_reading_index(const std::string& name, const std::string& 
                       (where.empty() ? "" : " WHERE " + where));
 }
 
+std::vector<std::string> Database::drop_indexes(const std::string& table) {
+  require_transaction();
+  std::vector<std::string> names, statements;
+  {
+    auto indexes = connection_.prepare(
+        "SELECT name, sql FROM sqlite_schema WHERE type = 'index' AND tbl_name = ? AND sql IS NOT NULL ORDER BY rowid");
+    indexes.bind(1, table);
+    while (indexes.step()) {
+      names.emplace_back(indexes.text(0));
+      statements.emplace_back(indexes.text(1));
+    }
+  }
+  for (const std::string& name : names) connection_.execute("DROP INDEX " + Quoted(name));
+  return statements;
+}
+
+void Database::create_indexes(const std::vector<std::string>& statements) {
+  require_transaction();
+  for (const std::string& statement : statements) connection_.execute(statement);
+}
+
 std::vector<QueryDef> Database::QueryDefs() const {
   std::vector<QueryDef> queries;
   auto views = connection_.prepare(

@@ -101,6 +101,10 @@ class Database {
   void add_field(const std::string& table, const Field& field);
   void create_reading_index(const std::string& name, const std::string& table, const std::string& columns,
                             const std::string& where);
+  /// For a bulk load: takes a table's indexes away and returns the statements that create_indexes makes them from again,
+  /// inside the same Transaction.
+  std::vector<std::string> drop_indexes(const std::string& table);
+  void create_indexes(const std::vector<std::string>& statements);
   std::vector<QueryDef> QueryDefs() const;
   void CreateQueryDef(const QueryDef& query);
 

@@ -1,46 +1,64 @@
-// A backup, its way back, and backups that are no good.
+// A company into a backup and back; a backup that is none costs nothing.
+const backups = "Backup Files (*.cbk)|*.cbk";
+
+function post(number, amount) {
+  other("INSERT INTO Transactions (TransNum, Date, Account, Debit, Amount) VALUES (?, ?, ?, ?, ?)", number, "3/15/2026",
+        "0SS", amount, amount);
+}
+
 start();
 newCompany("Acme");
-const filter = "Backup Files (*.cbk)|*.cbk";
-file(filter);
-menu("mnuBackup");  // cancelled: nothing said
-file(filter, "Mon, 3.17");
-box("Backup", "Backup Successful.");
+const main = win("frmMain");
+post(1, 125.5);
+
+// Cancelled, then made: points and commas go from a name without the extension.
+file(backups, null);
 menu("mnuBackup");
-other("UPDATE CompanyInfo SET Memo = 'after the backup'");
+file(backups, "Acme, v1.0");
+box("Backup", "Backup Successful.");
+tool("btnBackup");
 
-file(filter, "Model.mdb");
-box("Error", null);
+// Later work is taken back by the restore.
+post(2, 80.25);
+equal(rows("SELECT TransNum FROM Transactions").length, 2);
+file(backups, null);
 menu("mnuRestore");
-equal(rows("SELECT Memo FROM CompanyInfo")[0].Memo, "after the backup", "an unsound backup changes nothing");
-menu("mnuSwitchMode");  // the company is open with its sets
-menu("mnuSwitchMode");
-
-file(filter, "Mon 317.cbk");
+equal(rows("SELECT TransNum FROM Transactions").length, 2, "a cancelled restore");
+file(backups, "Acme v10.cbk");
 box("Restore", "Restore Successful.");
 menu("mnuRestore");
-equal(rows("SELECT Memo FROM CompanyInfo")[0].Memo || "", "");
-menu("mnuSwitchMode");
+equal(ledger(1), [{TransNum: 1, Date: "3/15/2026", Account: "0SS", Debit: 125.5, Amount: 125.5, Cleared: false,
+                   Paid: false, Taxable: false}]);
+equal(ledger(2), []);
+equal(main.caption, "Acme - Main Display");
+
+// What is no backup, what is one of another program, and what is not there: the box and the log line, the company open.
+post(3, 10);
+for (const wrong of ["Acme.cmf", "Model.mdb", "ErrorLog.txt", "nowhere.cbk"]) {
+  const lines = log().length;
+  file(backups, wrong);
+  box("Error", null);
+  menu("mnuRestore");
+  equal(log().length, lines + 1, wrong);
+  ok(log()[lines].includes(" : frmMain : mnuRestore_Click : "), log()[lines]);
+  equal(rows("SELECT TransNum, Amount FROM Transactions ORDER BY TransNum"),
+        [{TransNum: 1, Amount: 125.5}, {TransNum: 3, Amount: 10}], "after " + wrong);
+}
+menu("mnuSwitchMode");  // still a company that can be written
 menu("mnuSwitchMode");
 
-// On the way out: the same backup, and no leaving without it when it fails.
-box("Back Up", "Do you want to Back up your data?", "Yes");
-file(filter, "no such folder/x.cbk");
-box("Error", null);
+// Restored under another name from the start window; the first company is as it was.
+box("Back Up", "Do you want to Back up your data?", "No");
 menu("mnuExit");
-ok(isOpen("frmMain"));
-box("Back Up", "Do you want to Back up your data?", "Yes");
-file(filter, "last.cbk");
-box("Backup", "Backup Successful.");
-menu("mnuExit");
-ok(!isOpen("frmMain"));
-
-// From the start, under a name of its own.
 start();
 option(win("frmStart").optStart, 2);
-input("Restore Name", "Please Enter the File Name for the Company to restore to.", "Copy");
-file(filter, "last.cbk");
+input("Restore Name", "Please Enter the File Name for the Company to restore to.", "Second");
+file(backups, "Acme v10.cbk");
 box("Restore", "Restore Successful.");
 click(win("frmStart").cmdOK);
-ok(!isOpen("frmStart"));
-equal(rows("SELECT Name FROM CompanyInfo")[0].Name, "Acme");
+ok(!isOpen("frmStart") && win("frmMain").mnuAction.enabled);
+equal(rows("SELECT TransNum FROM Transactions"), [{TransNum: 1}]);
+openCompany("Acme");
+equal(rows("SELECT TransNum FROM Transactions").length, 2);
+openCompany("Second");
+equal(win("frmMain").caption, "Second - Main Display");

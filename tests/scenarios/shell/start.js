@@ -1,60 +1,103 @@
-// How the program comes up: no company, a new one, a name that is taken, another company, and the way out.
-function refused(work) {
-  try { work(); } catch (e) { return true; }
-  return false;
-}
-start();
-for (const name of ["mnuNewCompany", "mnuBackup", "mnuRBasic", "mnuPrefrences"])
-  ok(refused(function () { menu(name); }), name + " without a company");
-ok(refused(function () { tool("btnBackup"); }), "the toolbar without a company");
+// From an empty folder to a company, by each option of the start window, and out again.
+const companyMenus = ["mnuAction", "mnuOptions", "mnuWindow", "mnuReports", "mnuBackup", "mnuRestore", "mnuImport",
+                      "mnuFile"];
 
-// A cancelled file dialog leaves frmStart up; so does a file that is no company, after the error box.
-file("Company Files (*.cmf)|*.cmf");
+function enabledMenus(frame) { return companyMenus.filter(function (name) { return frame[name].enabled; }); }
+
+function exit(answer) {
+  const asked = answer !== undefined;
+  if (asked) box("Back Up", "Do you want to Back up your data?", answer);
+  close(win("frmMain"));
+  ok(!isOpen("frmMain"), "the frame went");
+}
+
+start();
+let main = win("frmMain");
+equal(main.caption, "Main Display");
+equal(win("frmStart").caption, "Start");
+equal(enabledMenus(main), [], "menus without a company");
+ok(!main.Toolbar1.enabled, "the toolbar waits for a company");
+
+// Whoever cancels is still at the start window.
+option(win("frmStart").optStart, 1);
+file("Company Files (*.cmf)|*.cmf", null);
 click(win("frmStart").cmdOK);
-file("Company Files (*.cmf)|*.cmf", "Model.mdb");
-box("Error", null);
+option(win("frmStart").optStart, 2);
+input("Restore Name", "Please Enter the File Name for the Company to restore to.", "Copied");
+file("Backup Files (*.cbk)|*.cbk", null);
 click(win("frmStart").cmdOK);
 ok(isOpen("frmStart"));
-equal(log().length, 1);
-ok(log()[0].includes("frmMain") || log()[0].includes("frmStart"), log()[0]);
+equal(main.caption, "Main Display");
 
+// Nothing was chosen, so nothing is asked on the way out. frmCreate cancelled leaves the frame alone.
 option(win("frmStart").optStart, 0);
 click(win("frmStart").cmdOK);
 ok(!isOpen("frmStart"), "frmStart goes when frmCreate comes");
+click(win("frmCreate").cmdCancel);
+equal(enabledMenus(main), []);
+exit();
+
+// A company needs a name.
+start();
+main = win("frmMain");
+option(win("frmStart").optStart, 0);
+click(win("frmStart").cmdOK);
 box("No Name", "Please Enter a Name For the New Company");
 click(win("frmCreate").cmdOk);
-ok(isOpen("frmCreate"));
 type(win("frmCreate").txtName, "Acme");
+key(win("frmCreate").txtName, "Tab");
 click(win("frmCreate").cmdOk);
-ok(!isOpen("frmCreate"));
-equal(rows("SELECT Name, UserMode FROM CompanyInfo"), [{Name: "Acme", UserMode: "Single"}]);
-equal(win("frmMain").caption, "Acme - Main Display");
+ok(!isOpen("frmCreate") && !isOpen("frmStart"));
+equal(main.caption, "Acme - Main Display");
+equal(enabledMenus(main), companyMenus);
+ok(main.Toolbar1.enabled);
+equal(main.mnuSwitchMode.caption, "Switch to Multi-User Mode");
 
-// The same name again opens nothing and closes frmCreate; the company that was current stays.
-menu("mnuNewCompany");
-type(win("frmCreate").txtName, "Acme");
+// What a new company holds, and what it does not.
+equal(rows("SELECT Name, UserMode, Password FROM CompanyInfo"), [{Name: "Acme", UserMode: "Single", Password: null}]);
+equal(rows("SELECT UserName FROM Users"), [{UserName: "Admin"}]);
+equal(rows("SELECT DISTINCT OpeningDate FROM Accounts").length, 1, "every category opens today");
+ok(rows("SELECT * FROM GeneralPrefs").length > 0 && rows("SELECT * FROM Colors").length === 4);
+for (const table of ["Transactions", "Customers", "Vendors", "Items", "Employees", "Terms", "PaymentMethod", "VIA", "Class"]) {
+  equal(rows("SELECT * FROM " + table), [], table + " of a new company");
+}
+
+// A name that is taken: nothing replaced, nothing opened.
+other("UPDATE CompanyInfo SET Name = ?", "Acme Hardware");
 box("Error", "Company name already exisits.");
-click(win("frmCreate").cmdOk);
+newCompany("Acme");
 ok(!isOpen("frmCreate"));
-equal(win("frmMain").caption, "Acme - Main Display");
-menu("mnuNewCompany");
-click(win("frmCreate").cmdCancel);
+equal(main.caption, "Acme - Main Display");
+equal(rows("SELECT Name FROM CompanyInfo"), [{Name: "Acme Hardware"}]);
 
-newCompany("Birch & Sons");
-equal(win("frmMain").caption, "Birch & Sons - Main Display");
+// A second company, and back to the first.
+newCompany("Zenith");
+equal(main.caption, "Zenith - Main Display");
+equal(rows("SELECT Name FROM CompanyInfo"), [{Name: "Zenith"}]);
 openCompany("Acme");
-equal(rows("SELECT Name FROM CompanyInfo")[0].Name, "Acme");
+equal(main.caption, "Acme - Main Display");
+equal(rows("SELECT Name FROM CompanyInfo"), [{Name: "Acme Hardware"}]);
 
-// A file that does not open leaves the company that is open.
-file("Company Files (*.cmf)|*.cmf", "Accounts.mdb");
+// A file that is no company: the box, the log line, and the company that was open is open still.
+equal(log(), []);
 box("Error", null);
-menu("mnuOpenCommpany");
-equal(win("frmMain").caption, "Acme - Main Display");
-menu("mnuSwitchMode");
-equal(rows("SELECT UserMode FROM CompanyInfo")[0].UserMode, "Multi", "still Acme, still with its sets");
+openCompany("ErrorLog.txt");
+equal(main.caption, "Acme - Main Display");
+ok(log().length === 1 && log()[0].includes(" : frmMain : mnuOpenCommpany_Click : "), log());
 
-box("Help", "Please Contact Quillbrook Software for Help or Tech Support.");
-tool("btnHelp");
+// The preference decides whether the toolbar shows, a moment after the company came up.
+ok(main.Toolbar1.visible);
+other("UPDATE GeneralPrefs SET State = ? WHERE Preference = ?", "No", "ToolBarVisible");
+openCompany("Acme");
+ok(!main.Toolbar1.visible);
 
-box("Back Up", "Do you want to Back up your data?", "No");
-tool("btnExit");
+exit("No");
+start();
+openCompany("Zenith");
+ok(!isOpen("frmStart"));
+equal(win("frmMain").caption, "Zenith - Main Display");
+box("Back Up", "Do you want to Back up your data?", "Yes");
+file("Backup Files (*.cbk)|*.cbk", "leaving.cbk");
+box("Backup", "Backup Successful.");
+menu("mnuExit");
+ok(!isOpen("frmMain"));

@@ -1,0 +1,30 @@
+#include <iostream>
+
+#include "app/cli/commands.h"
+#include "core/balances.h"
+#include "core/company.h"
+#include "core/demo/demo.h"
+
+namespace tallymere::cli {
+
+int Demo(Arguments& arguments) {
+  CliSession cli(arguments);
+  DemoOptions options{.name = arguments.word("a company name"),
+                      .years = static_cast<int>(arguments.number("years").value_or(3)),
+                      .transactions = arguments.number("transactions"),
+                      .seed = static_cast<uint32_t>(arguments.number("seed").value_or(1)),
+                      .today = cli.session.today()};
+  arguments.finish();
+  if (options.years < 1 || options.years > 50) throw Usage("--years: from 1 to 50");
+  New_Company(cli.session, options.name);
+  if (cli.session.LastCompanyError != 0) return 1;
+  cli.open(Company_Path(cli.session, options.name));
+  Write_Demo_Company(cli.session, options);
+  Update_Accounts(cli.session);
+  Update_Customers(cli.session);
+  Update_Vendors(cli.session);
+  std::cout << cli.session.CompanyPath << "\n";
+  return 0;
+}
+
+}  // namespace tallymere::cli
