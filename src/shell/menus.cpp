@@ -211,6 +211,10 @@ constexpr ContextRow context_rows[] = {
     {"mnuSaveReps", "mnuEditSaveRep", "&Edit Report"},
     {"mnuSaveReps", "mnuDelSavRep", "&Delete Report"},
     {"mnuSaveReps", "mnuShowSaveRep", "&Show Report"},
+    {"mnuExport", "mnuExportPDF", "&PDF"},
+    {"mnuExport", "mnuExportSheet", "&Spreadsheet"},
+    {"mnuExport", "mnuExportCSV", "&CSV Text"},
+    {"mnuExport", "mnuExportCopy", "C&opy"},
     {"mnuCusMessages", "mnuCusMessageNew", "New"},
     {"mnuCusMessages", "mnuCusMesDelete", "Delete"},
 };
@@ -223,20 +227,6 @@ constexpr TypeRow type_rows[] = {
     {"Payment", "frmPayments"},     {"Check", "frmCheck"},    {"Billcheck", "frmCheck"},
     {"Liabilitycheck", "frmCheck"}, {"Paycheck", "frmCheck"}, {"Bill", "frmBills"},
     {"Item Receipt", "frmBills"},   {"Credit", "frmBills"},   {"Invoice", "frmInvoice"},
-};
-
-constexpr std::string_view category_columns = "Type,Date,Number,Name,Memo,Category,Amount,Balance,";
-struct ColumnsRow {
-  std::string_view key;
-  std::string_view columns;
-};
-constexpr ColumnsRow columns_rows[] = {
-    {"AcctRep", category_columns},
-    {"PrintAcctRep", category_columns},
-    {"PrintAcctBal", category_columns},
-    {"VendorRep", category_columns},
-    {"ItemRep", "Type,Date,Number,Name,Memo,Qty,Amount,"},
-    {"PayItem", "Type,Date,Number,Name,PayrollItem,Amount,"},
 };
 
 }  // namespace
@@ -255,12 +245,6 @@ std::string_view Window_Of_Type(std::string_view type) {
   for (const TypeRow& row : type_rows)
     if (row.type == type) return row.window;
   return "frmJournal";
-}
-
-std::string_view Custom_Report_Columns(std::string_view key) {
-  for (const ColumnsRow& row : columns_rows)
-    if (row.key == key) return row.columns;
-  return {};
 }
 
 }  // namespace tallymere

@@ -46,7 +46,4 @@ inline constexpr std::string_view Bills_Item_Receipt =
 /// ledger.
 std::string_view Window_Of_Type(std::string_view type);
 
-/// The columns with which a transaction report comes up; empty: all fields of Transactions.
-std::string_view Custom_Report_Columns(std::string_view key);
-
 }  // namespace tallymere
