@@ -16,7 +16,6 @@
 #include "reports/widest_texts.h"
 #include "shell/widgets/QuillbrookDatePick.h"
 #include "shell/widgets/SSDBGrid.h"
-#include "shell/widgets/line_icon.h"
 #include "shell/widgets/theme.h"
 
 /// The window and its way from a request to a report on show; what becomes of it then is in
@@ -26,6 +25,8 @@ namespace tallymere {
 namespace {
 
 constexpr const char* own_dates = "Custom";
+constexpr int rows_looked_at = 400;  ///< for the widths of columns
+constexpr int widest_column = 40 * theme::unit, narrowest_text = 8 * theme::unit;
 
 QLabel* heading_label(double size, bool bold) {
   auto* label = new QLabel;
@@ -124,24 +125,23 @@ QWidget* ReportForm::build_sheet() {
   return middle;
 }
 
-QPushButton* ReportForm::button(const char* name, const char* caption, const char* icon) {
+QPushButton* ReportForm::button(const char* name, const char* caption) {
   auto* made = named(name, new QPushButton(QLatin1String(caption)));
-  made->setIcon(Line_Icon(QLatin1String(icon)));
   buttons_->addWidget(made);
   return made;
 }
 
 QVBoxLayout* ReportForm::build_buttons() {
   buttons_ = column_layout();
-  cmdRefresh = button("cmdRefresh", "&Refresh", "refresh");
-  cmdPrint = button("cmdPrint", "&Print", "print");
-  cmdLabel = button("cmdLabel", "&Change Title", "edit");
-  cmdGoto = button("cmdGoto", "&Go to", "open");
-  cmdPick = button("cmdPick", "Pick &Fields", "");
+  cmdRefresh = button("cmdRefresh", "&Refresh");
+  cmdPrint = button("cmdPrint", "&Print");
+  cmdLabel = button("cmdLabel", "&Change Title");
+  cmdGoto = button("cmdGoto", "&Go to");
+  cmdPick = button("cmdPick", "Pick &Fields");
   extra_button_at_ = buttons_->count();
-  cmdExport = button("cmdExport", "E&xport", "export");
+  cmdExport = button("cmdExport", "E&xport");
   buttons_->addStretch(1);
-  cmdClose = button("cmdClose", "&Close", "");
+  cmdClose = button("cmdClose", "&Close");
   cmdRefresh->setToolTip(QStringLiteral("F5"));
   return buttons_;
 }
@@ -173,7 +173,7 @@ void ReportForm::connect_controls() {
 }
 
 QSize ReportForm::sizeHint() const {
-  return Form::sizeHint().expandedTo({110 * theme::unit, 76 * theme::unit});
+  return Form::sizeHint().expandedTo({120 * theme::unit, 76 * theme::unit});
 }
 
 void ReportForm::show_instead_of_grid(QWidget* other) {
@@ -296,7 +296,19 @@ void ReportForm::show_table() {
     }
     return GridRow{std::move(text), std::string(table_.style(row))};
   });
+  show_labels();
   show_widths();
+}
+
+/// A long label runs on over the empty cells after it, as it does on paper.
+void ReportForm::show_labels() {
+  constexpr size_t short_label = 10;
+  constexpr int most_rows = 20000;
+  grdPL->clearSpans();
+  const int label = Label_Column(table_);
+  for (int row = 0; row < std::min(table_.rows(), most_rows); ++row)
+    if (const int span = Label_Span(table_, row); span > 1 && table_.text(row, label).size() > short_label)
+      grdPL->setSpan(row, label, 1, span);
 }
 
 void ReportForm::show_heading() {
@@ -328,26 +340,29 @@ void ReportForm::show_columns() {
   grdPL->setAlternatingRowColors(table_.columns.size() > 4);
 }
 
+/// Texts give way where room is short, amounts never.
 void ReportForm::show_widths() {
-  constexpr int rows_looked_at = 400, widest = 40;
   std::map<std::string, QFontMetrics> looks;
-  const auto metrics = [&](const std::string& style) -> const QFontMetrics& {
+  const auto width_of = [&](const StyledText& text) {
     QFont font = theme::tabular(grdPL->font());
-    font.setBold(style == "Bold" || style == "sBold");
-    if (style == "Bold") font.setPointSizeF(14);
-    return looks.try_emplace(style, font).first->second;
+    font.setBold(text.style == "Bold" || text.style == "sBold");
+    if (text.style == "Bold") font.setPointSizeF(14);
+    return looks.try_emplace(text.style, font).first->second.horizontalAdvance(qt(text.text));
   };
-  const int most = widest * metrics("").averageCharWidth();
   const auto texts = Widest_Texts(table_, rows_looked_at);
-  std::vector<int> widths;
+  std::vector<int> natural, least;
   for (size_t column = 0; column < texts.size(); ++column) {
-    const bool margin = table_.columns[column].kind == ReportColumn::Kind::Margin;
-    int width = metrics("sBold").horizontalAdvance(qt(table_.columns[column].caption));
-    for (const StyledText& text : texts[column])
-      width = std::max(width, std::min(metrics(text.style).horizontalAdvance(qt(text.text)), most));
-    widths.push_back(margin ? 2 * theme::unit : width + 3 * theme::unit);
+    const ReportColumn& how = table_.columns[column];
+    const int head = width_of({how.caption, "sBold"});
+    int width = head;
+    for (const StyledText& text : texts[column]) width = std::max(width, std::min(width_of(text), widest_column));
+    const bool margin = how.kind == ReportColumn::Kind::Margin;
+    const bool gives_way = how.kind == ReportColumn::Kind::Text && column > 1;
+    natural.push_back(margin ? 2 * theme::unit : width + 3 * theme::unit);
+    least.push_back(gives_way ? std::min(natural.back(), std::max(head + 3 * theme::unit, narrowest_text))
+                              : natural.back());
   }
-  grdPL->set_natural_widths(std::move(widths));
+  grdPL->set_natural_widths(std::move(natural), std::move(least));
   fit_sheet();
 }
 

@@ -60,7 +60,7 @@ class ReportForm : public Form {
   QWidget* build_bar();
   QWidget* build_sheet();
   QVBoxLayout* build_buttons();
-  QPushButton* button(const char* name, const char* caption, const char* icon);
+  QPushButton* button(const char* name, const char* caption);
   void connect_controls();
   void fit_sheet();
 
@@ -74,6 +74,7 @@ class ReportForm : public Form {
   // --- showing the table
   void show_table();
   void show_columns();
+  void show_labels();
   void show_widths();
   void show_heading();
 

@@ -10,7 +10,6 @@
 #include "reports/saved_reports.h"
 #include "reports/transaction_reports.h"
 #include "shell/widgets/SSDBGrid.h"
-#include "shell/widgets/line_icon.h"
 
 namespace tallymere {
 
@@ -21,7 +20,7 @@ constexpr std::string_view balance = "Balance";
 }  // namespace
 
 frmPrintCustom::frmPrintCustom(Shell& shell_of_frame) : ReportForm(shell_of_frame, "frmPrintCustom") {
-  cmdSave = named("cmdSave", new QPushButton(Line_Icon(QStringLiteral("new")), QStringLiteral("&Save")));
+  cmdSave = named("cmdSave", new QPushButton(QStringLiteral("&Save")));
   add_button(cmdSave);
   grdPL->set_keeps_sum(true);
   on(cmdSave, "cmdSave_AfterClick", [this] { cmdSave_AfterClick(); });

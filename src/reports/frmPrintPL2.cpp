@@ -4,14 +4,13 @@
 #include <QPushButton>
 
 #include "reports/graph_paint.h"
-#include "shell/widgets/line_icon.h"
 #include "shell/widgets/theme.h"
 
 namespace tallymere {
 
 frmPrintPL2::frmPrintPL2(Shell& shell_of_frame) : ReportForm(shell_of_frame, "frmPrintPL2") {
   sheet_ = named("grfPL", new GraphSheet(graph_));
-  cmdGraph = named("cmdGraph", new QPushButton(Line_Icon(QStringLiteral("graph")), QStringLiteral("Grap&h")));
+  cmdGraph = named("cmdGraph", new QPushButton(QStringLiteral("Grap&h")));
   cmdGraph->setCheckable(true);
   add_button(cmdGraph);
   on(cmdGraph, "cmdGraph_AfterClick", [this] { cmdGraph_AfterClick(); });

@@ -38,6 +38,7 @@ void frmSelectFields::load() {
     }
   }
   grdFields->select_rows(selected);
+  grdFields->scrollToTop();
 }
 
 void frmSelectFields::cmdOk_AfterClick() {

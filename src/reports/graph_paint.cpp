@@ -114,7 +114,7 @@ class Graph {
       rule(plot.left(), plot.right(), y, colors_.line);
       const Money value = Money::from_double(amount);
       write({plot.left() - gutter_, y - line_ / 2, gutter_ - line_ * 0.6, line_}, Qt::AlignRight | Qt::AlignVCenter,
-            qt(Graph_Text(value, scale)), colors_.soft);
+            qt(Graph_Text(value, scale)).remove(QStringLiteral(".0")), colors_.soft);
     }
   }
 

@@ -15,7 +15,9 @@ using Widths = std::vector<qreal>;
 
 constexpr qreal widest_text = 3600;      ///< beyond it texts wrap
 constexpr qreal widest_label = 5200;     ///< the same for the first column
-constexpr qreal narrowest_text = 1300;   ///< a text column is not squeezed below it
+constexpr qreal narrowest_text = 900;   ///< a text column is not squeezed below it
+constexpr qreal longest_word = 2400;
+constexpr qreal widest_caption = 1300;
 constexpr qreal smallest_print = 0.78;
 constexpr qreal most_spread = 1.35;
 constexpr qreal least_share = 0.62;  ///< of the page's width, however little there is to show
@@ -30,7 +32,7 @@ class Measure {
   explicit Measure(const ReportTable& table) : table_(table), texts_(Widest_Texts(table)) {
     for (size_t column = 0; column < table.columns.size(); ++column) {
       natural.push_back(is_shown(column) ? natural_of(column) : 0);
-      least.push_back(is_text(column) ? std::min(natural.back(), narrowest_text) : natural.back());
+      least.push_back(is_text(column) ? least_of(column) : natural.back());
     }
   }
 
@@ -58,13 +60,21 @@ class Measure {
     if (!is_text(column)) return width;
     return std::min(width, is_first(column) ? widest_label : widest_text);
   }
+  /// Texts wrap between words; only a word beyond all measure is broken.
+  qreal least_of(size_t column) const {
+    qreal width = 0;
+    for (const StyledText& text : texts_[column])
+      width = std::max(width, fonts_.of(text.style).metrics.horizontalAdvance(qt(text.word)));
+    width = std::max(std::min(width, longest_word), caption_width(column)) + 2 * Page_Columns::pad + 20;
+    return std::min(natural[column], std::max(width, narrowest_text));
+  }
   /// A long caption of several words may stand in two lines.
   qreal caption_width(size_t column) const {
     const QString caption = qt(table_.columns[column].caption);
     qreal whole = fonts_.heads().metrics.horizontalAdvance(caption), word = 0;
     for (const QString& part : caption.split(QLatin1Char(' ')))
       word = std::max(word, fonts_.heads().metrics.horizontalAdvance(part));
-    return std::max(word, std::min(whole, narrowest_text));
+    return std::max(word, std::min(whole, widest_caption));
   }
 
   const ReportTable& table_;

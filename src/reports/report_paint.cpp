@@ -3,6 +3,7 @@
 #include <QPainter>
 #include <algorithm>
 
+#include "reports/widest_texts.h"
 #include "shell/widgets/Form.h"
 
 namespace tallymere {
@@ -35,7 +36,17 @@ void Use(QPainter& painter, const Print_Fonts::Look& look, const QColor& color) 
   painter.setPen(color);
 }
 
-constexpr int wrapped = Qt::TextWordWrap | Qt::TextWrapAnywhere;
+/// Between words, and within one only where it is too long for the room.
+int Wrapping(const QFontMetricsF& metrics, const QString& text, qreal room) {
+  for (const QString& word : text.split(QLatin1Char(' ')))
+    if (metrics.horizontalAdvance(word) > room) return Qt::TextWrapAnywhere;
+  return Qt::TextWordWrap;
+}
+
+int Decimals(Money amount) {
+  const auto fraction = std::abs(amount.units() % 10000);
+  return fraction % 100 == 0 ? 2 : fraction % 10 == 0 ? 3 : 4;
+}
 
 }  // namespace
 
@@ -45,10 +56,12 @@ Report_Pages::Report_Pages(const ReportTable& table, const QPageLayout& page, QS
       note_(std::move(note)),
       columns_(Fit_Columns(table, Room_On(page))),
       fonts_(columns_.scale) {
+  label_column_ = Label_Column(table);
   is_list_ = columns_.panels.front().size() > 4;
   for (int row = table.rows() - 1; row >= 0 && grand_total_ < 0; --row)
     if (!table.is_spacer(row)) grand_total_ = is_total(row) ? row : table.rows();
   heads_height_ = heads_height();
+  find_decimals();
   part_into_pages();
 }
 
@@ -70,14 +83,25 @@ bool Report_Pages::is_head(int row) const {
   return Is_Bold(table_.style(row)) && !is_total(row);
 }
 
-qreal Report_Pages::lines_of(int row, int column) const {
+/// The width of a cell; a label has that of the empty cells after it too.
+qreal Report_Pages::room_of(const Panel& panel, size_t at, int row) const {
+  const int column = panel[at];
+  qreal room = columns_.widths[static_cast<size_t>(column)] - 2 * pad;
+  if (column != label_column_) return room;
+  const int end = column + Label_Span(table_, row);
+  for (size_t next = at + 1; next < panel.size() && panel[next] < end; ++next)
+    room += columns_.widths[static_cast<size_t>(panel[next])];
+  return room;
+}
+
+qreal Report_Pages::lines_of(int row, int column, qreal room) const {
   if (table_.columns[static_cast<size_t>(column)].kind != Kind::Text) return 1;
   const QString text = qt(table_.for_the_eye(row, column));
   const QFontMetricsF& metrics = fonts_.of(table_.style(row, column)).metrics;
-  const qreal room = columns_.widths[static_cast<size_t>(column)] - 2 * pad;
   if (static_cast<qreal>(text.size()) * metrics.horizontalAdvance(QLatin1Char('W')) <= room) return 1;
   if (metrics.horizontalAdvance(text) <= room) return 1;
-  const qreal height = metrics.boundingRect(QRectF(0, 0, room, 1e6), wrapped, text).height();
+  const qreal height =
+      metrics.boundingRect(QRectF(0, 0, room, 1e6), Wrapping(metrics, text, room), text).height();
   return std::clamp(std::round(height / metrics.lineSpacing()), 1.0, qreal{most_lines});
 }
 
@@ -86,8 +110,24 @@ qreal Report_Pages::row_height(int row) const {
   if (table_.is_spacer(row)) return look.row_height() * 0.6;
   qreal lines = 1;
   for (const Panel& panel : columns_.panels)
-    for (const int column : panel) lines = std::max(lines, lines_of(row, column));
-  return look.row_height() + (lines - 1) * look.metrics.lineSpacing();
+    for (size_t at = 0; at < panel.size(); ++at)
+      lines = std::max(lines, lines_of(row, panel[at], room_of(panel, at, row)));
+  return look.row_height() + (lines - 1) * look.metrics.lineSpacing() + lead(row);
+}
+
+/// A head keeps its distance from what stands above it.
+qreal Report_Pages::lead(int row) const {
+  const bool apart = row == 0 || table_.is_spacer(row - 1) || !is_head(row);
+  return apart ? 0 : fonts_.of(table_.style(row)).row_height() * 0.5;
+}
+
+void Report_Pages::find_decimals() {
+  decimals_.assign(table_.columns.size(), 2);
+  for (int row = 0; row < table_.rows(); ++row)
+    for (size_t column = 0; column < decimals_.size(); ++column)
+      if (table_.columns[column].kind == Kind::Money && table_.columns[column].mask.empty())
+        decimals_[column] =
+            std::max(decimals_[column], Decimals(table_.value(row, static_cast<int>(column)).money()));
 }
 
 qreal Report_Pages::heading_height(bool first_page) const {
@@ -109,7 +149,8 @@ qreal Report_Pages::heads_height() const {
       const QString caption = qt(table_.columns[static_cast<size_t>(column)].caption);
       const qreal room = columns_.widths[static_cast<size_t>(column)] - 2 * pad;
       any = any || !caption.trimmed().isEmpty();
-      height = std::max(height, look.metrics.boundingRect(QRectF(0, 0, room, 1e6), wrapped, caption).height());
+      const QRectF place(0, 0, room, 1e6);
+      height = std::max(height, look.metrics.boundingRect(place, Qt::TextWordWrap, caption).height());
     }
   return any ? height + 120 : 60;
 }
@@ -203,7 +244,7 @@ void Report_Pages::paint_heads(QPainter& painter, const Panel& panel, Place at) 
     const ReportColumn& how = table_.columns[static_cast<size_t>(column)];
     const QRectF cell(left, at.top, columns_.widths[static_cast<size_t>(column)], heads_height_ - 70);
     painter.drawText(cell.adjusted(pad, 0, -pad, 0),
-                     (how.right ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignBottom | wrapped, qt(how.caption));
+                     (how.right ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignBottom | Qt::TextWordWrap, qt(how.caption));
     left += cell.width();
   }
   const qreal y = at.top + heads_height_ - 45;
@@ -222,9 +263,11 @@ void Report_Pages::paint_rows(QPainter& painter, const Panel& panel, Place at, i
 void Report_Pages::paint_row(QPainter& painter, const Panel& panel, Place at, int row, qreal height) const {
   if (table_.is_spacer(row)) return;
   qreal left = at.left;
-  for (const int column : panel) {
-    const QRectF cell(left, at.top, columns_.widths[static_cast<size_t>(column)], height);
-    paint_cell(painter, cell, row, column);
+  const qreal space = lead(row);
+  for (size_t place = 0; place < panel.size(); ++place) {
+    const int column = panel[place];
+    const QRectF cell(left, at.top + space, columns_.widths[static_cast<size_t>(column)], height - space);
+    paint_cell(painter, cell, room_of(panel, place, row), row, column);
     left += cell.width();
   }
   if (!is_list_ || Is_Bold(table_.style(row))) return;
@@ -232,20 +275,32 @@ void Report_Pages::paint_row(QPainter& painter, const Panel& panel, Place at, in
   painter.drawLine(QPointF(at.left, at.top + height), QPointF(left, at.top + height));
 }
 
-void Report_Pages::paint_cell(QPainter& painter, const QRectF& cell, int row, int column) const {
+void Report_Pages::paint_cell(QPainter& painter, const QRectF& cell, qreal width_of_room, int row, int column) const {
   const QString text = qt(table_.for_the_eye(row, column));
   if (text.trimmed().isEmpty()) return;
   const ReportColumn& how = table_.columns[static_cast<size_t>(column)];
   const Print_Fonts::Look& look = fonts_.of(table_.style(row, column));
   Use(painter, look, ink);
-  const QRectF room = cell.adjusted(pad, 0, -pad, 0);
+  QRectF room = cell.adjusted(pad, 0, -pad, 0);
+  if (!how.right) room.setWidth(width_of_room);
   const qreal width = look.metrics.horizontalAdvance(text);
   const qreal baseline = cell.top() + look.metrics.lineSpacing() * 0.12 + look.metrics.ascent();
   if (how.kind == Kind::Text && width > room.width())
-    painter.drawText(room.adjusted(0, look.metrics.lineSpacing() * 0.12, 0, 0), Qt::AlignLeft | wrapped, text);
+    painter.drawText(room.adjusted(0, look.metrics.lineSpacing() * 0.12, 0, 0),
+                     Qt::AlignLeft | Wrapping(look.metrics, text, room.width()), text);
   else
-    painter.drawText(QPointF(how.right ? room.right() - width : room.left(), baseline), text);
+    painter.drawText(QPointF(how.right ? room.right() - width - beyond(row, column, look) : room.left(), baseline),
+                     text);
   if (how.kind == Kind::Money && Is_Bold(table_.style(row))) paint_rule(painter, cell, row);
+}
+
+/// Amounts stand point below point, though some show fractions of a cent.
+qreal Report_Pages::beyond(int row, int column, const Print_Fonts::Look& look) const {
+  const int most = decimals_[static_cast<size_t>(column)];
+  if (most == 2) return 0;
+  const store::Value value = table_.value(row, column);
+  const Money* amount = std::get_if<Money>(&value.content());
+  return (most - (amount ? Decimals(*amount) : 2)) * look.metrics.horizontalAdvance(QLatin1Char('0'));
 }
 
 /// As under a column of figures that is added up; the last total of all stands on a double line.

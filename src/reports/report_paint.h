@@ -32,7 +32,11 @@ class Report_Pages : public Pages {
   bool is_head(int row) const;
   bool is_total(int row) const;
   qreal row_height(int row) const;
-  qreal lines_of(int row, int column) const;
+  qreal lead(int row) const;
+  void find_decimals();
+  qreal beyond(int row, int column, const Print_Fonts::Look& look) const;
+  qreal lines_of(int row, int column, qreal room) const;
+  qreal room_of(const Panel& panel, size_t at, int row) const;
   qreal heading_height(bool first_page) const;
   qreal heads_height() const;
   qreal groups_height() const;
@@ -43,7 +47,7 @@ class Report_Pages : public Pages {
   void paint_groups(QPainter& painter, const Panel& panel, Place at) const;
   void paint_rows(QPainter& painter, const Panel& panel, Place at, int first, int end) const;
   void paint_row(QPainter& painter, const Panel& panel, Place at, int row, qreal height) const;
-  void paint_cell(QPainter& painter, const QRectF& cell, int row, int column) const;
+  void paint_cell(QPainter& painter, const QRectF& cell, qreal room, int row, int column) const;
   void paint_rule(QPainter& painter, const QRectF& cell, int row) const;
   void paint_foot(QPainter& painter, int page) const;
 
@@ -51,8 +55,10 @@ class Report_Pages : public Pages {
   QString note_;
   Page_Columns columns_;
   Print_Fonts fonts_;
+  std::vector<int> decimals_;    ///< the most that an amount of each column shows
   std::vector<int> first_rows_;  ///< of each page, over all panels
   qreal heads_height_ = 0;
+  int label_column_ = -1;
   bool is_list_ = false;  ///< many columns: a hairline leads the eye along a row
   int grand_total_ = -1;
 };

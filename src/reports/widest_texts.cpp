@@ -11,20 +11,20 @@ constexpr int last_rows = 60;
 
 /// What is widest in one column and one look so far. Amounts are compared by size and formatted at the end.
 struct Widest {
-  std::string text;
-  size_t length = 0;
+  std::string text, word;
   int largest = -1, smallest = -1;  ///< rows
   Money most, least;
 };
 
 class Search {
  public:
-  explicit Search(const ReportTable& table) : table_(table), found_(table.columns.size()) {}
+  explicit Search(const ReportTable& table)
+      : table_(table), label_column_(Label_Column(table)), found_(table.columns.size()) {}
 
   void look_at(int row) {
     for (int column = 0; column < static_cast<int>(found_.size()); ++column) {
       const store::Value value = table_.value(row, column);
-      if (value.is_null()) continue;
+      if (value.is_null() || (column == label_column_ && Label_Span(table_, row) > 1)) continue;
       Widest& widest = found_[static_cast<size_t>(column)][std::string(table_.style(row, column))];
       if (const Money* amount = std::get_if<Money>(&value.content()))
         take(widest, row, *amount);
@@ -37,7 +37,7 @@ class Search {
     std::vector<std::vector<StyledText>> all(found_.size());
     for (size_t column = 0; column < found_.size(); ++column)
       for (const auto& [style, widest] : found_[column]) {
-        if (widest.length > 0) all[column].push_back({widest.text, style});
+        if (!widest.text.empty()) all[column].push_back({widest.text, style, widest.word});
         for (int row : {widest.largest, widest.smallest})
           if (row >= 0) all[column].push_back({table_.for_the_eye(row, static_cast<int>(column)), style});
       }
@@ -50,12 +50,19 @@ class Search {
     if (widest.smallest < 0 || amount < widest.least) widest.least = amount, widest.smallest = row;
   }
   static void take(Widest& widest, std::string text) {
-    if (text.size() <= widest.length) return;
-    widest.length = text.size();
-    widest.text = std::move(text);
+    if (text.size() > widest.word.size()) take_words(widest, text);
+    if (text.size() > widest.text.size()) widest.text = std::move(text);
+  }
+  static void take_words(Widest& widest, std::string_view text) {
+    while (!text.empty()) {
+      const size_t end = std::min(text.find(' '), text.size());
+      if (end > widest.word.size()) widest.word = text.substr(0, end);
+      text.remove_prefix(std::min(end + 1, text.size()));
+    }
   }
 
   const ReportTable& table_;
+  int label_column_;
   std::vector<std::map<std::string, Widest>> found_;
 };
 
@@ -94,6 +101,21 @@ void Copy_Groups(const ReportTable& from, const std::vector<bool>& keep, ReportT
 }
 
 }  // namespace
+
+int Label_Column(const ReportTable& table) {
+  const auto label = std::find_if(table.columns.begin(), table.columns.end(), [](const ReportColumn& column) {
+    return column.kind != ReportColumn::Kind::Margin;
+  });
+  return label == table.columns.end() ? -1 : static_cast<int>(label - table.columns.begin());
+}
+
+int Label_Span(const ReportTable& table, int row) {
+  const int label = Label_Column(table);
+  if (label < 0 || table.columns[static_cast<size_t>(label)].kind != ReportColumn::Kind::Text) return 1;
+  int next = label + 1;
+  while (next < static_cast<int>(table.columns.size()) && table.value(row, next).is_null()) ++next;
+  return next - label;
+}
 
 std::vector<std::vector<StyledText>> Widest_Texts(const ReportTable& table, int rows_looked_at) {
   Search search(table);

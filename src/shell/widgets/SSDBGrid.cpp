@@ -127,8 +127,9 @@ void SSDBGrid::share_widths() {
   }
 }
 
-void SSDBGrid::set_natural_widths(std::vector<int> widths) {
-  natural_ = std::move(widths);
+void SSDBGrid::set_natural_widths(std::vector<int> natural, std::vector<int> least) {
+  natural_ = std::move(natural);
+  natural_least_ = std::move(least);
   spread_widths();
 }
 
@@ -145,20 +146,26 @@ int SSDBGrid::natural_width() const {
 
 void SSDBGrid::spread_widths() {
   const QScopedValueRollback code(by_code_, true);
-  int room = viewport()->width();
-  int need = 0;
+  int64_t room = viewport()->width(), natural = 0, least = 0;
+  std::vector<size_t> spread;
   for (int column = 0; column < columns(); ++column) {
+    const auto at = static_cast<size_t>(column);
     if (isColumnHidden(column)) continue;
-    const auto at = static_cast<size_t>(column);
-    dragged_[at] ? room -= columnWidth(column) : need += natural_[at];
+    if (dragged_[at]) {
+      room -= columnWidth(column);
+      continue;
+    }
+    spread.push_back(at);
+    natural += natural_[at];
+    least += natural_least_[at];
   }
-  for (int column = 0; column < columns(); ++column) {
-    const auto at = static_cast<size_t>(column);
-    if (isColumnHidden(column) || dragged_[at]) continue;
-    const int share = room > need ? static_cast<int>(int64_t{natural_[at]} * room / need) : natural_[at];
-    setColumnWidth(column, share);
-    room -= share;
-    need -= natural_[at];
+  for (const size_t at : spread) {
+    int64_t width = natural_[at];
+    if (room >= natural)
+      width = width * room / std::max<int64_t>(natural, 1);
+    else if (room >= least)
+      width = natural_least_[at] + (width - natural_least_[at]) * (room - least) / (natural - least);
+    setColumnWidth(static_cast<int>(at), static_cast<int>(width));
   }
 }
 

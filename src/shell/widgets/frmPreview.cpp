@@ -9,7 +9,6 @@
 #include <QScrollArea>
 #include <QScrollBar>
 
-#include "shell/widgets/line_icon.h"
 #include "shell/widgets/theme.h"
 
 namespace tallymere {
@@ -80,7 +79,7 @@ frmPreview::frmPreview(Shell& shell_of_frame, const QString& title, Lay_Out lay_
 frmPreview::~frmPreview() = default;
 
 QSize frmPreview::sizeHint() const {
-  return Form::sizeHint().expandedTo({100 * theme::unit, 88 * theme::unit});
+  return Form::sizeHint().expandedTo({112 * theme::unit, 96 * theme::unit});
 }
 
 QWidget* frmPreview::build_bar() {
@@ -93,9 +92,7 @@ QWidget* frmPreview::build_bar() {
     return made;
   };
   cmdPrint = button("cmdPrint", "&Print...");
-  cmdPrint->setIcon(Line_Icon(QStringLiteral("print")));
   cmdPDF = button("cmdPDF", "&Save PDF...");
-  cmdPDF->setIcon(Line_Icon(QStringLiteral("export")));
   row->addStretch(1);
   cmdFirst = button("cmdFirst", "&First");
   cmdPrevious = button("cmdPrevious", "Pre&vious");
