@@ -1,4 +1,4 @@
-#include <unordered_set>
+#include <algorithm>
 
 #include "core/ledger.h"
 #include "reports/ledger_sums.h"
@@ -12,36 +12,31 @@ struct Payment {
   Money Amount;
 };
 
-/// The payments of a period. Which numbers may lie in it is read once, when that spares looking at most
-/// payments.
+/// The payments of a period. Unless it holds the whole ledger, which numbers may lie in it is read once: that
+/// spares looking at most payments.
 class Payments {
  public:
   Payments(store::Database& db, DateRange days) : db_(db), days_(days) {
     auto oldest = db.value("SELECT MIN(Date) FROM Transactions").maybe_date();
     auto newest = db.value("SELECT MAX(Date) FROM Transactions").maybe_date();
-    if (!oldest || (*oldest >= days.start && *newest <= days.end)) return;
-    in_period_.emplace();
+    all_in_period_ = !oldest || (*oldest >= days.start && *newest <= days.end);
+    if (all_in_period_) return;
     db.each(
         "SELECT TransNum FROM Transactions INDEXED BY Transactions_Date WHERE Date >= ? AND Date <= ?"
         " GROUP BY Date, TransNum",
-        {days.start, days.end}, [&](const store::Row& row) { in_period_->insert(row.integer(0)); });
+        {days.start, days.end}, [&](const store::Row& row) { in_period_.push_back(row.integer(0)); });
+    std::sort(in_period_.begin(), in_period_.end());
   }
 
-  /// Every transaction is dated in the period.
-  bool all_in_period() const { return !in_period_; }
-  bool may_be_in_period(int64_t number) const { return !in_period_ || in_period_->contains(number); }
+  bool all_in_period() const { return all_in_period_; }
+  bool may_be_in_period(int64_t number) const {
+    return all_in_period_ || std::binary_search(in_period_.begin(), in_period_.end(), number);
+  }
 
   /// The first row of that transaction when it is dated in the period.
-  const std::optional<Payment>& find(int64_t number) {
-    static const std::optional<Payment> none;
-    if (!may_be_in_period(number)) return none;
-    if (auto known = known_.find(number); known != known_.end()) return known->second;
-    return known_.emplace(number, read(number)).first->second;
-  }
-
- private:
-  std::optional<Payment> read(int64_t number) {
+  std::optional<Payment> find(int64_t number) {
     std::optional<Payment> found;
+    if (!may_be_in_period(number)) return found;
     db_.each("SELECT Date, Amount FROM Transactions WHERE TransNum = ? ORDER BY RowKey LIMIT 1", {number},
              [&](const store::Row& row) {
                auto date = row.date(0);
@@ -50,10 +45,11 @@ class Payments {
     return found;
   }
 
+ private:
   store::Database& db_;
   DateRange days_;
-  std::optional<std::unordered_set<int64_t>> in_period_;
-  std::unordered_map<int64_t, std::optional<Payment>> known_;
+  bool all_in_period_ = false;
+  std::vector<int64_t> in_period_;  // sorted; small enough for any company
 };
 
 /// An income row that names the transactions which paid it.
@@ -110,7 +106,7 @@ class PaidRows {
   void finish() {
     if (!rows_.empty())
       for (int64_t number : Payments_Of(PaidBy_))
-        if (const auto& payment = payments_.find(number))
+        if (auto payment = payments_.find(number))
           for (const PaidRow& row : rows_) take_share(row, *payment);
     rows_.clear();
     receivables_.clear();

@@ -1,6 +1,7 @@
 #include <xlsxwriter.h>
 
 #include <algorithm>
+#include <fstream>
 #include <map>
 
 #include "core/store/error.h"
@@ -161,15 +162,18 @@ class Workbook {
 void Write_Xlsx(const ReportTable& table, const fs::path& file) {
   fs::path aside = file;
   aside += ".new";
-  std::error_code fault;
+  std::error_code fault, ignored;
+  if (!std::ofstream(aside)) fault = std::make_error_code(std::errc::permission_denied);
   try {
-    Workbook(table, aside).write();
-    fs::rename(aside, file, fault);
+    if (!fault) Workbook(table, aside).write();
   } catch (...) {
-    fs::remove(aside, fault);
+    fs::remove(aside, ignored);
     throw;
   }
-  if (fault) throw store::Error(store::errors::bad_path, "'" + file.string() + "' cannot be written.");
+  if (!fault) fs::rename(aside, file, fault);
+  if (!fault) return;
+  fs::remove(aside, ignored);
+  throw store::Error(store::errors::bad_path, "'" + file.string() + "' cannot be written.");
 }
 
 }  // namespace tallymere
