@@ -1,5 +1,12 @@
 #include "app/windows.h"
 
+#include "entry/frmCheck.h"
+#include "entry/frmRegister.h"
+#include "lists/frmAccounts.h"
+#include "lists/frmClass.h"
+#include "lists/frmModAccount.h"
+#include "lists/frmNewPayee.h"
+#include "lists/frmOtherNames.h"
 #include "reports/frmPrintCustom.h"
 #include "reports/frmPrintPL2.h"
 #include "reports/frmSavedReps.h"
@@ -11,6 +18,10 @@ namespace tallymere {
 /// report that is nothing but its rows in the table of reports.
 const WindowTable& Windows() {
   static const WindowTable windows = {
+      {"frmAccounts", Make_Window<frmAccounts>}, {"frmCheck", Make_Window<frmCheck>},
+      {"frmClass", Make_Window<frmClass>},       {"frmModAccount", Make_Window<frmModAccount>},
+      {"frmNewPayee", Make_Window<frmNewPayee>}, {"frmOtherNames", Make_Window<frmOtherNames>},
+      {"frmRegister", Make_Window<frmRegister>},
       {"frmPrintCustom", Make_Window<frmPrintCustom>},
       {"frmPrintPL2", Make_Window<frmPrintPL2>},
       {"frmPrintPLName", Make_Report<"frmPrintPLName">},
