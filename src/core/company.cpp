@@ -3,6 +3,7 @@
 #include "core/folder.h"
 #include "core/tax_update.h"
 #include "core/text.h"
+#include "core/whole_file.h"
 
 namespace tallymere {
 namespace {
@@ -137,25 +138,32 @@ fs::path Company_Path(const Session& session, const std::string& name) {
   return session.folder / (name + ".cmf");
 }
 
-void New_Company(Session& session, const std::string& name) {
-  session.LastCompanyError = 0;
-  fs::path path = Company_Path(session, name);
-  if (fs::exists(path)) {
-    session.LastCompanyError = store::errors::database_exists;
-    session.prompts.box({"Company name already exisits.", "Error", Icon::Critical});
-    return;
-  }
-  try {
-    auto company = Database::CreateDatabase(path, FileKind::Company);
+namespace {
+
+/// Nobody meets a company without its tables, and a name that somebody takes meanwhile stays theirs. false:
+/// it is taken.
+bool Build_Company(Session& session, const fs::path& path, const std::string& name) {
+  if (fs::exists(path)) return false;
+  const FileAside aside(path, ".new");
+  {
+    auto company = Database::CreateDatabase(aside.path(), FileKind::Company);
     company->NewPassword("", database_password);
     Introduce(session, *company);
     Fill_New_Company(session, *company, name);
-  } catch (...) {
-    std::error_code ignored;
-    fs::remove(path, ignored);  // nobody meets a company without its tables
-    throw;
   }
-  session.MultiUser = false;
+  return Move_To_Free_Place(aside.path(), path);
+}
+
+}  // namespace
+
+void New_Company(Session& session, const std::string& name) {
+  session.LastCompanyError = 0;
+  if (Build_Company(session, Company_Path(session, name), name)) {
+    session.MultiUser = false;
+    return;
+  }
+  session.LastCompanyError = store::errors::database_exists;
+  session.prompts.box({"Company name already exisits.", "Error", Icon::Critical});
 }
 
 void Open_Company_File(Session& session, const fs::path& path) {

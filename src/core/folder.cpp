@@ -1,9 +1,8 @@
 #include "core/folder.h"
 
-#include <unistd.h>
-
 #include "core/store/recordset.h"
 #include "core/tsv.h"
+#include "core/whole_file.h"
 
 namespace tallymere {
 namespace {
@@ -69,11 +68,9 @@ void Load_Rows(Database& db, const TableDef& table, const fs::path& file) {
 void Build(const fs::path& path, FileKind kind, const fs::path& rows) {
   if (!fs::is_directory(rows))
     throw store::Error(store::errors::bad_path, "The rows that ship with the program are missing: " + rows.string());
-  fs::path aside = path;
-  aside += "." + std::to_string(getpid()) + ".new";
-  fs::remove(aside);
+  const FileAside aside(path, ".new");
   {
-    auto db = Database::CreateDatabase(aside, kind);
+    auto db = Database::CreateDatabase(aside.path(), kind);
     db->NewPassword("", database_password);
     store::Transaction build(*db, "Build " + path.filename().string());
     Complete(*db, kind);
@@ -81,7 +78,7 @@ void Build(const fs::path& path, FileKind kind, const fs::path& rows) {
     db->set_version(schema_version);
     build.commit();
   }
-  fs::rename(aside, path);
+  Move_To_Free_Place(aside.path(), path);  // unless another program was first
 }
 
 void Build_Or_Upgrade(const fs::path& path, FileKind kind, const fs::path& rows) {

@@ -34,6 +34,21 @@ TEST(Company, ANewOneHoldsTheModelsRowsAndNoOthers) {
   EXPECT_EQ(Main_Title(*acme.session), "Acme - Main Display");
 }
 
+TEST(Company, EveryFieldCanBeNamedInAQueryAsItStands) {
+  TestCompany company;
+  for (const TableDef& table : company_tables()) {
+    if (!company.db().find_table(table.name)) continue;
+    for (const FieldDef& field : table.fields) {
+      std::string name(field.name), from(table.name);
+      auto rows = company.db().OpenRecordset("SELECT " + name + " FROM " + from + " WHERE " + name +
+                                             " IS NOT NULL AND " + name + " <> '' ORDER BY " + name);
+      EXPECT_TRUE(rows.has_field(name)) << from;
+      company.run("UPDATE " + from + " SET " + name + " = " + name + " WHERE " + from + "." + name + " = ?",
+                  {""});
+    }
+  }
+}
+
 TEST(Company, ATakenNameIsRefusedAndNothingReplaced) {
   TestCompany acme;
   New_Company(*acme.session, "Acme");

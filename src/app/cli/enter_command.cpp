@@ -28,6 +28,7 @@ std::vector<Line> Lines_Of(Session& session, const std::string& text) {
     size_t at = part.find('=');
     auto amount = at == std::string::npos ? std::nullopt : Money::parse(part.substr(at + 1));
     if (!amount) throw Usage("a line reads CATEGORY=AMOUNT, not \"" + part + "\"");
+    if (*amount <= Money()) throw Usage("an amount is more than nothing, not \"" + part + "\"");
     lines.push_back({Category_Of(session, trim(part.substr(0, at))), *amount});
   }
   return lines;
