@@ -94,6 +94,10 @@ fs::path Expand_Backup(const fs::path& backup, const fs::path& target, const Per
   const auto company = Open_Current(expanded.path(), store::FileKind::Company);
   if (company->value("SELECT COUNT(*) FROM CompanyInfo").integer() != 1)
     throw store::Error(store::errors::not_a_database, "The backup holds no company.");
+  // Stored data has no checksum, and the one of compressed data is a single byte.
+  if (const auto faults = company->connection().integrity_faults(); !faults.empty())
+    throw store::Error(store::errors::file_damaged,
+                       "The company in the backup is damaged: " + faults.front());
   return expanded.hand_on();
 }
 

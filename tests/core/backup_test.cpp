@@ -111,7 +111,17 @@ TEST_F(BackupTest, AnUnsoundBackupLeavesTheCompanyOpenAsItWas) {
   clsHuffman().EncodeFile(folder / "Model.mdb", folder / "model.cbk");
   clsHuffman().EncodeFile(folder / "ErrorLog.txt", folder / "log.cbk");
 
-  for (const char* name : {"checksum.cbk", "words.cbk", "empty.cbk", "model.cbk", "log.cbk", "missing.cbk"}) {
+  // Stored as it is, without any checksum: cut short, and with a page of nothing in it.
+  std::string file = "HE0\r";
+  {
+    std::ifstream in(folder / "Acme.cmf", std::ios::binary);
+    file.append(std::istreambuf_iterator<char>(in), {});
+  }
+  std::ofstream(folder / "cut.cbk", std::ios::binary) << file.substr(0, file.size() - 3000);
+  std::ofstream(folder / "page.cbk", std::ios::binary) << file.replace(4 + 2 * 4096, 4096, 4096, '\0');
+
+  for (const char* name : {"cut.cbk", "page.cbk", "checksum.cbk", "words.cbk", "empty.cbk", "model.cbk",
+                           "log.cbk", "missing.cbk"}) {
     EXPECT_THROW(Restore_Company(session, folder / name, folder / "Acme.cmf"), std::exception) << name;
     expect_still_open("Acme was here");
   }
