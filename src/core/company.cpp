@@ -101,10 +101,14 @@ bool Is_Cache(const std::string& table, const std::string& field) {
   return found && found->cache;
 }
 
+store::Author Author_Of(Session& session) {
+  return {[&session] { return session.acting_user(); }, [&session] { return session.clock.stamp(); }};
+}
+
 /// Tells a company's file who works on it and which of its fields are only caches.
 void Introduce(Session& session, Database& db) {
   db.set_caches(Is_Cache);
-  db.set_author({[&session] { return session.acting_user(); }, [&session] { return session.clock.stamp(); }});
+  db.set_author(Author_Of(session));
 }
 
 }  // namespace
@@ -167,8 +171,8 @@ void New_Company(Session& session, const std::string& name) {
 }
 
 void Open_Company_File(Session& session, const fs::path& path) {
-  auto opened = Open_Current(path, FileKind::Company);
-  Introduce(session, *opened);
+  auto opened = Open_Current(path, FileKind::Company, Author_Of(session));
+  opened->set_caches(Is_Cache);
   Close_Company_File(session);
   session.dbCompany = std::move(opened);
   session.CompanyPath = path.string();

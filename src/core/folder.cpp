@@ -96,14 +96,16 @@ void Prepare_Folder(const fs::path& folder, const fs::path& data) {
   Build_Or_Upgrade(folder / "Accounts.mdb", FileKind::Shared, data / "accounts");
 }
 
-std::unique_ptr<Database> Open_Current(const fs::path& path, FileKind kind) {
+std::unique_ptr<Database> Open_Current(const fs::path& path, FileKind kind, const store::Author& author) {
   auto db = Database::OpenDatabase(path, kind, connect_text, schema_version);
+  db->set_author(author);
   if (db->version() < schema_version) Upgrade(*db, kind, upgrade_steps, schema_version);
   return db;
 }
 
 void Upgrade(Database& db, FileKind kind, std::span<const UpgradeStep> steps, int newest) {
   store::Transaction upgrade(db, "Upgrade to version " + std::to_string(newest), store::Transaction::History::Summary);
+  if (db.version() >= newest) return;  // another program did it while this one waited
   for (const UpgradeStep& step : steps)
     if (step.to > db.version() && step.to <= newest) step.run(db);
   Complete(db, kind);

@@ -42,10 +42,6 @@ inline constexpr std::string_view Bills_Items = "Items";  ///< with the item tab
 inline constexpr std::string_view Bills_Item_Receipt =
     "Item Receipt";  ///< the same, with the item-receipt box set
 
-/// The window in which a transaction of this type is entered. Types without a window of their own show in the
-/// ledger.
-std::string_view Window_Of_Type(std::string_view type);
-
 /// The columns with which a transaction report comes up; empty: all fields of Transactions.
 std::string_view Custom_Report_Columns(std::string_view key);
 

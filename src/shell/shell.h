@@ -38,7 +38,7 @@ class Shell {
   virtual Form* find_window(const std::string& name) const = 0;  ///< an open one, or nullptr
   /// Runs a window modally; true when it was accepted. The caller owns it and reads its answer afterwards.
   virtual bool Run_Modal(Form& form) = 0;
-  /// Opens the entry window that belongs to a transaction's type.
+  /// Opens the entry window that belongs to a transaction's type; where there is none the status bar says so.
   virtual void Go_To_Transaction(const std::string& type, int64_t number) = 0;
   /// A transaction report beside those that are open, with the columns that belong to its key unless it names
   /// its own.

@@ -95,7 +95,6 @@ class Form : public QWidget {
     else
       handler();
   }
-  void failed(const char* procedure, int number, const std::string& description);
   void enter_pressed();
   void prepare_controls();
 
