@@ -14,7 +14,6 @@ namespace tallymere::store {
 namespace {
 
 constexpr int lock_patience_ms = 4000;  // "a few seconds", then 3218
-constexpr int most_copy_tries = 10;     // each as patient as that
 constexpr size_t most_statements = 400;
 
 int Number_Of(int code) {
@@ -354,9 +353,8 @@ void Connection::copy_to(const std::filesystem::path& destination) {
   int code = sqlite3_open_v2(destination.string().c_str(), &copy, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr);
   sqlite3_backup* backup = code == SQLITE_OK ? sqlite3_backup_init(copy, "main", handle_, "main") : nullptr;
   if (backup) {
-    int tries = 0;
-    do code = sqlite3_backup_step(backup, -1);  // all pages in one step: one read lock, one moment
-    while (code == SQLITE_BUSY && ++tries < most_copy_tries && sqlite3_sleep(100));
+    sqlite3_busy_timeout(copy, lock_patience_ms);
+    code = sqlite3_backup_step(backup, -1);  // all pages in one step: one read lock, one moment
     const int finished = sqlite3_backup_finish(backup);
     if (code != SQLITE_BUSY) code = finished;
   } else if (copy) {
