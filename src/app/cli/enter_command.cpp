@@ -1,6 +1,7 @@
 #include <iostream>
 
 #include "app/cli/commands.h"
+#include "core/balances.h"
 #include "core/ledger.h"
 #include "core/text.h"
 #include "core/transaction_writer.h"
@@ -68,6 +69,7 @@ int Enter(Arguments& arguments) {
   arguments.finish();
   for (int64_t done = 0; done < times; ++done)
     std::cout << "saved " << Enter_One(session, head, bank, lines, memo) << std::endl;  // told only once it is safe
+  if (session.RecalcAll) Update_Accounts(session);  // the wish for it would end with this call
   return 0;
 }
 

@@ -1,6 +1,7 @@
 #include <iostream>
 
 #include "app/cli/commands.h"
+#include "core/balances.h"
 #include "core/store/history.h"
 #include "core/undo.h"
 
@@ -49,7 +50,8 @@ int Undo(Arguments& arguments) {
   auto number = arguments.maybe_number_word("undo");
   if (!number) throw Usage("missing: the number of an action (see history)");
   arguments.finish();
-  Undo_Action(*cli.session.dbCompany, *number);
+  Undo_Action(cli.session, *number);
+  if (cli.session.RecalcAll) Update_Accounts(cli.session);  // the wish for it would end with this call
   Show_Action(store::List_Actions(*cli.session.dbCompany, 1).at(0));
   return 0;
 }
