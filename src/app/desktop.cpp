@@ -87,6 +87,12 @@ bool DesktopPrompts::ask(const Box& box, Buttons buttons) {
   return run_box(above(), box, QMessageBox::Yes | QMessageBox::No, usual) == QMessageBox::Yes;
 }
 
+std::optional<bool> DesktopPrompts::ask_or_stay(const Box& box) {
+  const int answer =
+      run_box(above(), box, QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, QMessageBox::Yes);
+  return answer == QMessageBox::Cancel ? std::nullopt : std::optional(answer == QMessageBox::Yes);
+}
+
 std::optional<std::string> DesktopPrompts::input(const std::string& title, const std::string& prompt) {
   const ArrowPointer arrow;
   bool answered = false;

@@ -24,6 +24,7 @@ class DesktopPrompts : public Prompts {
 
   void box(const Box& box) override;
   bool ask(const Box& box, Buttons buttons) override;
+  std::optional<bool> ask_or_stay(const Box& box) override;
   std::optional<std::string> input(const std::string& title, const std::string& prompt) override;
   std::string open_file(const std::string& filter, const std::string& folder) override;
   std::string save_file(const std::string& filter, const std::string& name) override;

@@ -23,13 +23,15 @@ struct Fault {
   std::string control;  ///< objectName; empty: none
 };
 
-/// The few things the program says and asks. The desktop implements it with dialogs, the command line with text, tests
-/// with a script. Logic never shows a window; where it must speak on its way it does so here.
+/// The few things the program says and asks. The desktop implements it with dialogs, the command line with
+/// text, tests with a script. Logic never shows a window; where it must speak on its way it does so here.
 class Prompts {
  public:
   virtual ~Prompts() = default;
   virtual void box(const Box& box) = 0;
   virtual bool ask(const Box& box, Buttons buttons = Buttons::YesNo) = 0;  ///< true: Yes
+  /// Yes, No, or nothing: go back to where the question came up. Without a way to say so it is Yes or No.
+  virtual std::optional<bool> ask_or_stay(const Box& box) { return ask(box, Buttons::YesNo); }
   virtual std::optional<std::string> input(const std::string& title, const std::string& prompt) = 0;
   /// Filters are written "Company Files (*.cmf)|*.cmf". Empty: cancelled.
   virtual std::string open_file(const std::string& filter, const std::string& folder) = 0;

@@ -10,23 +10,25 @@ namespace {
 constexpr ReadingIndex reading[] = {
     // every window loads, rewrites and walks whole transactions; the highest number gives the next one
     {"Transactions_TransNum", "Transactions", "TransNum", ""},
-    // registers, balances and every report sum one category over a range of days, from the index alone
-    {"Transactions_Account", "Transactions", "Account, Date, Debit, Credit", ""},
-    // one customer's, vendor's or payee's rows, of one category or all
-    {"Transactions_Name", "Transactions", "Name, Account", ""},
+    // registers, balances and every report sum one category over a range of days, from the index alone; on
+    // cash basis too
+    {"Transactions_Account", "Transactions", "Account, Date, Debit, Credit, Type, Paid, Class, Amount", ""},
+    // one customer's, vendor's or payee's rows, of one category or all, summed from the index alone
+    {"Transactions_Name", "Transactions", "Name, Account, Date, Debit, Credit, Type, Paid", ""},
     // what each customer owes, and the unpaid bills of each vendor, asked for whenever their lists come up
     {"Transactions_Receivable", "Transactions", "Account, Name, Type, Debit, Credit", "Account = 'AR1'"},
     {"Transactions_Unpaid", "Transactions", "Name, Debit", "Type = 'Bill' AND Paid = 0"},
-    // find by day, the list of years, reports over all categories of a period
-    {"Transactions_Date", "Transactions", "Date", ""},
+    // find by day, the list of years, reports over all categories of a period; what was paid in it
+    {"Transactions_Date", "Transactions", "Date, TransNum", ""},
     // stock, sales and sales tax of one item; most rows have none
     {"Transactions_Item", "Transactions", "Item, Date", "Item IS NOT NULL"},
     // one employee's sums per payroll item since New Year, asked for each line of a paycheck
     {"Transactions_SSNum", "Transactions", "SSNum, PayrollItem, Date", "SSNum IS NOT NULL"},
     // liabilities and tax forms sum one payroll item over all employees
     {"Transactions_PayrollItem", "Transactions", "PayrollItem, Date", "PayrollItem IS NOT NULL"},
-    // the bills that a check paid, when it is shown, printed or deleted
-    {"Transactions_PaidBy", "Transactions", "PaidBy", "PaidBy IS NOT NULL"},
+    // the bills that a check paid, when it is shown, printed or deleted; income by the day it was paid
+    {"Transactions_PaidBy", "Transactions", "PaidBy, Account, TransNum, Credit, Amount, Type, Paid",
+     "PaidBy IS NOT NULL"},
 };
 
 constexpr StoredQuery queries[] = {

@@ -40,6 +40,9 @@ struct Session {
   int LastCompanyError = 0;     ///< what New_Company last met
   RecordSets sets;
   NumberWords words;
+
+ private:
+  std::string logged_in_person_;
 };
 
 }  // namespace tallymere

@@ -1,5 +1,7 @@
 #include "entry/check.h"
 
+#include <algorithm>
+
 #include "core/balances.h"
 #include "core/ledger.h"
 #include "core/store/recordset.h"
@@ -201,7 +203,9 @@ std::string Without_Last_Line_End(std::string address) {
 namespace {
 
 std::optional<Fault> Items_Fault(const Check& check) {
-  if (check.items.empty() || check.items.front().Item.empty())
+  // An item that is in no list would be posted to no category.
+  const auto unknown = [](const ItemLine& line) { return !line.blank() && line.CatID.empty(); };
+  if (check.items.empty() || check.items.front().Item.empty() || std::ranges::any_of(check.items, unknown))
     return Mistake("Please enter a Item for this Expense", "No Category", "grdItems");
   return std::nullopt;
 }
@@ -283,13 +287,21 @@ constexpr struct {
   bool Date, Name;
 } narrow_rules[] = {{"Billcheck", false, false}, {"Paycheck", true, false}, {"Liabilitycheck", true, true}};
 
+}  // namespace
+
+CheckFields Editable_Fields(const Check& check) {
+  for (const auto& rule : narrow_rules)
+    if (rule.Type == check.Type) return {rule.Date, rule.Name, false};
+  return {};
+}
+
+namespace {
+
 void Rewrite_Narrow(Session& session, const Check& check) {
   FieldValues fields = {{"Number", check.Number}};
-  for (const auto& rule : narrow_rules) {
-    if (rule.Type != check.Type) continue;
-    if (rule.Date) fields.emplace_back("Date", check.Date);
-    if (rule.Name) fields.emplace_back("Name", check.Name);
-  }
+  const CheckFields may = Editable_Fields(check);
+  if (may.Date) fields.emplace_back("Date", check.Date);
+  if (may.Name) fields.emplace_back("Name", check.Name);
   // The year it leaves must be balanced again as well as the one it comes to.
   auto was = session.dbCompany->value("SELECT Date FROM Transactions WHERE TransNum = ?", {check.TransNum});
   if (auto date = was.maybe_date()) Set_Recalc_If_Other_Year(session, *date);
@@ -309,6 +321,13 @@ SaveResult Enter_Check(Session& session, Check& check) {
     return {.fault = Mistake("Please enter an amount for this check.", "No Amount", "txtAmount")};
   Set_Recalc_If_Other_Year(session, check.Date);
   if (!check.is_narrow()) {
+    // A company without a default bank begins its checks without one.
+    if (check.BankID.empty())
+      return {.fault = Mistake("Please select the bank category this check is paid from.", "No Bank",
+                               "cmbAccount")};
+    // What the amount proposed on the other tab before an item was chosen is not written and does not count.
+    if (check.Tab == CheckTab::Items)
+      std::erase_if(check.expenses, [](const ExpenseLine& line) { return line.CatID.empty(); });
     if (auto fault = Lines_Fault(check)) return {.fault = fault};
     Drop_Blank_Lines(check);
   }

@@ -92,6 +92,14 @@ std::string Without_Last_Line_End(std::string address);
 /// Saves what frmCheck shows. Afterwards `check` has the number, type and probe for the next save.
 SaveResult Enter_Check(Session& session, Check& check);
 
+/// Which fields of a check the check book may change; its number always.
+struct CheckFields {
+  bool Date = true;
+  bool Name = true;
+  bool others = true;
+};
+CheckFields Editable_Fields(const Check& check);
+
 /// "Print" is no number to print a check under.
 std::optional<Fault> Cannot_Print(const Check& check);
 

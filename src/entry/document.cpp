@@ -13,6 +13,10 @@ std::string Item_Category(Session& session, const std::string& ItemName) {
   return item[item["ItemType"].text() == "Inventory Part" ? "InvAsset" : "ItemCat"].text();
 }
 
+std::string Item_Type(Session& session, const std::string& ItemName) {
+  return session.dbCompany->value("SELECT ItemType FROM Items WHERE ItemName = ?", {ItemName}).text();
+}
+
 std::optional<Money> Item_Amount(const ItemLine& line, std::string_view ItemType) {
   if (ItemType == "Subtotal" || ItemType == "Sales Tax") return line.Amount;
   if (!line.Cost) return std::nullopt;

@@ -51,6 +51,9 @@ Money Sum_Of(const std::vector<Line>& lines) {
 /// What an item posts to: InvAsset of an "Inventory Part", else ItemCat; "" for an item nobody knows.
 std::string Item_Category(Session& session, const std::string& ItemName);
 
+/// "" for an item nobody knows.
+std::string Item_Type(Session& session, const std::string& ItemName);
+
 /// The Amount cell of an item line after its Quantity or Cost was typed: Quantity x Cost, the Cost alone, or
 /// nothing. A "Subtotal" and a "Sales Tax" line keep the amount they have.
 std::optional<Money> Item_Amount(const ItemLine& line, std::string_view ItemType);

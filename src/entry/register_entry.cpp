@@ -1,6 +1,9 @@
 #include "entry/register_entry.h"
 
+#include <tuple>
+
 #include "core/ledger.h"
+#include "core/store/error.h"
 #include "core/store/recordset.h"
 
 namespace tallymere {
@@ -62,6 +65,29 @@ std::optional<RegisterEntry> Open_Entry(Session& session, const Register& reg, c
                        {line.TransNum, reg.category().CatID}),
       entry);
   return entry;
+}
+
+RegisterEntry Entry_As_Shown(const RegisterLine& line) {
+  return {.Date = line.Date,
+          .Number = line.Number,
+          .Name = line.Name,
+          .Category = line.Category,
+          .Memo = line.Memo,
+          .Class = line.Class,
+          .Credit = line.Credit,
+          .Cleared = line.Cleared,
+          .Debit = line.Debit,
+          .TransNum = line.TransNum,
+          .CatID = line.CatID == break_down ? "" : line.CatID,
+          .key = line.key};
+}
+
+bool Shows(const RegisterLine& line, const RegisterEntry& entry) {
+  const auto told = [](const RegisterEntry& e) {
+    return std::tie(e.Date, e.Number, e.Name, e.Category, e.Memo, e.Class, e.Credit, e.Cleared, e.Debit,
+                    e.CatID);
+  };
+  return told(Entry_As_Shown(line)) == told(entry);
 }
 
 RegisterEntry New_Entry(const Register& reg) {
@@ -243,6 +269,7 @@ void Save_Entry(Session& session, const Register& reg, RegisterEntry& entry, Rec
   if (!entry.is_new()) {
     entry.probe.check(*session.dbCompany);
     stored = Read_Stored(session, entry.TransNum, entry.key);
+    if (stored.rows == 0) throw store::Error(store::errors::data_changed, "The transaction was deleted.");
     if (!May_Rewrite(stored) || (stored.Type == "Check" && Is_Part_Of_More(stored, entry))) {
       result.fault = Access_Denied();
       return;

@@ -46,6 +46,10 @@ struct RegisterEntry {
 /// The entry behind a line, read anew, with the rows of the other side for a later break down; nothing when
 /// it is gone.
 std::optional<RegisterEntry> Open_Entry(Session& session, const Register& reg, const RegisterLine& line);
+/// What a line shows, where another user has deleted it meanwhile: Record tells of the conflict.
+RegisterEntry Entry_As_Shown(const RegisterLine& line);
+/// Whether a line still shows what its entry says.
+bool Shows(const RegisterLine& line, const RegisterEntry& entry);
 /// A blank new line.
 RegisterEntry New_Entry(const Register& reg);
 

@@ -21,6 +21,7 @@
 #include "shell/menus.h"
 #include "shell/start_panel.h"
 #include "shell/widgets/Form.h"
+#include "shell/widgets/company_color.h"
 #include "shell/widgets/line_icon.h"
 #include "shell/widgets/theme.h"
 
@@ -55,19 +56,6 @@ bool is_submenu(std::string_view name) {
   for (const MenuRow& row : Menu_Table())
     if (row.parent == name) return true;
   return name == "mnuWindow" || name == "mnuHelp";
-}
-
-/// A colour as the company keeps it: red + 256 * green + 65536 * blue.
-QColor stored_color(int64_t value) {
-  return QColor(static_cast<int>(value & 255), static_cast<int>(value >> 8 & 255),
-                static_cast<int>(value >> 16 & 255));
-}
-
-/// A light background chosen by day is turned to its dark counterpart on a dark desktop.
-QColor suited_to_scheme(const QColor& color) {
-  if (!theme::is_dark() || color.lightness() < 128) return color;
-  return QColor::fromHsl(std::max(0, color.hslHue()), color.hslSaturation() / 2,
-                         std::max(26, 255 - color.lightness()));
 }
 
 constexpr std::string_view company_menus[] = {"mnuAction",  "mnuOptions", "mnuWindow",
@@ -281,11 +269,7 @@ void frmMain::show_title() {
 
 void frmMain::show_background() {
   QColor color = palette().color(QPalette::Window).darker(theme::is_dark() ? 80 : 104);
-  if (session.sets.Colors) {
-    session.sets.Colors->MoveFirst();
-    if (session.sets.Colors->Seek("MainBack"))
-      color = suited_to_scheme(stored_color((*session.sets.Colors)["Color"].integer()));
-  }
+  if (const QColor chosen = Company_Color(session, "MainBack"); chosen.isValid()) color = chosen;
   mdi_->setBackground(color);
   std::vector<StartPanel::Shortcut> usable;
   for (const auto& shortcut : session.company_open() ? Company_Shortcuts() : Start_Shortcuts())

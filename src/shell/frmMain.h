@@ -49,6 +49,7 @@ class frmMain : public QMainWindow, public Shell, public CompanyCommands {
   bool has_window(const std::string& name) const override { return windows_.contains(name); }
   Form* find_window(const std::string& name) const override;
   bool Run_Modal(Form& form) override;
+  std::optional<std::string> Ask_Window(const Request& request) override;
   void Go_To_Transaction(const std::string& type, int64_t number) override;
   void Popup(const std::string& menu, QWidget& from, const std::vector<std::string>& disabled,
              std::function<void(const std::string&)> chosen) override;
@@ -98,6 +99,7 @@ class frmMain : public QMainWindow, public Shell, public CompanyCommands {
   void mnuDepositFunds_Click();
   void btnHelp_Click();
   Form* open_form(const std::string& name);
+  bool run_loaded(Form& form);
   void stand_inside(Form& form);
   void stand_above(Form& form);
   void bring_up(Form& form);

@@ -188,7 +188,23 @@ bool frmMain::Hide_All() {
 }
 
 bool frmMain::Run_Modal(Form& form) {
-  if (!form.guard("Form_Load", [&] { form.load(); })) return false;
+  return form.guard("Form_Load", [&] { form.load(); }) && run_loaded(form);
+}
+
+std::optional<std::string> frmMain::Ask_Window(const Request& request) {
+  if (!has_window(request.window)) {
+    say(request.window + " is not part of this version yet.");
+    return std::nullopt;
+  }
+  const std::unique_ptr<Form> form(windows_.find(request.window)->second(*this));
+  const bool loaded = form->guard("Form_Load", [&] {
+    form->load();
+    form->take(request);
+  });
+  return loaded && run_loaded(*form) ? std::optional(form->answer()) : std::nullopt;
+}
+
+bool frmMain::run_loaded(Form& form) {
   QWidget* below = QApplication::activeModalWidget();
   form.setParent(below ? below : this,
                  Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint | Qt::WindowSystemMenuHint);
@@ -205,6 +221,7 @@ bool frmMain::Run_Modal(Form& form) {
   std::erase(forms_, &form);
   form.hide();
   form.setParent(nullptr);
+  (below ? below : this)->activateWindow();
   return form.accepted();
 }
 

@@ -215,20 +215,6 @@ constexpr ContextRow context_rows[] = {
     {"mnuCusMessages", "mnuCusMesDelete", "Delete"},
 };
 
-constexpr std::string_view category_columns = "Type,Date,Number,Name,Memo,Category,Amount,Balance,";
-struct ColumnsRow {
-  std::string_view key;
-  std::string_view columns;
-};
-constexpr ColumnsRow columns_rows[] = {
-    {"AcctRep", category_columns},
-    {"PrintAcctRep", category_columns},
-    {"PrintAcctBal", category_columns},
-    {"VendorRep", category_columns},
-    {"ItemRep", "Type,Date,Number,Name,Memo,Qty,Amount,"},
-    {"PayItem", "Type,Date,Number,Name,PayrollItem,Amount,"},
-};
-
 }  // namespace
 
 std::span<const MenuRow> Menu_Table() {
@@ -239,12 +225,6 @@ std::span<const ToolRow> Toolbar_Table() {
 }
 std::span<const ContextRow> Context_Table() {
   return context_rows;
-}
-
-std::string_view Custom_Report_Columns(std::string_view key) {
-  for (const ColumnsRow& row : columns_rows)
-    if (row.key == key) return row.columns;
-  return {};
 }
 
 }  // namespace tallymere

@@ -42,7 +42,5 @@ inline constexpr std::string_view Bills_Items = "Items";  ///< with the item tab
 inline constexpr std::string_view Bills_Item_Receipt =
     "Item Receipt";  ///< the same, with the item-receipt box set
 
-/// The columns with which a transaction report comes up; empty: all fields of Transactions.
-std::string_view Custom_Report_Columns(std::string_view key);
 
 }  // namespace tallymere

@@ -1,6 +1,6 @@
 #include "shell/shell.h"
 
-#include "shell/menus.h"
+#include "reports/transaction_reports.h"
 
 namespace tallymere {
 

@@ -38,6 +38,9 @@ class Shell {
   virtual Form* find_window(const std::string& name) const = 0;  ///< an open one, or nullptr
   /// Runs a window modally; true when it was accepted. The caller owns it and reads its answer afterwards.
   virtual bool Run_Modal(Form& form) = 0;
+  /// Runs a window of the table modally and hands back its answer; nothing when it was not accepted, or when
+  /// there is no such window yet.
+  virtual std::optional<std::string> Ask_Window(const Request& request) = 0;
   /// Opens the entry window that belongs to a transaction's type; where there is none the status bar says so.
   virtual void Go_To_Transaction(const std::string& type, int64_t number) = 0;
   /// A transaction report beside those that are open, with the columns that belong to its key unless it names

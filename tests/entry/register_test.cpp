@@ -129,6 +129,24 @@ TEST(Registers, CaptionsAndNewLinesFollowTheType) {
   EXPECT_TRUE(Takes_New_Lines("Credit Card"));
 }
 
+TEST(Registers, ALineTellsThatAnotherUserChangedOrDeletedIt) {
+  EntryCompany company;
+  const int64_t number = company.write("Check", Date(2026, 1, 1), "0SS", "40SS", Dollars(5));
+  Register reg(*company.session, "0SS");
+  const RegisterLine line = reg.line(0);
+  EXPECT_TRUE(Shows(line, *Open_Entry(*company.session, reg, line)));
+  auto other = company.another_user();
+  Rewrite_Fields(*other, number, {{"Memo", "theirs"}});
+  EXPECT_FALSE(Shows(line, *Open_Entry(*company.session, reg, line)));
+  Delete_Transaction(*other, number);
+  EXPECT_FALSE(Open_Entry(*company.session, reg, line));
+  RegisterEntry gone = Entry_As_Shown(line);
+  const RecordResult result = Record(*company.session, reg, gone);
+  ASSERT_TRUE(result.conflict);
+  EXPECT_EQ(result.conflict->box.title, "Data has changed");
+  EXPECT_EQ(Rows_Of(company.db(), number, sides), "") << "it does not come back";
+}
+
 // --- recording -------------------------------------------------------------------------------------------
 
 TEST(Registers, TheFirstMistakeInOrderStopsARecord) {

@@ -42,6 +42,10 @@ constexpr Command commands[] = {
      "writes a check, or the same one several times; each number is told once it is safely kept", Enter},
     {"verify", "verify --company FILE", "checks the whole of the books and the file; exit 1 with what is wrong", Verify},
     {"figures", "figures --company FILE", "the balances of the company's categories", Figures},
+    {"report",
+     "report [KEY --company FILE [--range NAME] [--from m/d/yyyy] [--to m/d/yyyy] [--basis cash|accrual] [--title TEXT]"
+     " [--fields LIST] [--category ID] [--name NAME] [--item NAME] [--format text|csv|xlsx|pdf] [--out FILE]]",
+     "a report of the company's books; without a key, the keys there are", Report},
     {"backup", "backup --company FILE --out FILE.cbk", "writes a backup of the company as it stands", Back_Up},
     {"restore", "restore --backup FILE.cbk --company FILE", "puts a backup in a company's place, once it has proved sound",
      Restore},

@@ -40,5 +40,6 @@ int Restore(Arguments& arguments);
 int Enter(Arguments& arguments);
 int History(Arguments& arguments);
 int Undo(Arguments& arguments);
+int Report(Arguments& arguments);
 
 }  // namespace tallymere::cli

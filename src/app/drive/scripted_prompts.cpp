@@ -22,6 +22,17 @@ bool ScriptedPrompts::ask(const Box& box, Buttons) {
   return answer == "Yes";
 }
 
+std::optional<bool> ScriptedPrompts::ask_or_stay(const Box& box) {
+  const auto expected = expectations_.meet(Kind::Box, box.title, box.text);
+  if (!expected) return std::nullopt;
+  const std::string answer = expected->answer.value_or("");
+  if (answer != "Yes" && answer != "No" && answer != "Cancel") {
+    expectations_.fail(
+        {"the box " + Shown(box.text) + " asks", "an answer \"Yes\", \"No\" or \"Cancel\"", Shown(answer)});
+  }
+  return answer == "Cancel" ? std::nullopt : std::optional(answer == "Yes");
+}
+
 std::optional<std::string> ScriptedPrompts::input(const std::string& title, const std::string& prompt) {
   const auto expected = expectations_.meet(Kind::Input, title, prompt);
   return expected ? expected->answer : std::nullopt;

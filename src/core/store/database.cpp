@@ -347,7 +347,7 @@ Transaction::Transaction(Database& db, std::string what, History history)
   } else {
     connection.begin();
     try {
-      if (db_.keeps_history_ && history_ == History::Rows) connection.record_changes(std::string(history_table));
+      if (db_.keeps_history_ && history_ == History::Rows) connection.record_changes(Is_Own);
     } catch (...) {
       connection.rollback();
       throw;

@@ -116,7 +116,10 @@ Statement& Statement::bind_bytes(int position, std::string_view bytes) {
 bool Statement::step() {
   int code = sqlite3_step(slot_->handle);
   if (code == SQLITE_ROW) return true;
-  if (code != SQLITE_DONE) connection_->check(code, sqlite3_sql(slot_->handle));
+  if (code == SQLITE_DONE) return false;
+  // The engine has taken back what the failed statement wrote.
+  if (connection_->recorder_) connection_->recorder_->forget_since(slot_->changes_before);
+  connection_->check(code, sqlite3_sql(slot_->handle));
   return false;
 }
 
@@ -213,9 +216,10 @@ Statement Connection::prepare(std::string_view sql) {
   for (auto& slot : slots) {
     if (slot->on_loan) continue;
     slot->on_loan = true;
+    slot->changes_before = recorder_ ? recorder_->mark() : 0;
     return Statement(slot.get(), this);
   }
-  auto slot = std::make_unique<Statement::Slot>(nullptr, true);
+  auto slot = std::make_unique<Statement::Slot>(nullptr, true, recorder_ ? recorder_->mark() : 0);
   check(sqlite3_prepare_v3(handle_, sql.data(), static_cast<int>(sql.size()), SQLITE_PREPARE_PERSISTENT,
                            &slot->handle, nullptr),
         std::string(sql));
@@ -237,37 +241,30 @@ void Connection::commit() { prepare("COMMIT").run(); }
 void Connection::rollback() {
   if (in_transaction()) sqlite3_exec(handle_, "ROLLBACK", nullptr, nullptr, nullptr);
 }
-void Connection::savepoint(const std::string& name) { prepare("SAVEPOINT " + name).run(); }
+
+void Connection::savepoint(const std::string& name) {
+  prepare("SAVEPOINT " + name).run();
+  savepoint_marks_[name] = recorder_ ? recorder_->mark() : 0;
+}
+
 void Connection::release(const std::string& name) { prepare("RELEASE " + name).run(); }
+
 void Connection::rollback_to(const std::string& name) {
+  if (recorder_) recorder_->forget_since(savepoint_marks_[name]);
   sqlite3_exec(handle_, ("ROLLBACK TO " + name + "; RELEASE " + name).c_str(), nullptr, nullptr, nullptr);
 }
 
 // --- changesets ---------------------------------------------------------------------------------------------
 
-void Connection::record_changes(std::string except) {
-  drop_changes();
-  unrecorded_table_ = std::move(except);
-  check(sqlite3session_create(handle_, "main", &session_), "history");
-  sqlite3session_table_filter(
-      session_,
-      [](void* self, const char* table) {
-        return static_cast<Connection*>(self)->unrecorded_table_ == table ? 0 : 1;
-      },
-      this);
-  check(sqlite3session_attach(session_, nullptr), "history");
+void Connection::record_changes(bool (*leave_out)(std::string_view table)) {
+  recorder_.emplace(handle_);
+  recorder_->start(leave_out);
 }
 
 std::string Connection::take_changes() {
-  if (!session_) return {};
-  EngineBytes bytes;
-  check(sqlite3session_changeset(session_, &bytes.size, &bytes.data), "history");
+  std::string changes = recorder_ ? recorder_->changeset() : std::string();
   drop_changes();
-  return {static_cast<const char*>(bytes.data), static_cast<size_t>(bytes.size)};
-}
-
-void Connection::drop_changes() {
-  if (session_) sqlite3session_delete(std::exchange(session_, nullptr));
+  return changes;
 }
 
 std::vector<RowChange> Connection::read_changes(std::string_view changeset) {
@@ -335,7 +332,9 @@ std::vector<std::string> Connection::apply_inverse(std::string_view changeset,
   check(sqlite3changeset_invert(static_cast<int>(changeset.size()), changeset.data(), &inverse.size, &inverse.data),
         "history");
   InverseApplication application{is_cache, {}};
+  size_t before = recorder_ ? recorder_->mark() : 0;
   int code = sqlite3changeset_apply(handle_, inverse.size, inverse.data, nullptr, On_Conflict, &application);
+  if (code != SQLITE_OK && recorder_) recorder_->forget_since(before);  // applied as a whole or not at all
   if (code != SQLITE_ABORT) check(code, "history");
   return {application.refused.begin(), application.refused.end()};
 }

@@ -4,16 +4,17 @@
 #include <filesystem>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <unordered_map>
 #include <vector>
 
+#include "core/store/change_recorder.h"
 #include "core/store/value.h"
 
 struct sqlite3;
 struct sqlite3_stmt;
-struct sqlite3_session;
 
 /// Everything that knows which engine stands underneath: statements, pragmas, error codes, locking, changesets.
 /// A server engine would be a second implementation of this header; nothing above it may notice.
@@ -49,6 +50,7 @@ class Statement {
   struct Slot {
     sqlite3_stmt* handle;
     bool on_loan;
+    size_t changes_before;  ///< what the recorder had noted when it was lent
   };
   explicit Statement(Slot* slot, class Connection* connection) : slot_(slot), connection_(connection) {}
   Slot* slot_;
@@ -89,10 +91,10 @@ class Connection {
   void release(const std::string& name);
   void rollback_to(const std::string& name);
 
-  /// Records what is written from now on, all tables but `except`; take_changes() ends it.
-  void record_changes(std::string except);
+  /// Notes what is written from now on, but for the tables that `leave_out` knows; take_changes() ends it.
+  void record_changes(bool (*leave_out)(std::string_view table));
   std::string take_changes();
-  void drop_changes();
+  void drop_changes() { recorder_.reset(); }
   static std::vector<RowChange> read_changes(std::string_view changeset);
 
   /// Applies the inverse of a changeset as a whole. `may_replace(table, column)` names columns that are only caches
@@ -110,8 +112,8 @@ class Connection {
  private:
   void check(int code, const std::string& doing);
   sqlite3* handle_ = nullptr;
-  sqlite3_session* session_ = nullptr;
-  std::string unrecorded_table_;
+  std::optional<ChangeRecorder> recorder_;
+  std::unordered_map<std::string, size_t> savepoint_marks_;
   std::unordered_map<std::string, std::vector<std::unique_ptr<Statement::Slot>>> statements_;
   friend class Statement;
 };

@@ -37,7 +37,10 @@ QSize AddressEdit::sizeHint() const {
 
 void AddressEdit::keyPressEvent(QKeyEvent* event) {
   const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-  if (enter && blockCount() > most_lines_by_enter) return event->ignore();  // the window moves on
+  const bool whole = !toPlainText().isEmpty() && textCursor().selectedText().size() == toPlainText().size();
+  // The window moves on; also from an address just entered: selected whole, it must not give way to a line
+  // end.
+  if (enter && (whole || blockCount() > most_lines_by_enter)) return event->ignore();
   QPlainTextEdit::keyPressEvent(event);
 }
 

@@ -15,6 +15,7 @@
 #include <QTextEdit>
 
 #include "core/error_box.h"
+#include "shell/widgets/mnemonics.h"
 #include "shell/widgets/window_memory.h"
 
 namespace tallymere {
@@ -91,8 +92,9 @@ void Form::go_to(QWidget* control) {
   select_all(control);
 }
 
-void Form::finish(bool accepted) {
+void Form::finish(bool accepted, const std::string& answer) {
   accepted_ = accepted;
+  answer_ = answer;
   auto* frame = qobject_cast<QMdiSubWindow*>(parentWidget());
   frame ? frame->close() : close();
 }
@@ -141,6 +143,30 @@ void Form::keyPressEvent(QKeyEvent* event) {
   if (enter && !(event->modifiers() & ~Qt::KeypadModifier)) return enter_pressed();
   if (event->key() == Qt::Key_Escape && place_ == Place::Above) return finish(false);
   QWidget::keyPressEvent(event);
+}
+
+/// A letter underlined in this window is its own, also where the frame's menu bar has it too.
+bool Form::claims(const QKeyEvent& key) {
+  if ((key.modifiers() & ~Qt::KeypadModifier) != Qt::AltModifier) return false;
+  mnemonic_ = Mnemonic_Of(*this, QKeySequence(QKeyCombination(Qt::AltModifier, Qt::Key(key.key()))));
+  if (mnemonic_) qApp->installEventFilter(this);  // the press itself comes next, to whatever has the focus
+  return mnemonic_ != nullptr;
+}
+
+bool Form::event(QEvent* event) {
+  if (event->type() != QEvent::ShortcutOverride) return QWidget::event(event);
+  const bool mine = claims(*static_cast<QKeyEvent*>(event));
+  event->setAccepted(mine);
+  return mine;
+}
+
+bool Form::eventFilter(QObject* watched, QEvent* event) {
+  if (!mnemonic_ || event->type() != QEvent::KeyPress) return QWidget::eventFilter(watched, event);
+  qApp->removeEventFilter(this);
+  const auto press = std::exchange(mnemonic_, {});
+  if (!(static_cast<QKeyEvent*>(event)->modifiers() & Qt::AltModifier)) return false;
+  press();
+  return true;
 }
 
 void Form::enter_pressed() {

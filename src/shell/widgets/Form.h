@@ -46,8 +46,10 @@ class Form : public QWidget {
   /// Goes to a control, bringing its tab page to the front and selecting its text.
   void go_to(QWidget* control);
 
-  void finish(bool accepted);  ///< ends a modal run, or closes
+  /// Ends a modal run with an answer for the caller, or closes.
+  void finish(bool accepted, const std::string& answer = {});
   bool accepted() const { return accepted_; }
+  const std::string& answer() const { return answer_; }
   const Clock& clock() const { return session.clock; }
   QSize sizeHint() const override;  ///< as the user last left it, where sizes are remembered
 
@@ -76,6 +78,8 @@ class Form : public QWidget {
   void closeEvent(QCloseEvent* event) override;
   void showEvent(QShowEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;  ///< what the controls left over
+  bool event(QEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
   Shell& shell;
   Session& session;
@@ -96,10 +100,13 @@ class Form : public QWidget {
       handler();
   }
   void enter_pressed();
+  bool claims(const QKeyEvent& key);
   void prepare_controls();
 
   Place place_;
   bool accepted_ = false;
+  std::string answer_;
+  std::function<void()> mnemonic_;  ///< what the Alt key that is being pressed does here
   bool prepared_ = false;
 };
 

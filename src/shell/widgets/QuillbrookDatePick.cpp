@@ -43,9 +43,9 @@ QuillbrookDatePick::QuillbrookDatePick(QWidget* parent) : QLineEdit(parent) {
   setPlaceholderText(QStringLiteral("m/d/yyyy"));
   setMinimumWidth(QFontMetrics(font()).horizontalAdvance(QStringLiteral("00/00/0000")) + 6 * theme::unit);
   setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
-  auto* open = addAction(calendar_icon(palette().color(QPalette::Text)), QLineEdit::TrailingPosition);
-  open->setToolTip(QStringLiteral("Calendar (Alt+Down)"));
-  connect(open, &QAction::triggered, this, &QuillbrookDatePick::show_calendar);
+  open_ = addAction(calendar_icon(palette().color(QPalette::Text)), QLineEdit::TrailingPosition);
+  open_->setToolTip(QStringLiteral("Calendar (Alt+Down)"));
+  connect(open_, &QAction::triggered, this, &QuillbrookDatePick::show_calendar);
   connect(this, &QLineEdit::textEdited, this,
           [this] { mark_faulty(this, !text().trimmed().isEmpty() && !typed()); });
 }
@@ -136,6 +136,13 @@ void QuillbrookDatePick::focusOutEvent(QFocusEvent* event) {
 void QuillbrookDatePick::showEvent(QShowEvent* event) {
   if (!value_ && !blank_allowed_ && text().isEmpty()) set_value(clock_of(this).today());
   QLineEdit::showEvent(event);
+}
+
+/// On paper of another colour the sign stays visible.
+void QuillbrookDatePick::changeEvent(QEvent* event) {
+  QLineEdit::changeEvent(event);
+  if (open_ && event->type() == QEvent::PaletteChange)
+    open_->setIcon(calendar_icon(palette().color(QPalette::Text)));
 }
 
 void QuillbrookDatePick::show_calendar() {

@@ -37,6 +37,7 @@ class QuillbrookDatePick : public QLineEdit {
   void keyPressEvent(QKeyEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
   void showEvent(QShowEvent* event) override;
+  void changeEvent(QEvent* event) override;
 
  private:
   std::optional<Date> typed() const;  ///< what stands in the field, if it is a date
@@ -45,6 +46,7 @@ class QuillbrookDatePick : public QLineEdit {
   void show_value();
   std::optional<Date> reached_by(int key) const;
 
+  QAction* open_ = nullptr;  ///< the calendar's button
   std::optional<Date> value_;
   bool blank_allowed_ = false;
 };

@@ -93,6 +93,8 @@ class SSDBGrid : public QTableView {
   /// BeforeUpdate refused the row.
   bool commit();
   bool editing() const { return state() == EditingState; }
+  /// Code changed a row on the user's behalf: leaving it settles it as if it had been typed in.
+  void touch_row(int row) { changed_row_ = row; }
 
   // --- looks ---
   void define_style(const std::string& name,

@@ -81,7 +81,7 @@ bool SSDBGrid::toggle(int row, int column) {
 }
 
 bool SSDBGrid::commit() {
-  if (QWidget* editor = indexWidget(currentIndex()); editor && editing()) {
+  if (QWidget* editor = indexWidget(currentIndex()); editor && editing() && !editor->hasFocus()) {
     commitData(editor);
     closeEditor(editor, QAbstractItemDelegate::NoHint);
   } else if (editing()) {

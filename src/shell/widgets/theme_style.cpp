@@ -10,13 +10,13 @@ namespace tallymere {
 
 namespace {
 
-/// Fusion draws outlines darker than the window: on a dark desktop nobody sees them. While this lives the
+/// Fusion draws outlines darker than the window: on a dark desktop or paper nobody sees them. While this lives the
 /// option's window is a light one, so that boxes and fields keep an edge.
 class VisibleEdges {
  public:
   explicit VisibleEdges(const QStyleOption* option)
       : option_(const_cast<QStyleOption*>(option)), palette_(option->palette) {
-    if (theme::is_dark()) option_->palette.setColor(QPalette::Window, QColor(0x7d, 0x8d, 0x93));
+    if (palette_.color(QPalette::Window).lightness() < 128) option_->palette.setColor(QPalette::Window, QColor(0x7d, 0x8d, 0x93));
   }
   ~VisibleEdges() { option_->palette = palette_; }
   VisibleEdges(const VisibleEdges&) = delete;

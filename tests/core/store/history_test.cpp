@@ -79,6 +79,60 @@ TEST_F(HistoryOf, AnyActionIsTakenBackWholeInAnyOrderUnlessLaterWorkStandsOnIt) 
   EXPECT_EQ(undo(two), errors::undo_refused) << "twice is once too often";
 }
 
+/// What is rolled back on the way, fails, or comes to nothing is no part of the action.
+TEST_F(HistoryOf, OnlyTheNetOfAnActionIsKept) {
+  act("Before", "INSERT INTO Accounts (Name, Balance) VALUES ('kept', 10000), ('changed', 20000), ('gone', 30000)");
+  {
+    Transaction tx(*db, "Mixed");
+    db->Execute("INSERT INTO Accounts (Name) VALUES ('come and gone')");
+    db->Execute("UPDATE Accounts SET Name = 'wandered' WHERE Name = 'kept'");
+    {
+      Transaction inner(*db, "given up");
+      db->Execute("DELETE FROM Accounts");
+    }
+    db->Execute("UPDATE Accounts SET Name = 'kept' WHERE Name = 'wandered'");
+    EXPECT_THROW(db->Execute("INSERT INTO Accounts (RowKey, Name) VALUES (77, 'half'), (1, 'taken')"), Error);
+    db->Execute("UPDATE Accounts SET Balance = ? WHERE Name = 'changed'", {Money::dollars(-3)});
+    db->Execute("UPDATE Accounts SET Name = NULL, Balance = NULL WHERE Name = 'changed'");
+    db->Execute("DELETE FROM Accounts WHERE Name IN ('gone', 'come and gone')");
+    tx.commit();
+  }
+  int64_t mixed = List_Actions(*db, 1).at(0).number;
+  auto changes = Changes_Of(*db, mixed);
+  ASSERT_EQ(changes.size(), 2u);
+  EXPECT_EQ(changes[0].cells.at(0).before.text() + changes[0].cells.at(1).before.text(), "changed2");
+  EXPECT_EQ(changes[1].kind, RowChange::Kind::Deleted);
+  EXPECT_EQ(undo(mixed), 0);
+  EXPECT_EQ(names(), "kept changed gone ");
+  EXPECT_EQ(db->value("SELECT Balance FROM Accounts WHERE Name = 'changed'").money(), Money::dollars(2));
+}
+
+TEST_F(HistoryOf, LongTextsAndEveryKindOfValueComeBackWhole) {
+  {
+    Transaction tx(*db, "more fields");
+    db->add_field("Accounts", {"Notes", FieldType::Memo});
+    db->add_field("Accounts", {"Rate", FieldType::Double});
+    db->add_field("Accounts", {"Since", FieldType::Date});
+    tx.commit();
+  }
+  std::string story(70000, 'x');
+  story += "ende\xC3\xA9";
+  auto fill = [&](const std::string& notes, double rate) {
+    Transaction tx(*db, "fill");
+    db->Execute("DELETE FROM Accounts");
+    db->Execute("INSERT INTO Accounts (Name, Balance, Notes, Rate, Since) VALUES ('', -1, ?, ?, ?)", {notes, rate, Date(1999, 12, 31)});
+    tx.commit();
+  };
+  fill(story, 2.0);
+  fill(std::string(200, 'y'), -0.1);
+  EXPECT_EQ(undo(List_Actions(*db, 1).at(0).number), 0);
+  auto row = db->OpenRecordset("SELECT * FROM Accounts");
+  EXPECT_EQ(row["Notes"].text(), story);
+  EXPECT_EQ(row["Rate"].number(), 2.0);
+  EXPECT_EQ(row["Since"].date(), Date(1999, 12, 31));
+  EXPECT_EQ(row["Balance"].money().units(), -1);
+}
+
 TEST_F(HistoryOf, ARefreshedBalanceIsNoLaterWork) {
   int64_t added = act("Add", "INSERT INTO Accounts (Name, Balance) VALUES ('Bank', 0)");
   act("Updating Categories", "UPDATE Accounts SET Balance = 990000");

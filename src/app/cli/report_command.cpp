@@ -1,0 +1,162 @@
+#include <spawn.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <fstream>
+#include <iostream>
+
+#include "app/cli/commands.h"
+#include "core/date_range.h"
+#include "core/program_folder.h"
+#include "core/store/error.h"
+#include "core/text.h"
+#include "reports/renderers.h"
+#include "reports/report_file.h"
+#include "reports/reports.h"
+
+namespace tallymere::cli {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::string_view option_names[] = {report_option::fields, report_option::category,
+                                             report_option::name, report_option::item};
+
+int List_Reports() {
+  for (const ReportDef& report : Reports()) {
+    std::string line(report.key);
+    line.resize(std::max<size_t>(line.size() + 2, 16), ' ');
+    line += report.title;
+    if (report.has_basis) line += "  [--basis cash|accrual]";
+    for (std::string_view name : option_names)
+      if (report.takes(name)) line += "  [--" + std::string(name) + " ...]";
+    std::cout << line << "\n";
+  }
+  return 0;
+}
+
+const ReportDef& Report_Named(const std::string& key) {
+  const ReportDef* report = Find_Report(key);
+  if (!report) throw Usage("no such report: " + key + " (`report` alone lists them)");
+  return *report;
+}
+
+/// A category may be given by its CatID or by its name.
+std::string Category_Id(store::Database& db, const std::string& given) {
+  for (const char* sql : {"SELECT CatID FROM Accounts WHERE CatID = ?",
+                          "SELECT CatID FROM Accounts WHERE AccountName = ? ORDER BY RowKey"})
+    if (std::string id = db.value(sql, {given}).text(); !id.empty()) return id;
+  throw Usage("no such category: " + given);
+}
+
+void Take_Dates(Arguments& arguments, Date today, ReportRequest& request) {
+  if (std::string name = arguments.option("range", ""); !name.empty()) {
+    if (std::find(Date_Range_Names.begin(), Date_Range_Names.end(), name) == Date_Range_Names.end())
+      throw Usage("--range takes one of: " + join({Date_Range_Names.begin(), Date_Range_Names.end()}, ", "));
+    DateRange days = Get_Date_Range(name, today);
+    request.from = days.start;
+    request.to = days.end;
+  }
+  request.from = arguments.date("from").value_or(request.from);
+  request.to = arguments.date("to").value_or(request.to);
+}
+
+void Take_Basis(Arguments& arguments, const ReportDef& report, ReportRequest& request) {
+  if (!report.has_basis) return;
+  std::string basis = arguments.option("basis", "cash");
+  if (basis != "cash" && basis != "accrual") throw Usage("--basis takes cash or accrual");
+  request.basis = basis == "cash" ? Basis::Cash : Basis::Accrual;
+}
+
+void Take_Options(Arguments& arguments, const ReportDef& report, store::Database& db,
+                  ReportRequest& request) {
+  for (std::string_view known : option_names) {
+    std::string name(known);
+    if (!report.takes(name)) continue;
+    bool needed = name != report_option::fields;
+    std::string value = needed ? arguments.option(name) : arguments.option(name, request.option(name));
+    request.options[name] = name == report_option::category ? Category_Id(db, value) : value;
+  }
+}
+
+/// Hands the table to the program that paints pages: this one links nothing that could.
+void Write_Pdf(const ReportTable& table, const fs::path& out) {
+  fs::path painter = Program_File().parent_path() / "tallymere-paint";
+  if (!fs::exists(painter))
+    throw std::runtime_error("tallymere-paint, which paints pages, is not installed here");
+  fs::path handed = out;
+  handed += ".report";
+  {
+    std::ofstream file(handed, std::ios::binary);
+    Write_Report_File(table, file);
+    if (!file.flush()) throw std::runtime_error("'" + handed.string() + "' cannot be written");
+  }
+  std::string program = painter.string(), from = handed.string(), to = out.string();
+  char* words[] = {program.data(), from.data(), to.data(), nullptr};
+  pid_t child = 0;
+  int fault = posix_spawn(&child, program.c_str(), nullptr, nullptr, words, environ);
+  int status = 1;
+  if (fault == 0) waitpid(child, &status, 0);
+  fs::remove(handed);
+  if (fault != 0 || status != 0) throw std::runtime_error("the pages could not be painted");
+}
+
+using Writer = void (*)(const ReportTable&, std::ostream&);
+
+void Write_Stream(const ReportTable& table, const std::string& out, Writer write) {
+  if (out.empty()) {
+    write(table, std::cout);
+    if (!std::cout.flush()) throw std::runtime_error("the report could not be written");
+    return;
+  }
+  std::ofstream file(out, std::ios::binary);
+  write(table, file);
+  if (!file.flush()) throw std::runtime_error("'" + out + "' cannot be written");
+}
+
+void Write_As(const ReportTable& table, const std::string& format, const std::string& out) {
+  if (format == "text") return Write_Stream(table, out, Write_Text);
+  if (format == "csv") return Write_Stream(table, out, Write_Csv);
+  if (format == "table") return Write_Stream(table, out, Write_Report_File);
+  if (format == "xlsx") return Write_Xlsx(table, out);
+  Write_Pdf(table, out);
+}
+
+std::string Format_Of(Arguments& arguments, const std::string& out) {
+  std::string format = arguments.option("format", "text");
+  constexpr std::string_view known[] = {"text", "csv", "table", "xlsx", "pdf"};
+  if (std::find(std::begin(known), std::end(known), format) == std::end(known))
+    throw Usage("--format takes text, csv, xlsx or pdf");
+  if (out.empty() && (format == "xlsx" || format == "pdf"))
+    throw Usage("--format " + format + " needs --out FILE");
+  return format;
+}
+
+}  // namespace
+
+int Report(Arguments& arguments) {
+  auto key = arguments.maybe_word();
+  if (!key) {
+    arguments.finish();
+    return List_Reports();
+  }
+  const ReportDef& report = Report_Named(*key);
+  CliSession cli(arguments);
+  const std::string out = arguments.option("out", "");
+  const std::string format = Format_Of(arguments, out);
+  ReportRequest request = Default_Request(cli.session, report.key);
+  request.title = arguments.option("title", "");
+  Take_Dates(arguments, cli.session.today(), request);
+  Take_Basis(arguments, report, request);
+  cli.open(arguments);
+  Take_Options(arguments, report, *cli.session.dbCompany, request);
+  arguments.finish();
+  const ReportTable table = Build_Report(cli.session, request);
+  if (!table.notice.empty()) std::cerr << table.notice << "\n";
+  Write_As(table, format, out);
+  return 0;
+}
+
+}  // namespace tallymere::cli

@@ -1,0 +1,163 @@
+#include <algorithm>
+
+#include "core/ledger.h"
+#include "reports/ledger_sums.h"
+
+// Income on cash basis: counted when the customer pays.
+namespace tallymere {
+namespace {
+
+struct Payment {
+  Date date;
+  Money Amount;
+};
+
+/// The payments of a period. Unless it holds the whole ledger, which numbers may lie in it is read once: that
+/// spares looking at most payments.
+class Payments {
+ public:
+  Payments(store::Database& db, DateRange days) : db_(db), days_(days) {
+    auto oldest = db.value("SELECT MIN(Date) FROM Transactions").maybe_date();
+    auto newest = db.value("SELECT MAX(Date) FROM Transactions").maybe_date();
+    all_in_period_ = !oldest || (*oldest >= days.start && *newest <= days.end);
+    if (all_in_period_) return;
+    db.each(
+        "SELECT TransNum FROM Transactions INDEXED BY Transactions_Date WHERE Date >= ? AND Date <= ?"
+        " GROUP BY Date, TransNum",
+        {days.start, days.end}, [&](const store::Row& row) { in_period_.push_back(row.integer(0)); });
+    std::sort(in_period_.begin(), in_period_.end());
+  }
+
+  bool all_in_period() const { return all_in_period_; }
+  bool may_be_in_period(int64_t number) const {
+    return all_in_period_ || std::binary_search(in_period_.begin(), in_period_.end(), number);
+  }
+
+  /// The first row of that transaction when it is dated in the period.
+  std::optional<Payment> find(int64_t number) {
+    std::optional<Payment> found;
+    if (!may_be_in_period(number)) return found;
+    db_.each("SELECT Date, Amount FROM Transactions WHERE TransNum = ? ORDER BY RowKey LIMIT 1", {number},
+             [&](const store::Row& row) {
+               auto date = row.date(0);
+               if (date && *date >= days_.start && *date <= days_.end) found = Payment{*date, row.money(1)};
+             });
+    return found;
+  }
+
+ private:
+  store::Database& db_;
+  DateRange days_;
+  bool all_in_period_ = false;
+  std::vector<int64_t> in_period_;  // sorted; small enough for any company
+};
+
+/// An income row that names the transactions which paid it.
+struct PaidRow {
+  size_t category;
+  int64_t TransNum;
+  bool is_credit;
+  Money Amount;
+};
+
+/// Rows with one and the same PaidBy. They come together, an invoice's receivable row among them.
+class PaidRows {
+ public:
+  PaidRows(store::Database& db, const CatIDs& categories, DateRange days, const TakeAmount& take)
+      : db_(db), payments_(db, days), places_(categories), take_(take) {}
+
+  /// Reads every row that names a payment of the period; a long period's in one go, a short one's payment by
+  /// payment.
+  void read() {
+    if (payments_.all_in_period())
+      db_.each(select + " ORDER BY PaidBy", {}, [this](const store::Row& row) { add(row); });
+    else
+      read_some();
+    finish();
+  }
+
+ private:
+  static inline const std::string select =
+      "SELECT PaidBy, Account, TransNum, Credit, Amount FROM Transactions INDEXED BY Transactions_PaidBy"
+      " WHERE PaidBy IS NOT NULL AND (Paid <> 0 OR Type = 'Invoice')";
+
+  void read_some() {
+    db_.each(
+        "SELECT DISTINCT PaidBy FROM Transactions INDEXED BY Transactions_PaidBy WHERE PaidBy IS NOT NULL",
+        {}, [this](const store::Row& row) {
+          for (int64_t number : Payments_Of(row.text(0)))
+            if (payments_.may_be_in_period(number))
+              return db_.each(select + " AND PaidBy = ?", {row.text(0)},
+                              [this](const store::Row& each) { add(each); });
+        });
+  }
+
+  void add(const store::Row& row) {
+    if (row.text(0) != PaidBy_) {
+      finish();
+      PaidBy_ = row.text(0);
+    }
+    if (same_text(row.text(1), accounts_receivable))
+      receivables_.try_emplace(row.integer(2), row.money(4));
+    else if (auto place = places_.find(row.text(1)))
+      rows_.push_back({*place, row.integer(2), row.integer(3) != 0, row.money(4)});
+  }
+
+  void finish() {
+    if (!rows_.empty())
+      for (int64_t number : Payments_Of(PaidBy_))
+        if (auto payment = payments_.find(number))
+          for (const PaidRow& row : rows_) take_share(row, *payment);
+    rows_.clear();
+    receivables_.clear();
+  }
+
+  void take_share(const PaidRow& row, const Payment& payment) {
+    Money receivable = receivable_of(row.TransNum);
+    bool in_part = receivable > payment.Amount && !receivable.is_zero();
+    Money share = in_part ? row.Amount.share(payment.Amount, receivable) : row.Amount;
+    take_({row.category, payment.date, row.is_credit ? share : -share});
+  }
+
+  /// The Amount of the invoice's receivable row; zero, so that the whole row counts, when it has none.
+  Money receivable_of(int64_t TransNum) {
+    auto known = receivables_.find(TransNum);
+    if (known != receivables_.end()) return known->second;
+    auto read = db_.value(
+        "SELECT Amount FROM Transactions WHERE TransNum = ? AND Account = ? ORDER BY RowKey LIMIT 1",
+        {TransNum, accounts_receivable});
+    return receivables_.emplace(TransNum, read.money()).first->second;
+  }
+
+  store::Database& db_;
+  Payments payments_;
+  CategoryPlaces places_;
+  const TakeAmount& take_;
+  std::string PaidBy_;
+  std::vector<PaidRow> rows_;
+  std::map<int64_t, Money> receivables_;
+};
+
+}  // namespace
+
+void Sum_CashIncome(store::Database& db, const CatIDs& categories, DateRange days, const TakeAmount& take) {
+  PaidRows(db, categories, days, take).read();
+  db.each(
+      "SELECT wanted.key, Date, SUM(CASE WHEN Credit <> 0 THEN ABS(Amount) ELSE -ABS(Amount) END)"
+      " FROM json_each(?3) AS wanted CROSS JOIN Transactions INDEXED BY Transactions_Account"
+      " WHERE Account = wanted.value AND Date >= ?1 AND Date <= ?2 AND (Paid IS NULL OR Paid = 0)"
+      " AND (Transactions.Type IS NULL OR Transactions.Type <> 'Invoice') GROUP BY wanted.key, Date",
+      {days.start, days.end, Id_List(categories)}, [&](const store::Row& row) {
+        take({static_cast<size_t>(row.integer(0)), *row.date(1), row.money(2)});
+      });
+}
+
+Figures Sum_CashIncome(store::Database& db, const CatIDs& categories, DateRange days) {
+  std::vector<Money> sums(categories.size());
+  Sum_CashIncome(db, categories, days, [&](const DatedAmount& part) { sums[part.category] += part.amount; });
+  Figures figures;
+  for (size_t at = 0; at < sums.size(); ++at) figures[categories[at]] += sums[at];
+  return figures;
+}
+
+}  // namespace tallymere
