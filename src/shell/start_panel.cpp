@@ -108,6 +108,7 @@ void StartPanel::show_company(const QString& name, const QString& line,
             [this, command = shortcut.command] { Q_EMIT chosen(QString::fromStdString(command)); });
     const int span = shortcuts.size() == 1 ? columns : 1;
     buttons_->addWidget(button, place / columns, place % columns, 1, span);
+    button->show();  // a button that is yet to show takes no room when the card is measured
     ++place;
   }
   centre();

@@ -150,6 +150,29 @@ TEST_F(HistoryOf, ARefreshedBalanceIsNoLaterWork) {
   EXPECT_EQ(names(), "");
 }
 
+TEST_F(HistoryOf, AWholeQuantityIsTheSameNumberHoweverItIsKept) {
+  {
+    Transaction tx(*db, "more");
+    db->add_field("Accounts", {"Qty", FieldType::Double});
+    tx.commit();
+  }
+  int64_t added = act("Add", "INSERT INTO Accounts (Name, Qty, Balance) VALUES ('Bolt', 5.0, 0)");
+  {
+    Transaction same(*db, "Nothing");
+    auto row = db->OpenRecordset("SELECT * FROM Accounts");
+    row.Edit();
+    row["Qty"] = 5;
+    row.Update();
+    same.commit();
+  }
+  act("Nothing", "UPDATE Accounts SET Qty = 5");
+  EXPECT_EQ(List_Actions(*db, 1).at(0).number, added) << "what changed nothing leaves nothing";
+  act("Refresh", "UPDATE Accounts SET Balance = 990000");
+  EXPECT_EQ(undo(added), 0);
+  EXPECT_EQ(undo(List_Actions(*db, 1).at(0).number), 0);
+  EXPECT_EQ(db->value("SELECT Qty FROM Accounts"), Value(5.0));
+}
+
 TEST_F(HistoryOf, ABulkLoadIsOneLineThatCannotBeTakenBack) {
   {
     Transaction load(*db, "Import", Transaction::History::Summary);
