@@ -13,9 +13,9 @@ namespace {
 using Kind = ReportColumn::Kind;
 using Widths = std::vector<qreal>;
 
-constexpr qreal widest_text = 3600;      ///< beyond it texts wrap
-constexpr qreal widest_label = 5200;     ///< the same for the first column
-constexpr qreal narrowest_text = 900;   ///< a text column is not squeezed below it
+constexpr qreal widest_text = 3600;    ///< beyond it texts wrap
+constexpr qreal widest_label = 5200;   ///< the same for the first column
+constexpr qreal narrowest_text = 900;  ///< a text column is not squeezed below it
 constexpr qreal longest_word = 2400;
 constexpr qreal widest_caption = 1300;
 constexpr qreal smallest_print = 0.78;

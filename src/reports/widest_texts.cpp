@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <map>
 
-
 namespace tallymere {
 namespace {
 
