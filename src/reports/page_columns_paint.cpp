@@ -65,6 +65,7 @@ class Measure {
     qreal width = 0;
     for (const StyledText& text : texts_[column])
       width = std::max(width, fonts_.of(text.style).metrics.horizontalAdvance(qt(text.word)));
+    width *= 1.15;  // one of fewer letters may be wider
     width = std::max(std::min(width, longest_word), caption_width(column)) + 2 * Page_Columns::pad + 20;
     return std::min(natural[column], std::max(width, narrowest_text));
   }
