@@ -8,6 +8,7 @@
 
 #include "shell/frmProgress.h"
 #include "shell/frmStatus.h"
+#include "shell/widgets/arrow_pointer.h"
 #include "shell/widgets/line_icon.h"
 #include "shell/widgets/sounds.h"
 #include "shell/widgets/theme.h"
@@ -18,15 +19,6 @@ namespace {
 
 constexpr int quick = 250;         // milliseconds: a pass that takes less shows no window
 constexpr int between_looks = 40;  // milliseconds between two paintings of a bar
-
-/// The arrow while the program waits for an answer, whatever long pass it interrupts.
-class ArrowPointer {
- public:
-  ArrowPointer() { QApplication::setOverrideCursor(Qt::ArrowCursor); }
-  ~ArrowPointer() { QApplication::restoreOverrideCursor(); }
-  ArrowPointer(const ArrowPointer&) = delete;
-  ArrowPointer& operator=(const ArrowPointer&) = delete;
-};
 
 QMessageBox::Icon icon_of(Icon icon) {
   switch (icon) {

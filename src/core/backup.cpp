@@ -1,11 +1,10 @@
 #include "core/backup.h"
 
-#include <unistd.h>
-
 #include "core/clsHuffman.h"
 #include "core/company.h"
 #include "core/folder.h"
 #include "core/text.h"
+#include "core/whole_file.h"
 
 namespace tallymere {
 namespace {
@@ -13,28 +12,6 @@ namespace {
 namespace fs = std::filesystem;
 
 struct Stopped {};
-
-/// A file that only exists on the way to another; gone with its scope unless it was handed on.
-class FileAside {
- public:
-  FileAside(const fs::path& beside, const char* ending) : path_(beside) {
-    path_ += "." + std::to_string(getpid()) + ending;
-    remove();
-  }
-  ~FileAside() { remove(); }
-  FileAside(const FileAside&) = delete;
-  FileAside& operator=(const FileAside&) = delete;
-
-  const fs::path& path() const { return path_; }
-  fs::path hand_on() { return std::exchange(path_, {}); }
-
- private:
-  void remove() {
-    std::error_code ignored;
-    if (!path_.empty()) fs::remove(path_, ignored);
-  }
-  fs::path path_;
-};
 
 clsHuffman Huffman_With(const Percent& percent) {
   clsHuffman huffman;
@@ -117,26 +94,78 @@ fs::path Expand_Backup(const fs::path& backup, const fs::path& target, const Per
   const auto company = Open_Current(expanded.path(), store::FileKind::Company);
   if (company->value("SELECT COUNT(*) FROM CompanyInfo").integer() != 1)
     throw store::Error(store::errors::not_a_database, "The backup holds no company.");
+  // Stored data has no checksum, and the one of compressed data is a single byte.
+  if (const auto faults = company->connection().integrity_faults(); !faults.empty())
+    throw store::Error(store::errors::file_damaged,
+                       "The company in the backup is damaged: " + faults.front());
   return expanded.hand_on();
 }
 
-void Replace_Company(const fs::path& expanded, const fs::path& target, const std::function<void()>& reopen) {
-  fs::path before = target;
-  before += ".before";
-  const bool replaces = fs::exists(target);
-  if (replaces) fs::rename(target, before);
+namespace {
+
+/// Runs `reopen`; when it throws, `take_back` runs before the fault goes on.
+template <typename TakeBack>
+void Reopen_Or(const std::function<void()>& reopen, TakeBack&& take_back) {
   try {
-    fs::rename(expanded, target);
     reopen();
   } catch (...) {
-    std::error_code ignored;
-    if (replaces)
-      fs::rename(before, target, ignored);
-    else
-      fs::remove(target, ignored);
+    take_back();
     throw;
   }
-  fs::remove(before);
+}
+
+/// Writes the content of one company file over another in one commit, as any other writer would: a program
+/// that has the other one open goes on with the new content instead of saving into a file that nobody sees
+/// again.
+void Write_Over(const fs::path& from, const fs::path& over) {
+  store::Connection(from, store::Connection::Mode::ReadWrite).copy_to(over);
+}
+
+/// false: what stands there can be read by nobody.
+bool Keep_Copy(const fs::path& company, const fs::path& copy) {
+  try {
+    Write_Over(company, copy);
+    return true;
+  } catch (const store::Error& fault) {
+    if (fault.number != store::errors::not_a_database && fault.number != store::errors::file_damaged) throw;
+    return false;
+  }
+}
+
+void Move_With_Journal(const fs::path& from, const fs::path& to) {
+  std::error_code no_journal;
+  fs::rename(from, to);
+  fs::rename(Journal_Of(from), Journal_Of(to), no_journal);
+}
+
+void Replace_Unreadable(const fs::path& expanded, const fs::path& target,
+                        const std::function<void()>& reopen) {
+  fs::path before = target;
+  before += ".before";
+  Move_With_Journal(target, before);
+  Reopen_Or(
+      [&] {
+        fs::rename(expanded, target);
+        reopen();
+      },
+      [&] { Move_With_Journal(before, target); });
+  std::error_code ignored;
+  fs::remove(before, ignored);
+  fs::remove(Journal_Of(before), ignored);
+}
+
+}  // namespace
+
+void Replace_Company(const fs::path& expanded, const fs::path& target, const std::function<void()>& reopen) {
+  if (Move_To_Free_Place(expanded, target))
+    return Reopen_Or(reopen, [&] {
+      std::error_code ignored;
+      fs::remove(target, ignored);
+    });
+  const FileAside before(target, ".before");
+  if (!Keep_Copy(target, before.path())) return Replace_Unreadable(expanded, target, reopen);
+  Write_Over(expanded, target);
+  Reopen_Or(reopen, [&] { Write_Over(before.path(), target); });
 }
 
 bool Backup_Company(Session& session, const std::string& file_name) {
@@ -156,22 +185,16 @@ bool Backup_Company(Session& session, const std::string& file_name) {
 
 bool Restore_Company(Session& session, const fs::path& backup, const fs::path& target,
                      const std::function<bool()>& let_go) {
-  fs::path expanded;
-  {
+  const FileAside expanded = [&] {
     ProgressBar bar(session.prompts, "Restore");
-    expanded = Expand_Backup(backup, target, bar.percent());
-  }
-  if (expanded.empty() || (let_go && !let_go())) {
-    if (!expanded.empty()) fs::remove(expanded);
-    return false;
-  }
+    return FileAside::Adopt(Expand_Backup(backup, target, bar.percent()));
+  }();
+  if (expanded.path().empty() || (let_go && !let_go())) return false;
   const CompanyState before(session);
   Close_Company_File(session);
   try {
-    Replace_Company(expanded, target, [&] { Open_Company_File(session, target); });
+    Replace_Company(expanded.path(), target, [&] { Open_Company_File(session, target); });
   } catch (...) {
-    std::error_code ignored;
-    fs::remove(expanded, ignored);
     before.reopen(session);
     throw;
   }

@@ -30,8 +30,9 @@ bool Write_Backup(store::Database& company, const std::filesystem::path& destina
 std::filesystem::path Expand_Backup(const std::filesystem::path& backup, const std::filesystem::path& target,
                                     const Percent& percent = {});
 
-/// Puts an expanded backup in the place of a company file that nobody holds open, and takes it back if
-/// `reopen` throws.
+/// Puts an expanded backup in the place of a company file, and takes it back if `reopen` throws. Others who
+/// have the company open go on with the restored one; while one of them writes, Error 3218. The expanded file
+/// stays the caller's, where it was not moved.
 void Replace_Company(const std::filesystem::path& expanded, const std::filesystem::path& target,
                      const std::function<void()>& reopen);
 

@@ -11,6 +11,7 @@
 #include <system_error>
 
 #include "core/huffman_tree.h"
+#include "core/whole_file.h"
 
 namespace tallymere {
 namespace {
@@ -247,8 +248,9 @@ void Replace_File(const fs::path& path, const Bytes& bytes, std::string_view sou
   file.write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
   file.close();
   std::error_code fault;
-  if (file) fs::rename(part, path, fault);
-  if (file && !fault) return;
+  const bool whole = file && Make_Lasting(part);
+  if (whole) fs::rename(part, path, fault);
+  if (whole && !fault) return;
   fs::remove(part, fault);
   throw HuffmanError(source, "Destination file could not be written");
 }

@@ -3,6 +3,7 @@
 #include "core/folder.h"
 #include "core/tax_update.h"
 #include "core/text.h"
+#include "core/whole_file.h"
 
 namespace tallymere {
 namespace {
@@ -100,10 +101,14 @@ bool Is_Cache(const std::string& table, const std::string& field) {
   return found && found->cache;
 }
 
+store::Author Author_Of(Session& session) {
+  return {[&session] { return session.acting_user(); }, [&session] { return session.clock.stamp(); }};
+}
+
 /// Tells a company's file who works on it and which of its fields are only caches.
 void Introduce(Session& session, Database& db) {
   db.set_caches(Is_Cache);
-  db.set_author({[&session] { return session.acting_user(); }, [&session] { return session.clock.stamp(); }});
+  db.set_author(Author_Of(session));
 }
 
 }  // namespace
@@ -137,30 +142,37 @@ fs::path Company_Path(const Session& session, const std::string& name) {
   return session.folder / (name + ".cmf");
 }
 
-void New_Company(Session& session, const std::string& name) {
-  session.LastCompanyError = 0;
-  fs::path path = Company_Path(session, name);
-  if (fs::exists(path)) {
-    session.LastCompanyError = store::errors::database_exists;
-    session.prompts.box({"Company name already exisits.", "Error", Icon::Critical});
-    return;
-  }
-  try {
-    auto company = Database::CreateDatabase(path, FileKind::Company);
+namespace {
+
+/// Nobody meets a company without its tables, and a name that somebody takes meanwhile stays theirs. false:
+/// it is taken.
+bool Build_Company(Session& session, const fs::path& path, const std::string& name) {
+  if (fs::exists(path)) return false;
+  const FileAside aside(path, ".new");
+  {
+    auto company = Database::CreateDatabase(aside.path(), FileKind::Company);
     company->NewPassword("", database_password);
     Introduce(session, *company);
     Fill_New_Company(session, *company, name);
-  } catch (...) {
-    std::error_code ignored;
-    fs::remove(path, ignored);  // nobody meets a company without its tables
-    throw;
   }
-  session.MultiUser = false;
+  return Move_To_Free_Place(aside.path(), path);
+}
+
+}  // namespace
+
+void New_Company(Session& session, const std::string& name) {
+  session.LastCompanyError = 0;
+  if (Build_Company(session, Company_Path(session, name), name)) {
+    session.MultiUser = false;
+    return;
+  }
+  session.LastCompanyError = store::errors::database_exists;
+  session.prompts.box({"Company name already exisits.", "Error", Icon::Critical});
 }
 
 void Open_Company_File(Session& session, const fs::path& path) {
-  auto opened = Open_Current(path, FileKind::Company);
-  Introduce(session, *opened);
+  auto opened = Open_Current(path, FileKind::Company, Author_Of(session));
+  opened->set_caches(Is_Cache);
   Close_Company_File(session);
   session.dbCompany = std::move(opened);
   session.CompanyPath = path.string();

@@ -1,9 +1,8 @@
 #include "core/folder.h"
 
-#include <unistd.h>
-
 #include "core/store/recordset.h"
 #include "core/tsv.h"
+#include "core/whole_file.h"
 
 namespace tallymere {
 namespace {
@@ -69,11 +68,9 @@ void Load_Rows(Database& db, const TableDef& table, const fs::path& file) {
 void Build(const fs::path& path, FileKind kind, const fs::path& rows) {
   if (!fs::is_directory(rows))
     throw store::Error(store::errors::bad_path, "The rows that ship with the program are missing: " + rows.string());
-  fs::path aside = path;
-  aside += "." + std::to_string(getpid()) + ".new";
-  fs::remove(aside);
+  const FileAside aside(path, ".new");
   {
-    auto db = Database::CreateDatabase(aside, kind);
+    auto db = Database::CreateDatabase(aside.path(), kind);
     db->NewPassword("", database_password);
     store::Transaction build(*db, "Build " + path.filename().string());
     Complete(*db, kind);
@@ -81,7 +78,7 @@ void Build(const fs::path& path, FileKind kind, const fs::path& rows) {
     db->set_version(schema_version);
     build.commit();
   }
-  fs::rename(aside, path);
+  Move_To_Free_Place(aside.path(), path);  // unless another program was first
 }
 
 void Build_Or_Upgrade(const fs::path& path, FileKind kind, const fs::path& rows) {
@@ -99,14 +96,16 @@ void Prepare_Folder(const fs::path& folder, const fs::path& data) {
   Build_Or_Upgrade(folder / "Accounts.mdb", FileKind::Shared, data / "accounts");
 }
 
-std::unique_ptr<Database> Open_Current(const fs::path& path, FileKind kind) {
+std::unique_ptr<Database> Open_Current(const fs::path& path, FileKind kind, const store::Author& author) {
   auto db = Database::OpenDatabase(path, kind, connect_text, schema_version);
+  db->set_author(author);
   if (db->version() < schema_version) Upgrade(*db, kind, upgrade_steps, schema_version);
   return db;
 }
 
 void Upgrade(Database& db, FileKind kind, std::span<const UpgradeStep> steps, int newest) {
   store::Transaction upgrade(db, "Upgrade to version " + std::to_string(newest), store::Transaction::History::Summary);
+  if (db.version() >= newest) return;  // another program did it while this one waited
   for (const UpgradeStep& step : steps)
     if (step.to > db.version() && step.to <= newest) step.run(db);
   Complete(db, kind);

@@ -17,8 +17,9 @@ inline constexpr std::string_view database_password = "xar72kt";
 /// missing; brings older ones up to date. A file appears whole or not at all.
 void Prepare_Folder(const std::filesystem::path& folder, const std::filesystem::path& data);
 
-/// Opens a file of this program and brings an older one up to date, in one transaction.
-std::unique_ptr<store::Database> Open_Current(const std::filesystem::path& path, store::FileKind kind);
+/// Opens a file of this program and brings an older one up to date, in one transaction of this author.
+std::unique_ptr<store::Database> Open_Current(const std::filesystem::path& path, store::FileKind kind,
+                                              const store::Author& author = {});
 
 /// A numbered step from the schema before to `to`. After all steps every table, field and index of the schema exists.
 struct UpgradeStep {

@@ -8,26 +8,19 @@
 #include <QToolButton>
 
 #include "core/store/error.h"
+#include "entry/document.h"
 #include "shell/frmCreate.h"
 #include "shell/frmMain.h"
 #include "shell/frmMenus.h"
 #include "shell/frmStart.h"
 #include "shell/menus.h"
 #include "shell/widgets/Form.h"
+#include "shell/widgets/arrow_pointer.h"
 
 /// From a command to its window.
 namespace tallymere {
 
 namespace {
-
-/// The arrow while a window waits for the user, whatever long pass it interrupts.
-class ArrowPointer {
- public:
-  ArrowPointer() { QApplication::setOverrideCursor(Qt::ArrowCursor); }
-  ~ArrowPointer() { QApplication::restoreOverrideCursor(); }
-  ArrowPointer(const ArrowPointer&) = delete;
-  ArrowPointer& operator=(const ArrowPointer&) = delete;
-};
 
 /// Windows that belong to the frame itself and need no company.
 bool is_own(const std::string& name) {
@@ -94,7 +87,9 @@ void frmMain::btnHelp_Click() {
 }
 
 void frmMain::Go_To_Transaction(const std::string& type, int64_t number) {
-  Show_Window({.window = std::string(Window_Of_Type(type)), .key = {}, .number = number});
+  const std::string window(Entry_Window(type));
+  if (window.empty()) return say("There is no window to go to for a transaction of type " + type + ".");
+  Show_Window({.window = window, .key = {}, .number = number});
 }
 
 void frmMain::Popup(const std::string& menu, QWidget& from, const std::vector<std::string>& disabled,

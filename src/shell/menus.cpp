@@ -219,16 +219,6 @@ constexpr ContextRow context_rows[] = {
     {"mnuCusMessages", "mnuCusMesDelete", "Delete"},
 };
 
-struct TypeRow {
-  std::string_view type;
-  std::string_view window;
-};
-constexpr TypeRow type_rows[] = {
-    {"Payment", "frmPayments"},     {"Check", "frmCheck"},    {"Billcheck", "frmCheck"},
-    {"Liabilitycheck", "frmCheck"}, {"Paycheck", "frmCheck"}, {"Bill", "frmBills"},
-    {"Item Receipt", "frmBills"},   {"Credit", "frmBills"},   {"Invoice", "frmInvoice"},
-};
-
 }  // namespace
 
 std::span<const MenuRow> Menu_Table() {
@@ -239,12 +229,6 @@ std::span<const ToolRow> Toolbar_Table() {
 }
 std::span<const ContextRow> Context_Table() {
   return context_rows;
-}
-
-std::string_view Window_Of_Type(std::string_view type) {
-  for (const TypeRow& row : type_rows)
-    if (row.type == type) return row.window;
-  return "frmJournal";
 }
 
 }  // namespace tallymere

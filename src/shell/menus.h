@@ -42,8 +42,4 @@ inline constexpr std::string_view Bills_Items = "Items";  ///< with the item tab
 inline constexpr std::string_view Bills_Item_Receipt =
     "Item Receipt";  ///< the same, with the item-receipt box set
 
-/// The window in which a transaction of this type is entered. Types without a window of their own show in the
-/// ledger.
-std::string_view Window_Of_Type(std::string_view type);
-
 }  // namespace tallymere

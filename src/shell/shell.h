@@ -41,7 +41,7 @@ class Shell {
   /// Runs a window of the table modally and hands back its answer; nothing when it was not accepted, or when
   /// there is no such window yet.
   virtual std::optional<std::string> Ask_Window(const Request& request) = 0;
-  /// Opens the entry window that belongs to a transaction's type.
+  /// Opens the entry window that belongs to a transaction's type; where there is none the status bar says so.
   virtual void Go_To_Transaction(const std::string& type, int64_t number) = 0;
   /// A transaction report beside those that are open, with the columns that belong to its key unless it names
   /// its own.

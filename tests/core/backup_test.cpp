@@ -5,6 +5,7 @@
 #include "core/clsHuffman.h"
 #include "core/company.h"
 #include "core/folder.h"
+#include "core/whole_file.h"
 #include "support/silent_prompts.h"
 #include "support/temp_folder.h"
 
@@ -110,7 +111,17 @@ TEST_F(BackupTest, AnUnsoundBackupLeavesTheCompanyOpenAsItWas) {
   clsHuffman().EncodeFile(folder / "Model.mdb", folder / "model.cbk");
   clsHuffman().EncodeFile(folder / "ErrorLog.txt", folder / "log.cbk");
 
-  for (const char* name : {"checksum.cbk", "words.cbk", "empty.cbk", "model.cbk", "log.cbk", "missing.cbk"}) {
+  // Stored as it is, without any checksum: cut short, and with a page of nothing in it.
+  std::string file = "HE0\r";
+  {
+    std::ifstream in(folder / "Acme.cmf", std::ios::binary);
+    file.append(std::istreambuf_iterator<char>(in), {});
+  }
+  std::ofstream(folder / "cut.cbk", std::ios::binary) << file.substr(0, file.size() - 3000);
+  std::ofstream(folder / "page.cbk", std::ios::binary) << file.replace(4 + 2 * 4096, 4096, 4096, '\0');
+
+  for (const char* name : {"cut.cbk", "page.cbk", "checksum.cbk", "words.cbk", "empty.cbk", "model.cbk",
+                           "log.cbk", "missing.cbk"}) {
     EXPECT_THROW(Restore_Company(session, folder / name, folder / "Acme.cmf"), std::exception) << name;
     expect_still_open("Acme was here");
   }
@@ -120,12 +131,63 @@ TEST_F(BackupTest, AFailureWhileReplacingPutsTheOldFileBack) {
   const auto file = backup();
   remember("newer than the backup");
   Close_Company_File(session);
-  const auto expanded = Expand_Backup(file, folder / "Acme.cmf");
-  EXPECT_THROW(
-      Replace_Company(expanded, folder / "Acme.cmf", [] { throw store::Error(3051, "cannot open"); }),
-      store::Error);
+  fs::copy_file(folder / "Model.mdb", folder / "Damaged.cmf");
+  fs::resize_file(folder / "Damaged.cmf", 5000);
+  for (const char* target : {"Acme.cmf", "Damaged.cmf", "New.cmf"}) {
+    const auto expanded = FileAside::Adopt(Expand_Backup(file, folder / target));
+    const auto refuse = [] { throw store::Error(3051, "cannot open"); };
+    EXPECT_THROW(Replace_Company(expanded.path(), folder / target, refuse), store::Error) << target;
+  }
+  EXPECT_EQ(fs::file_size(folder / "Damaged.cmf"), 5000u);
+  EXPECT_FALSE(fs::exists(folder / "New.cmf"));
   open("Acme");
   expect_still_open("newer than the backup");
+}
+
+TEST_F(BackupTest, ColleaguesGoOnWithTheRestoredCompany) {
+  const auto file = backup();
+  remember("after the backup");
+  Session colleague{folder.path(), Clock::standing_on(Date(2026, 3, 17)), prompts};
+  Main(colleague);
+  Open_Company_File(colleague, folder / "Acme.cmf");
+  Set_Recordsets(colleague);
+  auto stale = colleague.dbCompany->OpenTable("CompanyInfo");
+  {
+    store::Transaction busy(*colleague.dbCompany, "a long save");
+    EXPECT_THROW(Restore_Company(session, file, folder / "Acme.cmf"), store::Error);
+    expect_still_open("after the backup");
+  }
+  ASSERT_TRUE(Restore_Company(session, file, folder / "Acme.cmf"));
+  EXPECT_EQ(colleague.dbCompany->value("SELECT Memo FROM CompanyInfo").text(), "Acme was here");
+  {
+    store::Transaction tx(*colleague.dbCompany, "what was on their screen");
+    stale->Edit();
+    (*stale)["Memo"] = "old";
+    EXPECT_THROW(stale->Update(), store::Error) << "they look at a company that is gone";
+  }
+  store::Transaction tx(*colleague.dbCompany, "next");
+  colleague.dbCompany->Execute("UPDATE CompanyInfo SET Memo = 'from the other desk'");
+  tx.commit();
+  EXPECT_EQ(memo(), "from the other desk");
+  EXPECT_EQ(leftovers(), "");
+}
+
+TEST_F(BackupTest, ADamagedCompanyAndItsJournalGiveWay) {
+  const auto file = backup();
+  Close_Company_File(session);
+  for (const char* damaged : {"no database at all", ""}) {
+    std::ofstream(folder / "Acme.cmf", std::ios::trunc) << damaged;
+    fs::copy_file(folder / "Accounts.mdb", folder / "Acme.cmf-journal", fs::copy_options::overwrite_existing);
+    ASSERT_TRUE(Restore_Company(session, file, folder / "Acme.cmf")) << damaged;
+    EXPECT_EQ(memo(), "Acme was here");
+    Close_Company_File(session);
+    EXPECT_EQ(leftovers(), "");
+  }
+  fs::remove(folder / "Acme.cmf");
+  std::ofstream(folder / "Acme.cmf-journal") << "left behind";
+  ASSERT_TRUE(Restore_Company(session, file, folder / "Acme.cmf"));
+  EXPECT_EQ(memo(), "Acme was here");
+  EXPECT_EQ(leftovers(), "");
 }
 
 TEST_F(BackupTest, StoppingLeavesNothingBehind) {

@@ -34,6 +34,21 @@ TEST(Company, ANewOneHoldsTheModelsRowsAndNoOthers) {
   EXPECT_EQ(Main_Title(*acme.session), "Acme - Main Display");
 }
 
+TEST(Company, EveryFieldCanBeNamedInAQueryAsItStands) {
+  TestCompany company;
+  for (const TableDef& table : company_tables()) {
+    if (!company.db().find_table(table.name)) continue;
+    for (const FieldDef& field : table.fields) {
+      std::string name(field.name), from(table.name);
+      auto rows = company.db().OpenRecordset("SELECT " + name + " FROM " + from + " WHERE " + name +
+                                             " IS NOT NULL AND " + name + " <> '' ORDER BY " + name);
+      EXPECT_TRUE(rows.has_field(name)) << from;
+      company.run("UPDATE " + from + " SET " + name + " = " + name + " WHERE " + from + "." + name + " = ?",
+                  {""});
+    }
+  }
+}
+
 TEST(Company, ATakenNameIsRefusedAndNothingReplaced) {
   TestCompany acme;
   New_Company(*acme.session, "Acme");
@@ -75,7 +90,9 @@ TEST(Company, AnOlderFileIsBroughtUpToDateOnOpening) {
   EXPECT_TRUE(acme.db().find_table("SavedReports"));
   EXPECT_EQ(acme.db().QueryDefs().size(), 1u);
   EXPECT_EQ(acme.db().value("SELECT Amount FROM Transactions WHERE TransNum = 7").money(), Money::dollars(7));
-  EXPECT_EQ(acme.db().value("SELECT COUNT(*) FROM pragma_index_info('Transactions_Account')").integer(), 8);
+  EXPECT_EQ(acme.db().value("SELECT COUNT(*) FROM pragma_index_info('Transactions_Account')").integer(), 7);
+  EXPECT_EQ(acme.db().value("SELECT At FROM History ORDER BY RowKey DESC").text().substr(0, 10),
+            "2026-06-15");
 }
 
 TEST(Company, StepsOfAnUpgradeRunOnceInOrderAndAllOrNothing) {

@@ -10,7 +10,8 @@ Arguments::Arguments(const std::vector<std::string>& words) {
       words_.push_back(words[at]);
       continue;
     }
-    if (at + 1 == words.size()) throw Usage(words[at] + " needs a value");
+    bool no_value = at + 1 == words.size() || words[at + 1].starts_with("--");
+    if (no_value) throw Usage(words[at] + " needs a value");
     std::string name = words[at].substr(2);
     if (!options_.emplace(name, words[++at]).second) throw Usage("--" + name + " stands twice");
   }
@@ -39,14 +40,26 @@ std::string Arguments::option(const std::string& name, const std::string& otherw
   return options_.contains(name) ? option(name) : otherwise;
 }
 
-std::optional<int64_t> Arguments::number(const std::string& name) {
-  if (!options_.contains(name)) return std::nullopt;
-  std::string text = option(name);
+namespace {
+
+int64_t Whole_Number(const std::string& text, const std::string& of) {
   int64_t number = 0;
   auto [end, fault] = std::from_chars(text.data(), text.data() + text.size(), number);
   if (fault != std::errc() || end != text.data() + text.size() || number < 0)
-    throw Usage("--" + name + " takes a whole number, not \"" + text + "\"");
+    throw Usage(of + " takes a whole number, not \"" + text + "\"");
   return number;
+}
+
+}  // namespace
+
+std::optional<int64_t> Arguments::maybe_number_word(const std::string& command) {
+  auto found = maybe_word();
+  return found ? std::optional(Whole_Number(*found, command)) : std::nullopt;
+}
+
+std::optional<int64_t> Arguments::number(const std::string& name) {
+  if (!options_.contains(name)) return std::nullopt;
+  return Whole_Number(option(name), "--" + name);
 }
 
 std::optional<Date> Arguments::date(const std::string& name) {

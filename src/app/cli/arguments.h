@@ -24,6 +24,8 @@ class Arguments {
 
   std::string word(const std::string& what);  ///< the next plain word; Usage when there is none
   std::optional<std::string> maybe_word();
+  /// The next plain word as a whole number of 0 or more; Usage, naming the command, for anything else.
+  std::optional<int64_t> maybe_number_word(const std::string& command);
   std::string option(const std::string& name);  ///< Usage when it is missing
   std::string option(const std::string& name, const std::string& otherwise);
   std::optional<int64_t> number(const std::string& name);  ///< a whole number of 0 or more

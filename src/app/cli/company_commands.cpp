@@ -76,8 +76,7 @@ int Restore(Arguments& arguments) {
   fs::path backup = arguments.option("backup");
   fs::path company = fs::absolute(arguments.option("company"));
   arguments.finish();
-  if (fs::exists(company)) cli.open(company);
-  Restore_Company(cli.session, backup, company);
+  Restore_Company(cli.session, backup, company);  // what stands there now need not open any more
   std::cout << company.string() << "\n";
   return 0;
 }

@@ -9,13 +9,15 @@ namespace tallymere::cli {
 
 int Demo(Arguments& arguments) {
   CliSession cli(arguments);
-  DemoOptions options{.name = arguments.word("a company name"),
-                      .years = static_cast<int>(arguments.number("years").value_or(3)),
+  std::string name = arguments.word("a company name");
+  int64_t years = arguments.number("years").value_or(3);
+  if (years < 1 || years > 50) throw Usage("--years: from 1 to 50");
+  DemoOptions options{.name = name,
+                      .years = static_cast<int>(years),
                       .transactions = arguments.number("transactions"),
                       .seed = static_cast<uint32_t>(arguments.number("seed").value_or(1)),
                       .today = cli.session.today()};
   arguments.finish();
-  if (options.years < 1 || options.years > 50) throw Usage("--years: from 1 to 50");
   New_Company(cli.session, options.name);
   if (cli.session.LastCompanyError != 0) return 1;
   cli.open(Company_Path(cli.session, options.name));

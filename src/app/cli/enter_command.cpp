@@ -1,6 +1,7 @@
 #include <iostream>
 
 #include "app/cli/commands.h"
+#include "core/balances.h"
 #include "core/ledger.h"
 #include "core/text.h"
 #include "core/transaction_writer.h"
@@ -28,6 +29,7 @@ std::vector<Line> Lines_Of(Session& session, const std::string& text) {
     size_t at = part.find('=');
     auto amount = at == std::string::npos ? std::nullopt : Money::parse(part.substr(at + 1));
     if (!amount) throw Usage("a line reads CATEGORY=AMOUNT, not \"" + part + "\"");
+    if (*amount <= Money()) throw Usage("an amount is more than nothing, not \"" + part + "\"");
     lines.push_back({Category_Of(session, trim(part.substr(0, at))), *amount});
   }
   return lines;
@@ -67,6 +69,7 @@ int Enter(Arguments& arguments) {
   arguments.finish();
   for (int64_t done = 0; done < times; ++done)
     std::cout << "saved " << Enter_One(session, head, bank, lines, memo) << std::endl;  // told only once it is safe
+  if (session.RecalcAll) Update_Accounts(session);  // the wish for it would end with this call
   return 0;
 }
 

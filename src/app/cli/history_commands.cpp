@@ -1,6 +1,7 @@
 #include <iostream>
 
 #include "app/cli/commands.h"
+#include "core/balances.h"
 #include "core/store/history.h"
 #include "core/undo.h"
 
@@ -26,7 +27,7 @@ void Show_Action(const store::Action& action) {
 int History(Arguments& arguments) {
   CliSession cli(arguments);
   cli.open(arguments);
-  auto number = arguments.maybe_word();
+  auto number = arguments.maybe_number_word("history");
   int64_t limit = arguments.number("limit").value_or(50);
   arguments.finish();
   auto& db = *cli.session.dbCompany;
@@ -34,9 +35,8 @@ int History(Arguments& arguments) {
     for (const auto& action : store::List_Actions(db, limit)) Show_Action(action);
     return 0;
   }
-  int64_t wanted = store::Value(*number).integer();
-  Show_Action(store::Find_Action(db, wanted));
-  for (const auto& change : store::Changes_Of(db, wanted)) {
+  Show_Action(store::Find_Action(db, *number));
+  for (const auto& change : store::Changes_Of(db, *number)) {
     std::cout << "  " << Word_For(change.kind) << " in " << change.table << "\n";
     for (const auto& cell : change.cells)
       std::cout << "    " << cell.field << ": " << cell.before.text() << " -> " << cell.after.text() << "\n";
@@ -47,9 +47,11 @@ int History(Arguments& arguments) {
 int Undo(Arguments& arguments) {
   CliSession cli(arguments);
   cli.open(arguments);
-  int64_t number = store::Value(arguments.word("the number of an action (see history)")).integer();
+  auto number = arguments.maybe_number_word("undo");
+  if (!number) throw Usage("missing: the number of an action (see history)");
   arguments.finish();
-  Undo_Action(*cli.session.dbCompany, number);
+  Undo_Action(cli.session, *number);
+  if (cli.session.RecalcAll) Update_Accounts(cli.session);  // the wish for it would end with this call
   Show_Action(store::List_Actions(*cli.session.dbCompany, 1).at(0));
   return 0;
 }

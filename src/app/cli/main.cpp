@@ -18,6 +18,10 @@ int Help(std::ostream& out) {
 }
 
 int Run(const Command& command, const std::vector<std::string>& words) {
+  if (words == std::vector<std::string>{"--help"}) {
+    std::cout << "usage: tallymere-cli " << command.usage << "\n    " << command.what << "\n";
+    return 0;
+  }
   try {
     Arguments arguments(words);
     return command.run(arguments);

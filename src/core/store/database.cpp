@@ -187,6 +187,7 @@ void Database::set_version(int version) {
 // --- definitions --------------------------------------------------------------------------------------------
 
 void Database::read_definitions() const {
+  definitions_read_at_ = Pragma(connection_, "schema_version");
   tables_.emplace();
   auto names = connection_.prepare("SELECT name FROM sqlite_schema WHERE type = 'table' ORDER BY rowid");
   while (names.step()) {
@@ -216,6 +217,13 @@ std::vector<TableDef> Database::TableDefs() const {
 
 const TableDef* Database::find_table(std::string_view name) const {
   if (!tables_) read_definitions();
+  if (const TableDef* known = known_table(name)) return known;
+  if (Pragma(connection_, "schema_version") == definitions_read_at_) return nullptr;
+  read_definitions();  // another program may have made it since
+  return known_table(name);
+}
+
+const TableDef* Database::known_table(std::string_view name) const {
   auto found = std::find_if(tables_->begin(), tables_->end(), [&](auto& t) { return same_text(t.name, name); });
   return found == tables_->end() ? nullptr : &*found;
 }
@@ -324,14 +332,17 @@ Value Database::value(std::string_view sql, const Params& params) {
 
 void Database::require_transaction() const {
   if (depth_ == 0) throw std::logic_error("a database is written only inside a store::Transaction");
+  if (!connection_.in_transaction())
+    throw Error(errors::no_transaction, "The operation was undone after an earlier failure.");
 }
 
 // --- transactions -------------------------------------------------------------------------------------------
 
 Transaction::Transaction(Database& db, std::string what, History history)
-    : db_(db), what_(std::move(what)), history_(history), level_(db.depth_) {
+    : db_(db), what_(std::move(what)), history_(history), level_(db.depth_), outer_(db.scope_) {
   Connection& connection = db_.connection_;
   if (level_ > 0) {
+    db_.require_transaction();
     connection.savepoint("level" + std::to_string(level_));
   } else {
     connection.begin();
@@ -343,11 +354,13 @@ Transaction::Transaction(Database& db, std::string what, History history)
     }
   }
   ++db_.depth_;
+  db_.scope_ = std::make_shared<WritingScope>(WritingScope{db_.scope_});
 }
 
 Transaction::~Transaction() {
   if (!open_) return;
-  --db_.depth_;
+  db_.scope_->undone = true;
+  leave();
   db_.tables_.reset();
   if (level_ > 0) {
     db_.connection_.rollback_to("level" + std::to_string(level_));
@@ -365,10 +378,16 @@ void Transaction::commit() {
     db_.connection_.commit();
   }
   open_ = false;
+  leave();
+}
+
+void Transaction::leave() {
   --db_.depth_;
+  db_.scope_ = outer_;
 }
 
 void Transaction::write_history() {
+  if (history_ == History::None) return;
   std::string changes;
   if (history_ == History::Rows) {
     changes = db_.connection_.take_changes();

@@ -76,6 +76,13 @@ struct Author {
 /// Whether a field is only a cache, recomputed from other rows: no change of it counts as another user's work.
 using IsCache = std::function<bool(const std::string& table, const std::string& field)>;
 
+/// A scope of writing, for those who must know later whether what was written in it came to stay.
+struct WritingScope {
+  std::shared_ptr<const WritingScope> outer;
+  bool undone = false;
+  bool is_undone() const { return undone || (outer && outer->is_undone()); }
+};
+
 /// A database file. Queries take `?` parameters; they may also be written with the program's own points of SQL
 /// (`#m/d/yyyy#`, `True`, `LIKE 'a*'`, any column name). Amounts in query text travel as parameters only.
 class Database {
@@ -127,7 +134,12 @@ class Database {
   void set_caches(IsCache caches) { caches_ = std::move(caches); }
   bool is_cache(const std::string& table, const std::string& field) const { return caches_ && caches_(table, field); }
   bool keeps_history() const { return keeps_history_; }
-  bool in_transaction() const { return depth_ > 0; }
+  /// A bug when no Transaction is open; Error 3034 when the engine undid it by itself after an earlier
+  /// failure.
+  void require_transaction() const;
+  const std::shared_ptr<WritingScope>& writing_scope() const {
+    return scope_;
+  }  ///< nullptr outside a Transaction
   Connection& connection() { return connection_; }
 
   Statement query(std::string_view sql, const Params& params);  ///< translated, bound, not yet stepped
@@ -136,7 +148,7 @@ class Database {
   friend class Transaction;
   Database(const std::filesystem::path& path, Connection::Mode mode);
   void read_definitions() const;
-  void require_transaction() const;
+  const TableDef* known_table(std::string_view name) const;
   const std::string& translated(std::string_view sql);
 
   std::filesystem::path path_;
@@ -145,7 +157,9 @@ class Database {
   IsCache caches_;
   bool keeps_history_ = false;
   int depth_ = 0;
+  std::shared_ptr<WritingScope> scope_;
   mutable std::optional<std::vector<TableDef>> tables_;
+  mutable int64_t definitions_read_at_ = 0;
   std::map<std::string, std::string, std::less<>> translations_;
 };
 
@@ -154,7 +168,8 @@ class Database {
 /// row of history with who, when, what and the change itself, in the same commit.
 class Transaction {
  public:
-  enum class History { Rows, Summary };  ///< Summary: a bulk load, one line that cannot be taken back
+  /// Summary: a bulk load, one line that cannot be taken back. None: caches only, which leave no line at all.
+  enum class History { Rows, Summary, None };
 
   Transaction(Database& db, std::string what, History history = History::Rows);
   ~Transaction();
@@ -165,10 +180,12 @@ class Transaction {
 
  private:
   void write_history();
+  void leave();
   Database& db_;
   std::string what_;
   History history_;
   int level_;
+  std::shared_ptr<WritingScope> outer_;
   int64_t undoes_ = 0;
   bool open_ = true;
 };

@@ -26,6 +26,8 @@ int Number_Of(int code) {
     case SQLITE_READONLY:
     case SQLITE_PERM: return errors::read_only;
     case SQLITE_FULL: return errors::disk_full;
+    case SQLITE_IOERR:
+      return errors::disk_or_network;
     case SQLITE_CONSTRAINT: return errors::duplicate_key;
     default: return errors::bad_statement;
   }
@@ -36,6 +38,8 @@ std::string Words_Of(int number, const std::string& engine_words, const std::str
     case errors::locked: return "Could not update; currently locked.";
     case errors::not_a_database: return "Unrecognized database format '" + doing + "'.";
     case errors::file_damaged: return "The database file is damaged: " + engine_words + ".";
+    case errors::disk_or_network:
+      return "Disk or network error: " + engine_words + ".";
     case errors::disk_full: return "The disk is full.";
     case errors::read_only: return "Cannot update. Database or object is read-only.";
     default: return doing.empty() ? engine_words : engine_words + " (" + doing + ")";
@@ -176,8 +180,10 @@ Connection::Connection(const std::filesystem::path& path, Mode mode) {
     check(code, path.string());
     sqlite3_busy_timeout(handle_, lock_patience_ms);
     // One file at rest, no shared memory: what a folder on a file server can carry.
-    execute("PRAGMA journal_mode = DELETE; PRAGMA synchronous = FULL; PRAGMA foreign_keys = OFF;"
-            "PRAGMA cache_size = -16000; PRAGMA temp_store = MEMORY; PRAGMA trusted_schema = OFF;");
+    constexpr auto manners =
+        "PRAGMA journal_mode = DELETE; PRAGMA synchronous = FULL; PRAGMA foreign_keys = OFF;"
+        "PRAGMA cache_size = -16000; PRAGMA temp_store = MEMORY; PRAGMA trusted_schema = OFF;";
+    check(sqlite3_exec(handle_, manners, nullptr, nullptr, nullptr), path.string());
   } catch (...) {
     sqlite3_close_v2(std::exchange(handle_, nullptr));
     throw;
@@ -346,14 +352,17 @@ void Connection::copy_to(const std::filesystem::path& destination) {
   int code = sqlite3_open_v2(destination.string().c_str(), &copy, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr);
   sqlite3_backup* backup = code == SQLITE_OK ? sqlite3_backup_init(copy, "main", handle_, "main") : nullptr;
   if (backup) {
-    do code = sqlite3_backup_step(backup, -1);  // all pages in one step: one read lock, one moment
-    while (code == SQLITE_BUSY && (sqlite3_sleep(100), true));
-    code = sqlite3_backup_finish(backup);
+    sqlite3_busy_timeout(copy, lock_patience_ms);
+    code = sqlite3_backup_step(backup, -1);  // all pages in one step: one read lock, one moment
+    const int finished = sqlite3_backup_finish(backup);
+    if (code != SQLITE_BUSY) code = finished;
   } else if (copy) {
     code = sqlite3_errcode(copy);
   }
   sqlite3_close_v2(copy);
-  check(code, destination.string());
+  if (code == SQLITE_OK) return;
+  const int number = Number_Of(code);
+  throw Error(number, Words_Of(number, sqlite3_errstr(code), destination.string()));
 }
 
 }  // namespace tallymere::store

@@ -102,7 +102,8 @@ class Connection {
   std::vector<std::string> apply_inverse(std::string_view changeset,
                                          const std::function<bool(const std::string&, int)>& is_cache);
 
-  /// Copies the whole file as it stands, under one read lock.
+  /// Copies the whole file as it stands, under one read lock, into a new file or over the content of another,
+  /// which changes in one commit. Error 3218 when somebody else keeps either of them locked.
   void copy_to(const std::filesystem::path& destination);
 
   /// What is wrong with the file itself, page by page and index by index; empty: sound.

@@ -29,8 +29,9 @@ const Field* Field_At(Database& db, const std::string& table, int column) {
 }
 
 Change Named(Database& db, const RowChange& raw) {
-  Change change{raw.table, raw.kind, {}};
+  Change change{raw.table, raw.kind, 0, {}};
   for (const auto& cell : raw.cells) {
+    if (cell.column == 0) change.key = (cell.before.is_null() ? cell.after : cell.before).integer();
     const Field* field = Field_At(db, raw.table, cell.column);
     if (!field) continue;
     Value before = Typed(cell.before, field->type), after = Typed(cell.after, field->type);

@@ -26,6 +26,7 @@ struct Change {
   };
   std::string table;
   RowChange::Kind kind;
+  int64_t key;  ///< the hidden key of the row
   std::vector<Cell> cells;
 };
 

@@ -52,6 +52,7 @@ void RowSet::load(int64_t key) {
   statement.bind(1, key);
   if (!statement.step()) return no_row();
   row_ = Read_Row(statement, fields_);
+  written_.clear();
   key_ = key;
 }
 
@@ -94,6 +95,7 @@ void RowSet::AddNew() {
 void RowSet::Edit() {
   require_row();
   if (table_.empty()) throw Error(errors::read_only, "Cannot update. Database or object is read-only.");
+  take_back_undone();
   mode_ = Mode::Editing;
   buffer_ = *row_;
   touched_.assign(fields_.size(), false);
@@ -101,7 +103,7 @@ void RowSet::Edit() {
 
 void RowSet::Update() {
   if (mode_ == Mode::Reading) throw Error(3020, "Update without AddNew or Edit.");
-  if (!db_->in_transaction()) throw std::logic_error("a database is written only inside a store::Transaction");
+  db_->require_transaction();
   mode_ == Mode::Adding ? insert_row() : update_row();
   mode_ = Mode::Reading;
 }
@@ -128,8 +130,10 @@ std::string RowSet::where_unchanged(std::vector<Value>& params) const {
   params.push_back(key_);
   for (size_t at = 0; at < fields_.size(); ++at) {
     if (db_->is_cache(table_, fields_[at].name)) continue;
-    condition += " AND " + Quoted(fields_[at].name) + " IS ?";
+    std::string field = Quoted(fields_[at].name);
     bool is_text = fields_[at].type == FieldType::Text || fields_[at].type == FieldType::Memo;
+    bool is_flag = fields_[at].type == FieldType::Flag;  // another tool may write True as 1
+    condition += " AND " + (is_flag ? "(" + field + " <> 0) IS (? <> 0)" : field + " IS ?");
     if (is_text) condition += " COLLATE BINARY";
     params.push_back((*row_)[at]);
   }
@@ -152,13 +156,22 @@ void RowSet::update_row() {
     mode_ = Mode::Reading;
     throw Error(errors::data_changed, "The data has been changed; operation stopped.");
   }
+  const auto& scope = db_->writing_scope();
+  if (written_.empty() || written_.back().scope != scope) written_.push_back({scope, *row_});
   row_ = buffer_;
+}
+
+/// The row is what it was before the scopes that were undone since.
+void RowSet::take_back_undone() {
+  for (; !written_.empty() && written_.back().scope->is_undone(); written_.pop_back())
+    row_ = written_.back().before;
 }
 
 void RowSet::Delete() {
   require_row();
   if (table_.empty()) throw Error(errors::read_only, "Cannot update. Database or object is read-only.");
-  if (!db_->in_transaction()) throw std::logic_error("a database is written only inside a store::Transaction");
+  db_->require_transaction();
+  take_back_undone();
   std::vector<Value> params;
   std::string condition = where_unchanged(params);
   auto statement = db_->connection().prepare("DELETE FROM " + Quoted(table_) + condition);
@@ -213,6 +226,7 @@ void Table::step(bool forward) {
   }
   std::string beyond = forward ? " > ?" : " < ?";
   if (field_.empty()) return land(" WHERE RowKey" + beyond, forward, {key()});
+  CancelUpdate();  // who moves on without Update leaves the row as it was
   std::string field = Quoted(field_);
   Value here = (*this)[field_].value();
   land(" WHERE " + field + " IS ? AND RowKey" + beyond, forward, {here, key()});

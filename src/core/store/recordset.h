@@ -59,7 +59,7 @@ class RowSet {
   void open_on(std::string table, std::vector<Field> fields);
   void load(int64_t key);  ///< makes that row current; no row when it is gone
   void set_row(std::vector<Value> row) { row_ = std::move(row), key_ = 0; }
-  void no_row() { row_.reset(); }
+  void no_row() { row_.reset(), mode_ = Mode::Reading; }
   virtual void added(int64_t) {}
 
   Database* db_;
@@ -70,6 +70,7 @@ class RowSet {
   enum class Mode { Reading, Editing, Adding };
   size_t position_of(std::string_view name) const;
   void require_row() const;
+  void take_back_undone();
   std::string where_unchanged(std::vector<Value>& params) const;
   void insert_row();
   void update_row();
@@ -79,6 +80,12 @@ class RowSet {
   std::optional<std::vector<Value>> row_;
   std::vector<Value> buffer_;
   std::vector<bool> touched_;
+  struct Written {
+    std::shared_ptr<const WritingScope> scope;
+    std::vector<Value> before;
+  };
+  std::vector<Written>
+      written_;  ///< what the current row was before Update, by scope: it is that again when undone
   int64_t key_ = 0;
   int64_t last_added_ = 0;
   Mode mode_ = Mode::Reading;

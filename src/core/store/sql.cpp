@@ -10,7 +10,8 @@ namespace tallymere::store {
 namespace {
 
 /// Column names of the program that the engine would take for words of its own.
-constexpr std::array<std::string_view, 6> reserved_columns = {"Index", "Default", "Group", "Order", "To", "Check"};
+constexpr std::array<std::string_view, 7> reserved_columns = {"Index", "Default", "Group", "Order",
+                                                              "To",    "Check",   "Limit"};
 
 bool Is_Word_Character(char c) {
   return std::isalnum(static_cast<unsigned char>(c)) || c == '_' || (c & 0x80);
@@ -75,6 +76,8 @@ bool Is_Reserved_Column(std::string_view word, std::string_view rest) {
   for (auto name : reserved_columns) {
     if (!same_text(word, name)) continue;
     auto next = ltrim(rest.substr(0, 16));
+    if (same_text(word, "Limit"))
+      return next.empty() || !(std::isdigit(static_cast<unsigned char>(next[0])) || next[0] == '?');
     bool clause = (same_text(word, "Group") || same_text(word, "Order")) && starts_with_same_text(next, "BY");
     return !clause;
   }

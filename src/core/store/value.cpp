@@ -23,7 +23,8 @@ double Parse_Number(const std::string& typed) {
   std::string text = trim(typed);
   double number = 0;
   auto [end, fault] = std::from_chars(text.data(), text.data() + text.size(), number);
-  if (fault == std::errc() && end == text.data() + text.size()) return number;
+  bool whole = fault == std::errc() && end == text.data() + text.size();
+  if (whole && std::isfinite(number)) return number;
   if (auto amount = Money::parse(text)) return amount->to_double();
   Refuse(typed);
 }

@@ -13,29 +13,14 @@
 #include <QStackedWidget>
 #include <QTabWidget>
 #include <QTextEdit>
-#include <new>
-#include <stdexcept>
 
-#include "core/store/error.h"
+#include "core/error_box.h"
 #include "shell/widgets/mnemonics.h"
 #include "shell/widgets/window_memory.h"
 
 namespace tallymere {
 
 namespace {
-
-const Box error_box{
-    "An Error Occured. Contact Quillbrook Software Inc.\r\nCall 555-010-2000 Locally or 1-800-555-0100 "
-    "Nationwide",
-    "Error", Icon::Critical};
-
-/// The log's number for a fault that no record store raised.
-int number_of(const std::exception& fault) {
-  if (dynamic_cast<const std::overflow_error*>(&fault)) return 6;
-  if (dynamic_cast<const std::bad_alloc*>(&fault)) return 7;
-  if (dynamic_cast<const std::out_of_range*>(&fault)) return 9;
-  return 5;
-}
 
 void select_all(QWidget* control) {
   if (auto* line = qobject_cast<QLineEdit*>(control)) line->selectAll();
@@ -89,17 +74,10 @@ bool Form::guard(const char* procedure, const std::function<void()>& work) {
   try {
     work();
     return true;
-  } catch (const store::Error& fault) {
-    failed(procedure, fault.number, fault.description());
   } catch (const std::exception& fault) {
-    failed(procedure, number_of(fault), fault.what());
+    Error_Box(session, utf8(objectName()), procedure, fault);
+    return false;
   }
-  return false;
-}
-
-void Form::failed(const char* procedure, int number, const std::string& description) {
-  session.log.write(utf8(objectName()), procedure, number, description);
-  session.prompts.box(error_box);
 }
 
 void Form::show_fault(const Fault& fault) {

@@ -99,7 +99,6 @@ class Form : public QWidget {
     else
       handler();
   }
-  void failed(const char* procedure, int number, const std::string& description);
   void enter_pressed();
   bool claims(const QKeyEvent& key);
   void prepare_controls();

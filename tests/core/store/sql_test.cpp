@@ -16,10 +16,15 @@ TEST(Sql, TheProgramsPointsOfSqlBecomeTheEngines) {
       {"WHERE Dormant = False AND Paid = true", "WHERE Dormant = 0 AND Paid = -1"},
       {"WHERE Name = 'True #1/1/2001# O''Hara'", "WHERE Name = 'True #1/1/2001# O''Hara'"},
       {"WHERE Name LIKE 'a*b?'", "WHERE Name LIKE 'a%b_' ESCAPE '\\'"},
-      {"WHERE Name like '50%_off*' OR Memo = '*'", "WHERE Name like '50\\%\\_off%' ESCAPE '\\' OR Memo = '*'"},
+      {"WHERE Name like '50%_off*' OR Memo = '*'",
+       "WHERE Name like '50\\%\\_off%' ESCAPE '\\' OR Memo = '*'"},
       {"SELECT 1099Cat, Boxes FROM Vendors", "SELECT \"1099Cat\", Boxes FROM Vendors"},
-      {"SELECT Default FROM PreTaxSet ORDER BY Index", "SELECT \"Default\" FROM PreTaxSet ORDER BY \"Index\""},
-      {"SELECT Group, SUM(1e3) FROM T GROUP BY Group", "SELECT \"Group\", SUM(1e3) FROM T GROUP BY \"Group\""},
+      {"SELECT Default FROM PreTaxSet ORDER BY Index",
+       "SELECT \"Default\" FROM PreTaxSet ORDER BY \"Index\""},
+      {"SELECT Group, SUM(1e3) FROM T GROUP BY Group",
+       "SELECT \"Group\", SUM(1e3) FROM T GROUP BY \"Group\""},
+      {"SELECT Limit, a.Limit FROM T AS a WHERE Limit > 0 ORDER BY Limit LIMIT 1",
+       "SELECT \"Limit\", a.\"Limit\" FROM T AS a WHERE \"Limit\" > 0 ORDER BY \"Limit\" LIMIT 1"},
       {"SELECT [Order No] FROM T WHERE TransNum = 12", "SELECT [Order No] FROM T WHERE TransNum = 12"},
   };
   for (const Case& c : cases) EXPECT_EQ(Translate(c.program), c.engine);

@@ -136,7 +136,7 @@ TEST_F(Store, ALockThatStaysIs3218AndNothingIsWritten) {
   auto start = std::chrono::steady_clock::now();
   EXPECT_EQ(Number_Of([&] { Transaction mine(*db, "mine"); }), errors::locked);
   EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(8));
-  EXPECT_FALSE(db->in_transaction());
+  EXPECT_FALSE(db->writing_scope());
 }
 
 TEST_F(Store, ADynasetKeepsItsOrderFindsAndPassesOverTheDeleted) {
@@ -187,6 +187,72 @@ TEST_F(Store, ATransactionIsAllOrNothing) {
   db->each("SELECT Name FROM Bills ORDER BY RowKey", {}, [&](const Row& row) { names += row.text(0), names += ' '; });
   EXPECT_EQ(names, "kept also ");
   EXPECT_THROW(db->Execute("DELETE FROM Bills"), std::logic_error) << "one door: only a transaction writes";
+}
+
+TEST_F(Store, WhatWasUndoneCanBeSavedAgain) {
+  add("Rent", Money::dollars(1));
+  auto set = db->OpenRecordset("SELECT * FROM Bills");
+  auto write = [&](Money amount) {
+    set.Edit();
+    set["Amount"] = amount;
+    set.Update();
+  };
+  {
+    Transaction kept(*db, "kept");
+    write(Money::dollars(2));
+    {
+      Transaction undone(*db, "undone");
+      write(Money::dollars(3));
+      write(Money::dollars(4));
+    }
+    write(Money::dollars(5));
+    kept.commit();
+  }
+  {
+    Transaction undone(*db, "undone"), inner(*db, "inner");
+    write(Money::dollars(6)), inner.commit();
+  }
+  auto other = second_user();
+  Transaction again(*db, "again");
+  EXPECT_NO_THROW(write(Money::dollars(7)));
+  again.commit();
+  Transaction theirs(*other, "theirs");
+  other->Execute("UPDATE Bills SET Amount = ?", {Money::dollars(8)});
+  theirs.commit();
+  Transaction late(*db, "late");
+  EXPECT_EQ(Number_Of([&] { write(Money::dollars(9)); }), errors::data_changed)
+      << "another user's work still counts";
+}
+
+TEST_F(Store, NothingIsWrittenOnceTheEngineUndidTheWholeByItself) {
+  add("Rent", Money::dollars(1));
+  {
+    Transaction tx(*db, "cut short");
+    db->connection().execute("ROLLBACK");  // what it does itself on some failures of the disk
+    EXPECT_EQ(Number_Of([&] { db->Execute("DELETE FROM Bills"); }), errors::no_transaction);
+    EXPECT_EQ(Number_Of([&] { Transaction inner(*db, "inner"); }), errors::no_transaction);
+    EXPECT_NE(Number_Of([&] { tx.commit(); }), 0);
+  }
+  EXPECT_EQ(db->value("SELECT COUNT(*) FROM Bills").integer(), 1);
+  add("Next", Money::dollars(2));
+}
+
+TEST_F(Store, WhatOtherProgramsDoToTheFileIsSeen) {
+  add("Rent", Money::dollars(1));
+  auto other = second_user();
+  ASSERT_EQ(db->find_table("Time"), nullptr);
+  {
+    Transaction tx(*other, "time sheet");
+    other->CreateTableDef(TableDef{"Time", {}, {}}.CreateField("SSNum", FieldType::Text));
+    other->Execute("UPDATE Bills SET Paid = 1");  // True as most tools write it
+    tx.commit();
+  }
+  EXPECT_TRUE(db->OpenTable("Time")->Eof());
+  Transaction tx(*db, "edit");
+  auto bills = db->OpenTable("Bills");
+  bills->Edit();
+  (*bills)["Amount"] = Money::dollars(2);
+  EXPECT_NO_THROW(bills->Update());
 }
 
 TEST_F(Store, WrongFilesGetAClearErrorAndStayUntouched) {
