@@ -1,4 +1,5 @@
 #include <QGuiApplication>
+#include <QLoggingCategory>
 #include <exception>
 #include <filesystem>
 #include <fstream>
@@ -18,6 +19,7 @@ int main(int argc, char** argv) {
     if (!file) throw std::runtime_error(std::string("'") + argv[1] + "' cannot be read");
     const tallymere::ReportTable table = tallymere::Read_Report_File(file);
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    QLoggingCategory::setFilterRules(QStringLiteral("default.warning=false"));  // what failed is said below
     const QGuiApplication app(argc, argv);
     tallymere::Write_Report_Pdf(table, std::filesystem::path(argv[2]));
     return 0;

@@ -17,6 +17,7 @@
 #include "shell/widgets/QuillbrookDatePick.h"
 #include "shell/widgets/SSDBGrid.h"
 #include "shell/widgets/theme.h"
+#include "shell/widgets/window_memory.h"
 
 /// The window and its way from a request to a report on show; what becomes of it then is in
 /// ReportForm_output.cpp.
@@ -166,20 +167,30 @@ void ReportForm::connect_controls() {
   for (QuillbrookDatePick* date : {dteStart, dteEnd})
     on(date, &QuillbrookDatePick::Change, "dteStart_Change", [this] { changed_by_user(); });
   on(optBasis, &QButtonGroup::idClicked, "optBasis_Click", [this] { changed_by_user(); });
-  auto* refresh = new QShortcut(QKeySequence::Refresh, this, nullptr, nullptr, Qt::WidgetWithChildrenShortcut);
+  auto* refresh =
+      new QShortcut(QKeySequence::Refresh, this, nullptr, nullptr, Qt::WidgetWithChildrenShortcut);
   connect(refresh, &QShortcut::activated, cmdRefresh, &QPushButton::click);
   auto* copies = new QShortcut(QKeySequence::Copy, grdPL, nullptr, nullptr, Qt::WidgetShortcut);
   on(copies, &QShortcut::activated, "grdPL_KeyDown", [this] { copy(); });
 }
 
 QSize ReportForm::sizeHint() const {
+  if (const auto left = window_memory::size_of(objectName())) return *left;
   return Form::sizeHint().expandedTo({120 * theme::unit, 76 * theme::unit});
 }
 
 void ReportForm::show_instead_of_grid(QWidget* other) {
   if (other && shown_->indexOf(other) < 0) shown_->addWidget(other);
   shown_->setCurrentWidget(other ? other : grdPL);
+  cmdGoto->setEnabled(!other);
+  cmdPick->setEnabled(!other);
   fit_sheet();
+}
+
+/// Light paper turns dark with the desktop.
+void ReportForm::changeEvent(QEvent* event) {
+  Form::changeEvent(event);
+  if (event->type() == QEvent::PaletteChange && sheet_) sheet_->setPalette(paper_of(*this));
 }
 
 void ReportForm::fit_sheet() {
@@ -291,7 +302,8 @@ void ReportForm::show_table() {
       const bool amount = grdPL->column(static_cast<int>(column)).kind == Kind::money;
       std::string cell = amount ? table_.text(row, static_cast<int>(column))
                                 : table_.for_the_eye(row, static_cast<int>(column));
-      std::replace_if(cell.begin(), cell.end(), [](char c) { return c == '\t' || c == '\r' || c == '\n'; }, ' ');
+      std::replace_if(
+          cell.begin(), cell.end(), [](char c) { return c == '\t' || c == '\r' || c == '\n'; }, ' ');
       text += (column ? "\t" : "") + cell;
     }
     return GridRow{std::move(text), std::string(table_.style(row))};
@@ -325,7 +337,9 @@ void ReportForm::show_columns() {
   for (const ReportColumn& column : table_.columns) {
     const bool amount = column.kind == ReportColumn::Kind::Money && column.right;
     columns.push_back({.name = qt(column.caption),
-                       .kind = amount ? Kind::money : column.right ? Kind::number : Kind::text,
+                       .kind = amount         ? Kind::money
+                               : column.right ? Kind::number
+                                              : Kind::text,
                        .mask = column.mask});
   }
   bool same = static_cast<int>(columns.size()) == grdPL->columns();
@@ -335,7 +349,8 @@ void ReportForm::show_columns() {
   if (same) return;
   grdPL->set_columns(std::move(columns));
   std::vector<GridGroup> groups;
-  for (const ReportGroup& group : table_.groups) groups.push_back({qt(group.caption), group.first, group.count});
+  for (const ReportGroup& group : table_.groups)
+    groups.push_back({qt(group.caption), group.first, group.count});
   grdPL->set_groups(std::move(groups));
   grdPL->setAlternatingRowColors(table_.columns.size() > 4);
 }
@@ -355,7 +370,8 @@ void ReportForm::show_widths() {
     const ReportColumn& how = table_.columns[column];
     const int head = width_of({how.caption, "sBold"});
     int width = head;
-    for (const StyledText& text : texts[column]) width = std::max(width, std::min(width_of(text), widest_column));
+    for (const StyledText& text : texts[column])
+      width = std::max(width, std::min(width_of(text), widest_column));
     const bool margin = how.kind == ReportColumn::Kind::Margin;
     const bool gives_way = how.kind == ReportColumn::Kind::Text && column > 1;
     natural.push_back(margin ? 2 * theme::unit : width + 3 * theme::unit);

@@ -21,8 +21,8 @@ class QuillbrookDatePick;
 class SSDBGrid;
 
 /// The window of every report: grdPL shows any ReportTable under its heading; dates, basis, title, printing,
-/// export and the jump from a row. What a report is stands in its row of the table of reports; a window of its
-/// own is needed only by a report that can do more.
+/// export and the jump from a row. What a report is stands in its row of the table of reports; a window of
+/// its own is needed only by a report that can do more.
 class ReportForm : public Form {
   Q_OBJECT
 
@@ -42,8 +42,9 @@ class ReportForm : public Form {
   virtual Lay_Out pages_to_print();
   virtual QPageLayout page_to_print();
   virtual void after_load() {}
+  void changeEvent(QEvent* event) override;
   virtual void cmdPick_AfterClick();
-  void add_button(QPushButton* button);  ///< above "E&xport"
+  void add_button(QPushButton* button);       ///< above "E&xport"
   void show_instead_of_grid(QWidget* other);  ///< nullptr: the grid again
 
   const ReportTable& table() const { return table_; }
@@ -99,7 +100,7 @@ class ReportForm : public Form {
   QLabel *Label4, *Label5, *Label6, *lblStart, *lblEnd, *lblBasis;
   QuillbrookDatePick *dteStart, *dteEnd;
   QButtonGroup* optBasis;
-  QWidget *bar_, *sheet_;
+  QWidget *bar_ = nullptr, *sheet_ = nullptr;
   QStackedLayout* shown_;
   QVBoxLayout* buttons_;
   int extra_button_at_ = 0;

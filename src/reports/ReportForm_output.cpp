@@ -24,8 +24,12 @@ struct TitleFamily {
   std::string_view window, family;
 };
 constexpr TitleFamily built_with_title[] = {
-    {"frmPrintPL2", "PL"},           {"frmPrintPLName", "PLName"},    {"frmPrintBalSheet", "Bal"},
-    {"frmPrintBalances", "BalSum"},  {"frmPrintInvCount", "InvCount"}, {"frmPrintInvItem", "InvItem"},
+    {"frmPrintPL2", "PL"},
+    {"frmPrintPLName", "PLName"},
+    {"frmPrintBalSheet", "Bal"},
+    {"frmPrintBalances", "BalSum"},
+    {"frmPrintInvCount", "InvCount"},
+    {"frmPrintInvItem", "InvItem"},
     {"frmPrintInvValue", "InvValue"},
 };
 
@@ -83,7 +87,8 @@ QString ReportForm::foot_note() const {
 }
 
 Lay_Out ReportForm::pages_to_print() {
-  return [this](const QPageLayout& page) { return std::make_unique<Report_Pages>(table_, page, foot_note()); };
+  return
+      [this](const QPageLayout& page) { return std::make_unique<Report_Pages>(table_, page, foot_note()); };
 }
 
 QPageLayout ReportForm::page_to_print() {

@@ -37,8 +37,8 @@ void frmPrintCustom::cmdPick_AfterClick() {
   const std::vector<std::string> picked = Column_Names(report_request().option(report_option::fields));
   std::vector<FieldChoice> choices;
   for (const std::string& field : offered_fields()) {
-    const bool selected = picked.empty() ? field != balance
-                                         : std::find(picked.begin(), picked.end(), field) != picked.end();
+    const bool selected =
+        picked.empty() ? field != balance : std::find(picked.begin(), picked.end(), field) != picked.end();
     choices.push_back({field, std::string(Caption_Of_Field(field)), selected});
   }
   frmSelectFields dialog(shell, choices);

@@ -4,7 +4,8 @@
 
 namespace tallymere {
 
-/// Rows of the ledger in columns that the user picks, several reports side by side, kept under a name if wanted.
+/// Rows of the ledger in columns that the user picks, several reports side by side, kept under a name if
+/// wanted.
 class frmPrintCustom : public ReportForm {
   Q_OBJECT
 

@@ -44,7 +44,8 @@ GraphSheet::GraphSheet(const PL_Graph& graph) : graph_(graph) {
 
 void GraphSheet::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  Paint_PL_Graph(painter, QRectF(rect()).adjusted(3 * theme::unit, theme::unit, -3 * theme::unit, -theme::unit),
+  Paint_PL_Graph(painter,
+                 QRectF(rect()).adjusted(3 * theme::unit, theme::unit, -3 * theme::unit, -theme::unit),
                  graph_, Graph_Colors::on_screen(), theme::tabular(font()));
 }
 

@@ -15,7 +15,8 @@ struct FieldChoice {
   bool selected = false;
 };
 
-/// The column picker: the rows that are selected when it is accepted are the columns, in the order of the list.
+/// The column picker: the rows that are selected when it is accepted are the columns, in the order of the
+/// list.
 class frmSelectFields : public Form {
   Q_OBJECT
 

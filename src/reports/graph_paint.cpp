@@ -22,7 +22,12 @@ constexpr const char* row_names[] = {"Income", "Expense", "Net"};
 class Graph {
  public:
   Graph(QPainter& painter, const PL_Graph& graph, const Graph_Colors& colors, const QFont& font)
-      : painter_(painter), graph_(graph), colors_(colors), font_(font), metrics_(font), line_(metrics_.lineSpacing()) {
+      : painter_(painter),
+        graph_(graph),
+        colors_(colors),
+        font_(font),
+        metrics_(font),
+        line_(metrics_.lineSpacing()) {
     bold_.setBold(true);
   }
 
@@ -50,7 +55,8 @@ class Graph {
   }
 
   QRectF title(const QRectF& room, const char* text) {
-    write({room.left(), room.top(), room.width(), line_ * 1.2}, Qt::AlignLeft, QLatin1String(text), colors_.ink, true);
+    write({room.left(), room.top(), room.width(), line_ * 1.2}, Qt::AlignLeft, QLatin1String(text),
+          colors_.ink, true);
     return room.adjusted(0, line_ * 1.7, 0, 0);
   }
 
@@ -113,8 +119,9 @@ class Graph {
       const qreal y = y_of(plot, amount);
       rule(plot.left(), plot.right(), y, colors_.line);
       const Money value = Money::from_double(amount);
-      write({plot.left() - gutter_, y - line_ / 2, gutter_ - line_ * 0.6, line_}, Qt::AlignRight | Qt::AlignVCenter,
-            qt(Graph_Text(value, scale)).remove(QStringLiteral(".0")), colors_.soft);
+      write({plot.left() - gutter_, y - line_ / 2, gutter_ - line_ * 0.6, line_},
+            Qt::AlignRight | Qt::AlignVCenter, qt(Graph_Text(value, scale)).remove(QStringLiteral(".0")),
+            colors_.soft);
     }
   }
 
@@ -136,8 +143,8 @@ class Graph {
   void bar(const QRectF& plot, qreal left, qreal width_of_bar, Money amount, const QColor& color) {
     if (amount.is_zero()) return;
     const qreal zero = y_of(plot, 0), end = y_of(plot, amount.to_double());
-    painter_.fillRect(QRectF(QPointF(left, std::min(zero, end)), QPointF(left + width_of_bar, std::max(zero, end))),
-                      color);
+    painter_.fillRect(
+        QRectF(QPointF(left, std::min(zero, end)), QPointF(left + width_of_bar, std::max(zero, end))), color);
   }
 
   /// The figures under their bars; the names at the left explain the colours.
@@ -149,7 +156,8 @@ class Graph {
       const QRectF line(room.left(), room.top() + height * row, gutter_, height);
       if (row == 2) rule(room.left(), room.right(), line.top(), colors_.line);
       if (chips[row].isValid())
-        painter_.fillRect(QRectF(line.left(), line.center().y() - line_ * 0.3, line_ * 0.6, line_ * 0.6), chips[row]);
+        painter_.fillRect(QRectF(line.left(), line.center().y() - line_ * 0.3, line_ * 0.6, line_ * 0.6),
+                          chips[row]);
       write(line.adjusted(line_, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter, QLatin1String(row_names[row]),
             colors_.ink, row == 2);
       for (size_t at = 0; at < spans_.size(); ++at) {
@@ -166,9 +174,11 @@ class Graph {
   void expenses(const QRectF& room) {
     const QRectF body = title(room, "Largest expenses");
     const qreal height = line_ * 1.6;
-    const auto slices = Largest_Slices(graph_.expenses, static_cast<size_t>(std::max(body.height() / height, 0.0)));
+    const auto slices =
+        Largest_Slices(graph_.expenses, static_cast<size_t>(std::max(body.height() / height, 0.0)));
     if (slices.empty())
-      return write(body, Qt::AlignLeft | Qt::AlignTop, QStringLiteral("No expenses in this period."), colors_.soft);
+      return write(body, Qt::AlignLeft | Qt::AlignTop, QStringLiteral("No expenses in this period."),
+                   colors_.soft);
     Money total, most;
     qreal names = 0, figures_width = 0;
     for (const PL_Graph::Slice& slice : slices) {
@@ -189,10 +199,12 @@ class Graph {
 
   static QString amount_text(Money amount) { return qt(Format(amount, "#,##0.00")); }
 
-  void slice_row(const QRectF& row, const PL_Graph::Slice& slice, qreal names, qreal room, double length, double part) {
+  void slice_row(const QRectF& row, const PL_Graph::Slice& slice, qreal names, qreal room, double length,
+                 double part) {
     const QString name = metrics_.elidedText(qt(slice.AccountName), Qt::ElideRight, names - line_ * 0.8);
     write({row.left(), row.top(), names, row.height()}, Qt::AlignLeft | Qt::AlignVCenter, name, colors_.ink);
-    const QRectF bar(row.left() + names, row.center().y() - line_ * 0.42, std::max(room * length, line_ / 10), line_ * 0.84);
+    const QRectF bar(row.left() + names, row.center().y() - line_ * 0.42, std::max(room * length, line_ / 10),
+                     line_ * 0.84);
     painter_.fillRect(bar, colors_.expense);
     const qreal share = width(QStringLiteral("100%")) + line_;
     write({row.left(), row.top(), row.width() - share, row.height()}, Qt::AlignRight | Qt::AlignVCenter,
@@ -215,13 +227,15 @@ class Graph {
 }  // namespace
 
 Graph_Colors Graph_Colors::on_paper() {
-  return {QColor(20, 20, 20), QColor(90, 90, 90), QColor(222, 226, 228), QColor(15, 102, 115), QColor(224, 160, 62)};
+  return {QColor(20, 20, 20), QColor(90, 90, 90), QColor(222, 226, 228), QColor(15, 102, 115),
+          QColor(224, 160, 62)};
 }
 
 Graph_Colors Graph_Colors::on_screen() {
   Graph_Colors colors = on_paper();
   if (!theme::is_dark()) return colors;
-  return {QColor(227, 234, 236), QColor(147, 163, 168), QColor(46, 56, 59), QColor(63, 160, 176), QColor(232, 181, 101)};
+  return {QColor(227, 234, 236), QColor(147, 163, 168), QColor(46, 56, 59), QColor(63, 160, 176),
+          QColor(232, 181, 101)};
 }
 
 void Paint_PL_Graph(QPainter& painter, const QRectF& room, const PL_Graph& graph, const Graph_Colors& colors,

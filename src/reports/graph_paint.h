@@ -11,7 +11,8 @@ class QPainter;
 
 namespace tallymere {
 
-/// What a graph is drawn in. Income is the darker of the two on paper, so that they differ without colour too.
+/// What a graph is drawn in. Income is the darker of the two on paper, so that they differ without colour
+/// too.
 struct Graph_Colors {
   QColor ink, soft, line, income, expense;
 

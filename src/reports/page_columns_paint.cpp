@@ -13,9 +13,9 @@ namespace {
 using Kind = ReportColumn::Kind;
 using Widths = std::vector<qreal>;
 
-constexpr qreal widest_text = 3600;      ///< beyond it texts wrap
-constexpr qreal widest_label = 5200;     ///< the same for the first column
-constexpr qreal narrowest_text = 900;   ///< a text column is not squeezed below it
+constexpr qreal widest_text = 3600;    ///< beyond it texts wrap
+constexpr qreal widest_label = 5200;   ///< the same for the first column
+constexpr qreal narrowest_text = 900;  ///< a text column is not squeezed below it
 constexpr qreal longest_word = 2400;
 constexpr qreal widest_caption = 1300;
 constexpr qreal smallest_print = 0.78;
@@ -65,6 +65,7 @@ class Measure {
     qreal width = 0;
     for (const StyledText& text : texts_[column])
       width = std::max(width, fonts_.of(text.style).metrics.horizontalAdvance(qt(text.word)));
+    width *= 1.15;  // one of fewer letters may be wider
     width = std::max(std::min(width, longest_word), caption_width(column)) + 2 * Page_Columns::pad + 20;
     return std::min(natural[column], std::max(width, narrowest_text));
   }

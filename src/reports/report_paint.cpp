@@ -210,7 +210,8 @@ void Report_Pages::paint_heading(QPainter& painter, bool first_page) const {
     line.translate(0, line.height());
   };
   if (!first_page)
-    return write(fonts_.edge(), qt(heading.title + "   " + heading.company + "   " + heading.period), soft_ink);
+    return write(fonts_.edge(), qt(heading.title + "   " + heading.company + "   " + heading.period),
+                 soft_ink);
   write(fonts_.title(), qt(heading.title), ink);
   write(fonts_.company(), qt(heading.company), ink);
   write(fonts_.period(), qt(heading.period), soft_ink);
@@ -232,7 +233,8 @@ void Report_Pages::paint_groups(QPainter& painter, const Panel& panel, Place at)
     if (place.width() <= 0) continue;
     painter.drawText(place, Qt::AlignCenter, qt(group.caption));
     painter.setPen(Pen(soft_ink, 8));
-    painter.drawLine(QPointF(place.left() + pad, place.bottom()), QPointF(place.right() - pad, place.bottom()));
+    painter.drawLine(QPointF(place.left() + pad, place.bottom()),
+                     QPointF(place.right() - pad, place.bottom()));
     painter.setPen(ink);
   }
 }
@@ -244,7 +246,8 @@ void Report_Pages::paint_heads(QPainter& painter, const Panel& panel, Place at) 
     const ReportColumn& how = table_.columns[static_cast<size_t>(column)];
     const QRectF cell(left, at.top, columns_.widths[static_cast<size_t>(column)], heads_height_ - 70);
     painter.drawText(cell.adjusted(pad, 0, -pad, 0),
-                     (how.right ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignBottom | Qt::TextWordWrap, qt(how.caption));
+                     (how.right ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignBottom | Qt::TextWordWrap,
+                     qt(how.caption));
     left += cell.width();
   }
   const qreal y = at.top + heads_height_ - 45;
@@ -275,7 +278,8 @@ void Report_Pages::paint_row(QPainter& painter, const Panel& panel, Place at, in
   painter.drawLine(QPointF(at.left, at.top + height), QPointF(left, at.top + height));
 }
 
-void Report_Pages::paint_cell(QPainter& painter, const QRectF& cell, qreal width_of_room, int row, int column) const {
+void Report_Pages::paint_cell(QPainter& painter, const QRectF& cell, qreal width_of_room, int row,
+                              int column) const {
   const QString text = qt(table_.for_the_eye(row, column));
   if (text.trimmed().isEmpty()) return;
   const ReportColumn& how = table_.columns[static_cast<size_t>(column)];
@@ -289,8 +293,8 @@ void Report_Pages::paint_cell(QPainter& painter, const QRectF& cell, qreal width
     painter.drawText(room.adjusted(0, look.metrics.lineSpacing() * 0.12, 0, 0),
                      Qt::AlignLeft | Wrapping(look.metrics, text, room.width()), text);
   else
-    painter.drawText(QPointF(how.right ? room.right() - width - beyond(row, column, look) : room.left(), baseline),
-                     text);
+    painter.drawText(
+        QPointF(how.right ? room.right() - width - beyond(row, column, look) : room.left(), baseline), text);
   if (how.kind == Kind::Money && Is_Bold(table_.style(row))) paint_rule(painter, cell, row);
 }
 

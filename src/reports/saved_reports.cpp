@@ -7,7 +7,8 @@
 namespace tallymere {
 namespace {
 
-constexpr const char* fields = "SELECT RowKey, ReportName, DateRange, Parent, Fields, Class, Item FROM SavedReports";
+constexpr const char* fields =
+    "SELECT RowKey, ReportName, DateRange, Parent, Fields, Class, Item FROM SavedReports";
 
 SavedReport Read(const store::Row& row) {
   const auto text = [&](int column) { return std::string(row.text(column)); };
@@ -64,7 +65,8 @@ std::optional<Fault> Check_Saved_Report(const SavedReport& report) {
 
 void Save_Report(Session& session, SavedReport& report) {
   store::Database& db = *session.dbCompany;
-  store::Transaction tx(db, (report.key ? "Saved report changed: " : "New saved report: ") + report.ReportName);
+  store::Transaction tx(db,
+                        (report.key ? "Saved report changed: " : "New saved report: ") + report.ReportName);
   auto rows = db.OpenRecordset("SELECT * FROM SavedReports WHERE RowKey = ?", {report.key});
   report.key ? rows.Edit() : rows.AddNew();
   Write(rows, report);

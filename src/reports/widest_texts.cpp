@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <map>
 
-
 namespace tallymere {
 namespace {
 
@@ -111,7 +110,7 @@ int Label_Column(const ReportTable& table) {
 
 int Label_Span(const ReportTable& table, int row) {
   const int label = Label_Column(table);
-  if (label < 0 || table.columns[static_cast<size_t>(label)].kind != ReportColumn::Kind::Text) return 1;
+  if (label < 0 || !std::holds_alternative<std::string>(table.value(row, label).content())) return 1;
   int next = label + 1;
   while (next < static_cast<int>(table.columns.size()) && table.value(row, next).is_null()) ++next;
   return next - label;

@@ -15,8 +15,9 @@ struct StyledText {
 };
 
 /// What a renderer measures to find how wide each column must be: for every column and look the longest text
-/// and the amounts with the most digits. Labels that run over empty cells need no room in their own column. At most about `rows_looked_at` rows are read, the last ones among
-/// them, since totals stand there; 0 reads all.
+/// and the amounts with the most digits. Labels that run over empty cells need no room in their own column.
+/// At most about `rows_looked_at` rows are read, the last ones among them, since totals stand there; 0 reads
+/// all.
 std::vector<std::vector<StyledText>> Widest_Texts(const ReportTable& table, int rows_looked_at = 0);
 
 /// The column in which labels stand: the first that is no margin. -1: none.

@@ -104,7 +104,8 @@ bool GridDelegate::eventFilter(QObject* watched, QEvent* event) {
   if (editor && event->type() == QEvent::KeyPress) {
     const auto* key = static_cast<QKeyEvent*>(event);
     const bool enter = key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter;
-    if (enter && key->modifiers() & Qt::ControlModifier) return false;  // the window's, which ends the writing
+    if (enter && key->modifiers() & Qt::ControlModifier)
+      return false;  // the window's, which ends the writing
     if (enter) {
       Q_EMIT commitData(editor);
       Q_EMIT closeEditor(editor, EditNextItem);

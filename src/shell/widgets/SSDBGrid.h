@@ -36,7 +36,7 @@ class SSDBGrid : public QTableView {
   /// proportion; where it is short, columns give way down to the least ones if that brings all into view. A
   /// column the user gave a width keeps it.
   void set_natural_widths(std::vector<int> natural, std::vector<int> least);
-  int natural_width() const;            ///< of all shown columns together, with frame and scroll bar
+  int natural_width() const;           ///< of all shown columns together, with frame and scroll bar
   void set_keeps_sum(bool keeps_sum);  ///< what a dragged column gains, the last shown one gives up
 
   // --- rows ---
@@ -179,7 +179,7 @@ class SSDBGrid : public QTableView {
   GridModel* model_;
   GridHeader* header_;
   QString hint_;
-  std::vector<int> least_;     ///< widths fit_columns found, in pixels
+  std::vector<int> least_;                    ///< widths fit_columns found, in pixels
   std::vector<int> natural_, natural_least_;  ///< empty: not given
   bool keeps_sum_ = false;
   std::vector<bool> dragged_;  ///< columns the user gave a width of their own

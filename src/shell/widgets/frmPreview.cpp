@@ -10,6 +10,7 @@
 #include <QScrollBar>
 
 #include "shell/widgets/theme.h"
+#include "shell/widgets/window_memory.h"
 
 namespace tallymere {
 
@@ -37,7 +38,8 @@ void PreviewSheet::set_room(QSize room, bool whole_page) {
   qreal scale = (room.width() - 2 * around) / paper.width();
   if (whole_page) scale = std::min(scale, (room.height() - 2 * around) / paper.height());
   const QSize page = (paper * std::max(scale, 0.01)).toSize();
-  resize(std::max(room.width(), page.width() + 2 * around), std::max(room.height(), page.height() + 2 * around));
+  resize(std::max(room.width(), page.width() + 2 * around),
+         std::max(room.height(), page.height() + 2 * around));
   setProperty("page", page);
   update();
 }
@@ -58,7 +60,8 @@ void PreviewSheet::paintEvent(QPaintEvent*) {
 
 // --- the window
 
-frmPreview::frmPreview(Shell& shell_of_frame, const QString& title, Lay_Out lay_out_pages, const QPageLayout& page)
+frmPreview::frmPreview(Shell& shell_of_frame, const QString& title, Lay_Out lay_out_pages,
+                       const QPageLayout& page)
     : Form(shell_of_frame, "frmPreview", Place::Above), title_(title), lay_out_(std::move(lay_out_pages)) {
   setWindowTitle(title);
   sheet_ = new PreviewSheet;
@@ -79,6 +82,7 @@ frmPreview::frmPreview(Shell& shell_of_frame, const QString& title, Lay_Out lay_
 frmPreview::~frmPreview() = default;
 
 QSize frmPreview::sizeHint() const {
+  if (const auto left = window_memory::size_of(objectName())) return *left;
   return Form::sizeHint().expandedTo({112 * theme::unit, 96 * theme::unit});
 }
 
@@ -199,7 +203,8 @@ void frmPreview::cmdPrint_AfterClick() {
   const int last = pages_->count() - 1;
   const bool all = printer.fromPage() == 0;
   const Hourglass hourglass(session.prompts);
-  if (Print_Pages(*pages_, printer, all ? 0 : printer.fromPage() - 1, all ? last : std::min(printer.toPage() - 1, last)))
+  if (Print_Pages(*pages_, printer, all ? 0 : printer.fromPage() - 1,
+                  all ? last : std::min(printer.toPage() - 1, last)))
     finish(true);
   else
     session.prompts.box({"The printer did not take the pages.", "Print", Icon::Critical});

@@ -29,8 +29,8 @@ class PreviewSheet : public QWidget {
   int page_ = 0;
 };
 
-/// Shows what is to be printed, page by page, prints it or writes a PDF. Only the page on show is painted, so a
-/// report of a thousand pages comes up as quickly as one.
+/// Shows what is to be printed, page by page, prints it or writes a PDF. Only the page on show is painted, so
+/// a report of a thousand pages comes up as quickly as one.
 class frmPreview : public Form {
   Q_OBJECT
 
@@ -63,7 +63,8 @@ class frmPreview : public Form {
   PreviewSheet* sheet_;
   QScrollArea* scroll_;
   QLabel* lblPage;
-  QPushButton *cmdPrint, *cmdPDF, *cmdFirst, *cmdPrevious, *cmdNext, *cmdLast, *cmdLandscape, *cmdWidth, *cmdClose;
+  QPushButton *cmdPrint, *cmdPDF, *cmdFirst, *cmdPrevious, *cmdNext, *cmdLast, *cmdLandscape, *cmdWidth,
+      *cmdClose;
 };
 
 }  // namespace tallymere

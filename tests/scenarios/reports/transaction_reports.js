@@ -57,9 +57,14 @@ equal(byDate.grdPL.text(0, "Amount"), "-80", "a credit of a report by date is ne
 equal(byDate.grdPL.text(2, "Name"), "TOTAL");
 equal(byDate.grdPL.text(2, "Amount"), "-80");
 
-// The jump from a row opens the window of its type, once that is there; a total leads nowhere.
+// A total leads nowhere, a row to the window of its type.
 byDate.grdPL.row(2);
 click(byDate.cmdGoto);
+ok(!isOpen("frmCheck"), "the total is no transaction");
+byDate.grdPL.row(0);
+click(byDate.cmdGoto);
+equal(win("frmCheck").cmbPayee.value, "City Land");
+close(win("frmCheck"));
 
 // Saved without a name, then with one; the range of dates counts from the day it is shown.
 pick(byDate.cmbDate, "This Month");
