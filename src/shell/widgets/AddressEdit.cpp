@@ -52,6 +52,9 @@ void AddressEdit::focusInEvent(QFocusEvent* event) {
 void AddressEdit::focusOutEvent(QFocusEvent* event) {
   QPlainTextEdit::focusOutEvent(event);
   if (event->reason() == Qt::PopupFocusReason || event->reason() == Qt::ActiveWindowFocusReason) return;
+  QTextCursor cursor = textCursor();
+  cursor.clearSelection();
+  setTextCursor(cursor);
   if (const QString all = toPlainText(); all.endsWith(QLatin1Char('\n'))) setPlainText(all.chopped(1));
   Q_EMIT LostFocus();
 }
