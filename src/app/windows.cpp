@@ -7,17 +7,23 @@
 #include "lists/frmModAccount.h"
 #include "lists/frmNewPayee.h"
 #include "lists/frmOtherNames.h"
+#include "reports/frmPrintCustom.h"
+#include "reports/frmPrintPL2.h"
+#include "reports/frmSavedReps.h"
 #include "shell/frmMain.h"
 
 namespace tallymere {
 
-/// A window's row: {"frmCheck", Make_Window<frmCheck>}.
+/// A window's row: {"frmCheck", Make_Window<frmCheck>}, or {"frmPrintAging", Make_Report<"frmPrintAging">}
+/// for a report that is nothing but its rows in the table of reports.
 const WindowTable& Windows() {
   static const WindowTable windows = {
-      {"frmAccounts", Make_Window<frmAccounts>}, {"frmCheck", Make_Window<frmCheck>},
-      {"frmClass", Make_Window<frmClass>},       {"frmModAccount", Make_Window<frmModAccount>},
-      {"frmNewPayee", Make_Window<frmNewPayee>}, {"frmOtherNames", Make_Window<frmOtherNames>},
-      {"frmRegister", Make_Window<frmRegister>},
+      {"frmAccounts", Make_Window<frmAccounts>},   {"frmCheck", Make_Window<frmCheck>},
+      {"frmClass", Make_Window<frmClass>},         {"frmModAccount", Make_Window<frmModAccount>},
+      {"frmNewPayee", Make_Window<frmNewPayee>},   {"frmOtherNames", Make_Window<frmOtherNames>},
+      {"frmRegister", Make_Window<frmRegister>},   {"frmPrintCustom", Make_Window<frmPrintCustom>},
+      {"frmPrintPL2", Make_Window<frmPrintPL2>},   {"frmPrintPLName", Make_Report<"frmPrintPLName">},
+      {"frmSavedReps", Make_Window<frmSavedReps>},
   };
   return windows;
 }

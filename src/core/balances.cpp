@@ -200,9 +200,10 @@ void Update_Names(Session& session, const std::string& table, Fn&& balance_of) {
 void Update_Customers(Session& session) {
   const auto owed =
       Sums_By_Name(*session.dbCompany,
-                   "SELECT Name, SUM(CASE WHEN IFNULL(Debit, 0) = 0 THEN -IFNULL(Credit, 0) ELSE Debit END)"
-                   " FROM Transactions WHERE Account = 'AR1'"
-                   " AND (Type = 'Invoice' OR Type = 'Payment' OR Type = 'Check') GROUP BY Name");
+                   "SELECT Customers.Name, SUM(CASE WHEN IFNULL(Debit, 0) = 0 THEN -IFNULL(Credit, 0) ELSE Debit END)"
+                   " FROM (SELECT DISTINCT Name FROM Customers WHERE Dormant = False) AS Customers"
+                   " CROSS JOIN Transactions ON Transactions.Name = Customers.Name"
+                   " WHERE Account = 'AR1' AND Type IN ('Invoice', 'Payment', 'Check') GROUP BY Customers.Name");
   Update_Names(session, "Customers", [&](const std::string& name) -> std::optional<Money> {
     auto found = owed.find(name);
     return found == owed.end() ? Money() : found->second;

@@ -12,16 +12,15 @@ constexpr ReadingIndex reading[] = {
     {"Transactions_TransNum", "Transactions", "TransNum", ""},
     // registers, balances and every report sum one category over a range of days, from the index alone; on
     // cash basis too
-    {"Transactions_Account", "Transactions", "Account, Date, Debit, Credit, Type, Paid, Class, Amount", ""},
+    {"Transactions_Account", "Transactions", "Account, Date, Debit, Credit, Type, Paid, Amount", ""},
     // one customer's, vendor's or payee's rows, of one category or all, summed from the index alone
     {"Transactions_Name", "Transactions", "Name, Account, Date, Debit, Credit, Type, Paid", ""},
-    // what each customer owes, and the unpaid bills of each vendor, asked for whenever their lists come up
-    {"Transactions_Receivable", "Transactions", "Account, Name, Type, Debit, Credit", "Account = 'AR1'"},
+    // the unpaid bills of each vendor, asked for whenever their list comes up
     {"Transactions_Unpaid", "Transactions", "Name, Debit", "Type = 'Bill' AND Paid = 0"},
     // find by day, the list of years, reports over all categories of a period; what was paid in it
     {"Transactions_Date", "Transactions", "Date, TransNum", ""},
     // stock, sales and sales tax of one item; most rows have none
-    {"Transactions_Item", "Transactions", "Item, Date", "Item IS NOT NULL"},
+    {"Transactions_Item", "Transactions", "Item", "Item IS NOT NULL"},
     // one employee's sums per payroll item since New Year, asked for each line of a paycheck
     {"Transactions_SSNum", "Transactions", "SSNum, PayrollItem, Date", "SSNum IS NOT NULL"},
     // liabilities and tax forms sum one payroll item over all employees

@@ -211,6 +211,10 @@ constexpr ContextRow context_rows[] = {
     {"mnuSaveReps", "mnuEditSaveRep", "&Edit Report"},
     {"mnuSaveReps", "mnuDelSavRep", "&Delete Report"},
     {"mnuSaveReps", "mnuShowSaveRep", "&Show Report"},
+    {"mnuExport", "mnuExportPDF", "&PDF"},
+    {"mnuExport", "mnuExportSheet", "&Spreadsheet"},
+    {"mnuExport", "mnuExportCSV", "&CSV Text"},
+    {"mnuExport", "mnuExportCopy", "C&opy"},
     {"mnuCusMessages", "mnuCusMessageNew", "New"},
     {"mnuCusMessages", "mnuCusMesDelete", "Delete"},
 };

@@ -42,5 +42,4 @@ inline constexpr std::string_view Bills_Items = "Items";  ///< with the item tab
 inline constexpr std::string_view Bills_Item_Receipt =
     "Item Receipt";  ///< the same, with the item-receipt box set
 
-
 }  // namespace tallymere

@@ -104,7 +104,8 @@ bool GridDelegate::eventFilter(QObject* watched, QEvent* event) {
   if (editor && event->type() == QEvent::KeyPress) {
     const auto* key = static_cast<QKeyEvent*>(event);
     const bool enter = key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter;
-    if (enter && key->modifiers() & Qt::ControlModifier) return false;  // the window's, which ends the writing
+    if (enter && key->modifiers() & Qt::ControlModifier)
+      return false;  // the window's, which ends the writing
     if (enter) {
       Q_EMIT commitData(editor);
       Q_EMIT closeEditor(editor, EditNextItem);
@@ -140,10 +141,24 @@ void GridDelegate::paint_check(QPainter* painter, const QStyleOptionViewItem& op
   style->drawPrimitive(QStyle::PE_IndicatorItemViewItemCheck, &box, painter, &grid_);
 }
 
+/// As under a column of figures that is added up.
+void GridDelegate::paint_rule(QPainter* painter, const QStyleOptionViewItem& option,
+                              const QModelIndex& index) const {
+  const auto look = grid_.cells().find_style(index.row(), index.column());
+  const bool amount = grid_.column(index.column()).kind == Kind::money;
+  if (!look || !look->rule || !amount || index.data().toString().isEmpty()) return;
+  painter->save();
+  painter->setPen(option.palette.color(QPalette::Text));
+  painter->drawLine(option.rect.left() + theme::unit, option.rect.top(), option.rect.right() - 2,
+                    option.rect.top());
+  painter->restore();
+}
+
 void GridDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
                          const QModelIndex& index) const {
   QStyledItemDelegate::paint(painter, option, index);
   if (is_check(grid_, index)) paint_check(painter, option, index);
+  paint_rule(painter, option, index);
   if (grid_.selects_rows() || index != grid_.currentIndex()) return;
   painter->save();
   if (grid_.column(index.column()).list && (index.flags() & Qt::ItemIsEditable)) {

@@ -38,8 +38,9 @@ struct GridGroup {
 struct GridStyle {
   bool bold = false;
   bool underline = false;
-  double size = 0;  ///< points; 0: the grid's own; negative: so much smaller
-  QColor text{};    ///< invalid: the grid's own
+  bool rule = false;  ///< a line above the amounts: a total
+  double size = 0;    ///< points; 0: the grid's own; negative: so much smaller
+  QColor text{};      ///< invalid: the grid's own
   QColor back{};
 };
 

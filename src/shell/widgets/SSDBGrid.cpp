@@ -97,6 +97,7 @@ int SSDBGrid::char_width(int characters) const {
 void SSDBGrid::set_widths() {
   const QScopedValueRollback code(by_code_, true);
   least_.assign(static_cast<size_t>(columns()), 0);
+  natural_.clear();
   dragged_.assign(static_cast<size_t>(columns()), false);
   for (int column = 0; column < columns(); ++column)
     if (const int width = this->column(column).width; width > 0)
@@ -105,6 +106,7 @@ void SSDBGrid::set_widths() {
 }
 
 void SSDBGrid::share_widths() {
+  if (!natural_.empty()) return spread_widths();
   const QScopedValueRollback code(by_code_, true);
   int room = viewport()->width();
   std::vector<int> sharing;
@@ -125,8 +127,62 @@ void SSDBGrid::share_widths() {
   }
 }
 
-void SSDBGrid::dragged(int column) {
-  if (!by_code_ && !isColumnHidden(column)) dragged_[static_cast<size_t>(column)] = true;
+void SSDBGrid::set_natural_widths(std::vector<int> natural, std::vector<int> least) {
+  natural_ = std::move(natural);
+  natural_least_ = std::move(least);
+  spread_widths();
+}
+
+void SSDBGrid::set_keeps_sum(bool keeps_sum) {
+  keeps_sum_ = keeps_sum;
+}
+
+int SSDBGrid::natural_width() const {
+  int width = verticalScrollBar()->sizeHint().width() + 2 * frameWidth();
+  for (int column = 0; column < columns(); ++column)
+    if (!isColumnHidden(column) && !natural_.empty()) width += natural_[static_cast<size_t>(column)];
+  return width;
+}
+
+void SSDBGrid::spread_widths() {
+  const QScopedValueRollback code(by_code_, true);
+  int64_t room = viewport()->width(), natural = 0, least = 0;
+  std::vector<size_t> spread;
+  for (int column = 0; column < columns(); ++column) {
+    const auto at = static_cast<size_t>(column);
+    if (isColumnHidden(column)) continue;
+    if (dragged_[at]) {
+      room -= columnWidth(column);
+      continue;
+    }
+    spread.push_back(at);
+    natural += natural_[at];
+    least += natural_least_[at];
+  }
+  for (const size_t at : spread) {
+    int64_t width = natural_[at];
+    if (room >= natural)
+      width = width * room / std::max<int64_t>(natural, 1);
+    else if (room >= least)
+      width = natural_least_[at] + (width - natural_least_[at]) * (room - least) / (natural - least);
+    setColumnWidth(static_cast<int>(at), static_cast<int>(width));
+  }
+}
+
+int SSDBGrid::last_shown() const {
+  int last = columns() - 1;
+  while (last > 0 && isColumnHidden(last)) --last;
+  return last;
+}
+
+void SSDBGrid::dragged(int column, int before, int now) {
+  if (by_code_ || isColumnHidden(column)) return;
+  dragged_[static_cast<size_t>(column)] = true;
+  const int last = last_shown();
+  if (!keeps_sum_ || column == last) return;
+  const QScopedValueRollback code(by_code_, true);
+  dragged_[static_cast<size_t>(last)] = true;
+  setColumnWidth(last, std::max(columnWidth(last) - (now - before), header_->minimumSectionSize()));
 }
 
 int SSDBGrid::content_width(int column, int rows_looked_at) const {

@@ -32,6 +32,12 @@ class SSDBGrid : public QTableView {
   void show_column(int column, bool shown);
   /// Widths as the captions and first rows need; columns of width 0 share what is left beyond that.
   void fit_columns(int rows_looked_at = 200);
+  /// Widths in pixels as one knows them who knows the contents. Room beyond the natural ones goes to all in
+  /// proportion; where it is short, columns give way down to the least ones if that brings all into view. A
+  /// column the user gave a width keeps it.
+  void set_natural_widths(std::vector<int> natural, std::vector<int> least);
+  int natural_width() const;           ///< of all shown columns together, with frame and scroll bar
+  void set_keeps_sum(bool keeps_sum);  ///< what a dragged column gains, the last shown one gives up
 
   // --- rows ---
   void AddItem(const std::string& tab_separated, const std::string& style = {});
@@ -164,14 +170,18 @@ class SSDBGrid : public QTableView {
   int content_width(int column, int rows_looked_at) const;
   void set_widths();
   void share_widths();
-  void dragged(int column);
+  void spread_widths();
+  void dragged(int column, int before, int now);
+  int last_shown() const;
   void sort_clicked(int column);
   void go_to(int row, int column);  ///< by code: no RowColChange
 
   GridModel* model_;
   GridHeader* header_;
   QString hint_;
-  std::vector<int> least_;     ///< widths fit_columns found, in pixels
+  std::vector<int> least_;                    ///< widths fit_columns found, in pixels
+  std::vector<int> natural_, natural_least_;  ///< empty: not given
+  bool keeps_sum_ = false;
   std::vector<bool> dragged_;  ///< columns the user gave a width of their own
   bool delete_ = false;
   bool multi_ = false;

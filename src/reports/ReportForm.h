@@ -1,0 +1,124 @@
+#pragma once
+
+#include <algorithm>
+#include <memory>
+#include <set>
+
+#include "reports/reports.h"
+#include "shell/widgets/Form.h"
+#include "shell/widgets/printed_pages.h"
+
+class QButtonGroup;
+class QComboBox;
+class QLabel;
+class QPushButton;
+class QStackedLayout;
+class QVBoxLayout;
+
+namespace tallymere {
+
+class QuillbrookDatePick;
+class SSDBGrid;
+
+/// The window of every report: grdPL shows any ReportTable under its heading; dates, basis, title, printing,
+/// export and the jump from a row. What a report is stands in its row of the table of reports; a window of
+/// its own is needed only by a report that can do more.
+class ReportForm : public Form {
+  Q_OBJECT
+
+ public:
+  ReportForm(Shell& shell_of_frame, const char* name);
+
+  void load() override;
+  void take(const Request& asked) override;
+  QSize sizeHint() const override;
+
+ protected:
+  /// Empties and rebuilds the grid from the dates and options now set.
+  void Load_Standard();
+
+  // --- what a report with more to it adds
+  /// Something other than the grid is on show: it paints its own pages.
+  virtual Lay_Out pages_to_print();
+  virtual QPageLayout page_to_print();
+  virtual void after_load() {}
+  void changeEvent(QEvent* event) override;
+  virtual void cmdPick_AfterClick();
+  void add_button(QPushButton* button);       ///< above "E&xport"
+  void show_instead_of_grid(QWidget* other);  ///< nullptr: the grid again
+
+  const ReportTable& table() const { return table_; }
+  ReportRequest& report_request() { return request_; }
+  const ReportDef& report() const { return *report_; }
+  QString foot_note() const;  ///< "Cash basis", on reports that have one
+
+  SSDBGrid* grdPL;
+  QComboBox* cmbDate;
+  QPushButton* cmdPick;
+
+ private:
+  // --- building the window
+  QWidget* build_bar();
+  QWidget* build_sheet();
+  QVBoxLayout* build_buttons();
+  QPushButton* button(const char* name, const char* caption);
+  void connect_controls();
+  void fit_sheet();
+
+  // --- the request
+  bool begin_report(const Request& asked);
+  void take_options(const Request& asked);
+  void show_request();
+  void read_controls();
+  void changed_by_user();
+
+  // --- showing the table
+  void show_table();
+  void show_columns();
+  void show_labels();
+  void show_widths();
+  void show_heading();
+
+  void cmbDate_Click();
+  void cmdLabel_AfterClick();
+  void cmdGoto_AfterClick();
+  void cmdPrint_AfterClick();
+  void cmdExport_AfterClick();
+  void chosen(const std::string& item);
+  std::string ask_file(const char* kind, const char* suffix);
+  void export_pdf();
+  void export_sheet();
+  void export_csv();
+  void copy();
+
+  const ReportDef* report_ = nullptr;
+  ReportRequest request_;
+  ReportTable table_;
+  std::set<std::string> hidden_;  ///< captions of columns the user took out
+  bool building_ = false;
+
+  QLabel *Label4, *Label5, *Label6, *lblStart, *lblEnd, *lblBasis;
+  QuillbrookDatePick *dteStart, *dteEnd;
+  QButtonGroup* optBasis;
+  QWidget *bar_ = nullptr, *sheet_ = nullptr;
+  QStackedLayout* shown_;
+  QVBoxLayout* buttons_;
+  int extra_button_at_ = 0;
+  QPushButton *cmdRefresh, *cmdPrint, *cmdLabel, *cmdGoto, *cmdExport, *cmdClose;
+};
+
+/// A window's name as a template's argument.
+template <size_t size>
+struct WindowName {
+  constexpr WindowName(const char (&text)[size]) { std::copy_n(text, size, name); }
+  char name[size];
+};
+
+/// A report window that is nothing but its rows in the table of reports: {"frmPrintPLName",
+/// Make_Report<"frmPrintPLName">}.
+template <WindowName window>
+Form* Make_Report(Shell& shell) {
+  return new ReportForm(shell, window.name);
+}
+
+}  // namespace tallymere

@@ -1,0 +1,52 @@
+#include "reports/frmPrintPL2.h"
+
+#include <QPainter>
+#include <QPushButton>
+
+#include "reports/graph_paint.h"
+#include "shell/widgets/theme.h"
+
+namespace tallymere {
+
+frmPrintPL2::frmPrintPL2(Shell& shell_of_frame) : ReportForm(shell_of_frame, "frmPrintPL2") {
+  sheet_ = named("grfPL", new GraphSheet(graph_));
+  cmdGraph = named("cmdGraph", new QPushButton(QStringLiteral("Grap&h")));
+  cmdGraph->setCheckable(true);
+  add_button(cmdGraph);
+  on(cmdGraph, "cmdGraph_AfterClick", [this] { cmdGraph_AfterClick(); });
+}
+
+void frmPrintPL2::cmdGraph_AfterClick() {
+  after_load();
+  show_instead_of_grid(cmdGraph->isChecked() ? sheet_ : nullptr);
+}
+
+/// Only a graph that is on show is reckoned.
+void frmPrintPL2::after_load() {
+  if (!cmdGraph->isChecked()) return;
+  graph_ = Build_PL_Graph(session, report_request());
+  sheet_->update();
+}
+
+Lay_Out frmPrintPL2::pages_to_print() {
+  if (!cmdGraph->isChecked()) return ReportForm::pages_to_print();
+  return [this](const QPageLayout& page) { return std::make_unique<Graph_Pages>(graph_, page, foot_note()); };
+}
+
+QPageLayout frmPrintPL2::page_to_print() {
+  return cmdGraph->isChecked() ? Letter_Page(QPageLayout::Landscape) : ReportForm::page_to_print();
+}
+
+GraphSheet::GraphSheet(const PL_Graph& graph) : graph_(graph) {
+  setMinimumSize(56 * theme::unit, 52 * theme::unit);
+  setAccessibleName(QStringLiteral("Graph of income and expense"));
+}
+
+void GraphSheet::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  Paint_PL_Graph(painter,
+                 QRectF(rect()).adjusted(3 * theme::unit, theme::unit, -3 * theme::unit, -theme::unit),
+                 graph_, Graph_Colors::on_screen(), theme::tabular(font()));
+}
+
+}  // namespace tallymere

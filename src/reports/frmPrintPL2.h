@@ -1,0 +1,44 @@
+#pragma once
+
+#include "reports/ReportForm.h"
+#include "reports/profit_and_loss.h"
+
+namespace tallymere {
+
+class GraphSheet;
+
+/// The income statement, and the same figures as a graph.
+class frmPrintPL2 : public ReportForm {
+  Q_OBJECT
+
+ public:
+  explicit frmPrintPL2(Shell& shell_of_frame);
+
+ protected:
+  Lay_Out pages_to_print() override;
+  QPageLayout page_to_print() override;
+  void after_load() override;
+
+ private:
+  void cmdGraph_AfterClick();
+
+  PL_Graph graph_;
+  GraphSheet* sheet_;
+  QPushButton* cmdGraph;
+};
+
+/// The graph in place of the grid.
+class GraphSheet : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit GraphSheet(const PL_Graph& graph);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  const PL_Graph& graph_;
+};
+
+}  // namespace tallymere

@@ -1,0 +1,221 @@
+#include "shell/widgets/frmPreview.h"
+
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPainter>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
+
+#include "shell/widgets/theme.h"
+#include "shell/widgets/window_memory.h"
+
+namespace tallymere {
+
+namespace {
+
+constexpr int around = 2 * theme::unit;  ///< blank around the sheet
+
+}  // namespace
+
+// --- the sheet
+
+PreviewSheet::PreviewSheet(QWidget* parent) : QWidget(parent) {
+  setAccessibleName(QStringLiteral("Page"));
+}
+
+void PreviewSheet::show_page(const Pages* pages, int page) {
+  pages_ = pages;
+  page_ = page;
+  update();
+}
+
+void PreviewSheet::set_room(QSize room, bool whole_page) {
+  if (!pages_) return;
+  const QSizeF paper = pages_->size();
+  qreal scale = (room.width() - 2 * around) / paper.width();
+  if (whole_page) scale = std::min(scale, (room.height() - 2 * around) / paper.height());
+  const QSize page = (paper * std::max(scale, 0.01)).toSize();
+  resize(std::max(room.width(), page.width() + 2 * around),
+         std::max(room.height(), page.height() + 2 * around));
+  setProperty("page", page);
+  update();
+}
+
+void PreviewSheet::paintEvent(QPaintEvent*) {
+  if (!pages_) return;
+  QPainter painter(this);
+  QRect paper(QPoint(), property("page").toSize());
+  paper.moveCenter(rect().center());
+  painter.fillRect(paper.translated(3, 3), QColor(0, 0, 0, 50));
+  painter.fillRect(paper, Qt::white);
+  painter.setPen(QColor(0, 0, 0, 60));
+  painter.drawRect(paper.adjusted(0, 0, -1, -1));
+  painter.setClipRect(paper);
+  painter.translate(paper.topLeft());
+  Paint_Page(*pages_, page_, painter, paper.width() * Pages::twips / pages_->size().width());
+}
+
+// --- the window
+
+frmPreview::frmPreview(Shell& shell_of_frame, const QString& title, Lay_Out lay_out_pages,
+                       const QPageLayout& page)
+    : Form(shell_of_frame, "frmPreview", Place::Above), title_(title), lay_out_(std::move(lay_out_pages)) {
+  setWindowTitle(title);
+  sheet_ = new PreviewSheet;
+  scroll_ = new QScrollArea;
+  scroll_->setWidget(sheet_);
+  scroll_->setFrameShape(QFrame::StyledPanel);
+  scroll_->setBackgroundRole(QPalette::Mid);
+  scroll_->setFocusPolicy(Qt::StrongFocus);
+  scroll_->setAccessibleName(QStringLiteral("Preview"));
+  scroll_->installEventFilter(this);
+  auto* column = column_layout(this);
+  column->addWidget(build_bar());
+  column->addWidget(scroll_, 1);
+  connect_controls();
+  lay_out(page);
+}
+
+frmPreview::~frmPreview() = default;
+
+QSize frmPreview::sizeHint() const {
+  if (const auto left = window_memory::size_of(objectName())) return *left;
+  return Form::sizeHint().expandedTo({112 * theme::unit, 96 * theme::unit});
+}
+
+QWidget* frmPreview::build_bar() {
+  auto* bar = new QWidget;
+  auto* row = row_layout();
+  bar->setLayout(row);
+  const auto button = [&](const char* name, const char* caption) {
+    auto* made = named(name, new QPushButton(QLatin1String(caption)));
+    row->addWidget(made);
+    return made;
+  };
+  cmdPrint = button("cmdPrint", "&Print...");
+  cmdPDF = button("cmdPDF", "&Save PDF...");
+  row->addStretch(1);
+  cmdFirst = button("cmdFirst", "&First");
+  cmdPrevious = button("cmdPrevious", "Pre&vious");
+  row->addWidget(lblPage = named("lblPage", new QLabel));
+  cmdNext = button("cmdNext", "&Next");
+  cmdLast = button("cmdLast", "&Last");
+  row->addStretch(1);
+  cmdLandscape = button("cmdLandscape", "Lan&dscape");
+  cmdWidth = button("cmdWidth", "Page &Width");
+  cmdLandscape->setCheckable(true);
+  cmdWidth->setCheckable(true);
+  cmdClose = button("cmdClose", "&Close");
+  cmdPrint->setDefault(true);
+  return bar;
+}
+
+void frmPreview::connect_controls() {
+  on(cmdPrint, "cmdPrint_AfterClick", [this] { cmdPrint_AfterClick(); });
+  on(cmdPDF, "cmdPDF_AfterClick", [this] { cmdPDF_AfterClick(); });
+  on(cmdFirst, "cmdFirst_AfterClick", [this] { go_to_page(0); });
+  on(cmdPrevious, "cmdPrevious_AfterClick", [this] { go_to_page(page_ - 1); });
+  on(cmdNext, "cmdNext_AfterClick", [this] { go_to_page(page_ + 1); });
+  on(cmdLast, "cmdLast_AfterClick", [this] { go_to_page(pages_->count() - 1); });
+  on(cmdLandscape, "cmdLandscape_AfterClick", [this] {
+    QPageLayout page = pages_->page();
+    page.setOrientation(cmdLandscape->isChecked() ? QPageLayout::Landscape : QPageLayout::Portrait);
+    lay_out(page);
+  });
+  on(cmdWidth, "cmdWidth_AfterClick", [this] { fit(); });
+  on(cmdClose, "cmdClose_AfterClick", [this] { finish(false); });
+}
+
+void frmPreview::lay_out(const QPageLayout& page) {
+  const Hourglass hourglass(session.prompts);
+  pages_ = lay_out_(page);
+  cmdLandscape->setChecked(page.orientation() == QPageLayout::Landscape);
+  go_to_page(std::min(page_, pages_->count() - 1));
+  fit();
+}
+
+void frmPreview::go_to_page(int page) {
+  page_ = std::clamp(page, 0, std::max(pages_->count() - 1, 0));
+  sheet_->show_page(pages_.get(), page_);
+  lblPage->setText(QStringLiteral("Page %1 of %2").arg(page_ + 1).arg(pages_->count()));
+  cmdFirst->setEnabled(page_ > 0);
+  cmdPrevious->setEnabled(page_ > 0);
+  cmdNext->setEnabled(page_ + 1 < pages_->count());
+  cmdLast->setEnabled(page_ + 1 < pages_->count());
+  scroll_->verticalScrollBar()->setValue(0);
+}
+
+void frmPreview::fit() {
+  QSize room = scroll_->maximumViewportSize();
+  if (cmdWidth->isChecked()) room.rwidth() -= scroll_->verticalScrollBar()->sizeHint().width();
+  sheet_->set_room(room, !cmdWidth->isChecked());
+}
+
+void frmPreview::resizeEvent(QResizeEvent* event) {
+  Form::resizeEvent(event);
+  fit();
+}
+
+void frmPreview::showEvent(QShowEvent* event) {
+  Form::showEvent(event);
+  fit();
+  scroll_->setFocus();
+}
+
+bool frmPreview::page_key(int key) {
+  const std::pair<int, int> ways[] = {{Qt::Key_PageDown, page_ + 1},
+                                      {Qt::Key_PageUp, page_ - 1},
+                                      {Qt::Key_Home, 0},
+                                      {Qt::Key_End, pages_->count() - 1}};
+  for (const auto& [known, page] : ways)
+    if (known == key) {
+      go_to_page(page);
+      return true;
+    }
+  return false;
+}
+
+void frmPreview::keyPressEvent(QKeyEvent* event) {
+  if (!page_key(event->key())) Form::keyPressEvent(event);
+}
+
+/// With a whole page on show there is nothing to scroll: the keys turn the pages.
+bool frmPreview::eventFilter(QObject* watched, QEvent* event) {
+  if (watched != scroll_ || event->type() != QEvent::KeyPress) return Form::eventFilter(watched, event);
+  return !cmdWidth->isChecked() && page_key(static_cast<QKeyEvent*>(event)->key());
+}
+
+void frmPreview::cmdPrint_AfterClick() {
+  QPrinter printer(QPrinter::HighResolution);
+  printer.setFullPage(true);
+  printer.setPageSize(pages_->page().pageSize());
+  printer.setPageOrientation(pages_->page().orientation());
+  printer.setDocName(title_);
+  QPrintDialog dialog(&printer, this);
+  dialog.setMinMax(1, pages_->count());
+  if (dialog.exec() != QDialog::Accepted) return;
+  const QPageLayout chosen = printer.pageLayout();
+  if (!chosen.isEquivalentTo(pages_->page()))
+    lay_out(QPageLayout(chosen.pageSize(), chosen.orientation(), QMarginsF()));
+  const int last = pages_->count() - 1;
+  const bool all = printer.fromPage() == 0;
+  const Hourglass hourglass(session.prompts);
+  if (Print_Pages(*pages_, printer, all ? 0 : printer.fromPage() - 1,
+                  all ? last : std::min(printer.toPage() - 1, last)))
+    finish(true);
+  else
+    session.prompts.box({"The printer did not take the pages.", "Print", Icon::Critical});
+}
+
+void frmPreview::cmdPDF_AfterClick() {
+  const std::string file = session.prompts.save_file("PDF Files (*.pdf)|*.pdf", utf8(title_) + ".pdf");
+  if (file.empty()) return;
+  const Hourglass hourglass(session.prompts);
+  Write_Pdf(*pages_, file, title_);
+  shell.say("Saved as " + file + ".");
+}
+
+}  // namespace tallymere

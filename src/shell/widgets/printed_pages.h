@@ -1,0 +1,50 @@
+#pragma once
+
+#include <QPageLayout>
+#include <QString>
+#include <filesystem>
+#include <functional>
+#include <memory>
+
+class QPagedPaintDevice;
+class QPainter;
+
+namespace tallymere {
+
+/// Something laid out on pages. What it paints is the same on paper, in the preview and in a PDF: it is
+/// measured in twips (1440 to the inch) from the page's upper left corner and painted under that scale.
+class Pages {
+ public:
+  static constexpr int twips = 1440;
+
+  explicit Pages(const QPageLayout& page) : page_(page) {}
+  virtual ~Pages() = default;
+  Pages(const Pages&) = delete;
+  Pages& operator=(const Pages&) = delete;
+
+  virtual int count() const = 0;
+  virtual void paint(QPainter& painter, int page) const = 0;  ///< pages count from 0
+
+  const QPageLayout& page() const { return page_; }
+  QSizeF size() const;  ///< of the whole sheet, in twips
+
+ private:
+  QPageLayout page_;
+};
+
+/// Lays something out anew on pages of another size or orientation.
+using Lay_Out = std::function<std::unique_ptr<Pages>(const QPageLayout& page)>;
+
+/// A letter sheet without margins of its own: the pages keep theirs.
+QPageLayout Letter_Page(QPageLayout::Orientation orientation);
+
+/// Paints one page on a device of this resolution, whatever it is.
+void Paint_Page(const Pages& pages, int page, QPainter& painter, qreal dots_per_inch);
+
+/// Paints the pages `from` to `to` (from 0, both included) on a printer or PDF. false: it did not take them.
+bool Print_Pages(const Pages& pages, QPagedPaintDevice& device, int from, int to);
+
+/// Throws store::Error 3026 when the file cannot be written.
+void Write_Pdf(const Pages& pages, const std::filesystem::path& file, const QString& title);
+
+}  // namespace tallymere
