@@ -12,7 +12,7 @@ void Log::write(const std::string& object, const std::string& procedure, int num
   std::string line = Format(clock_.today(), "m/d/yy") + " " + clock_.now_time() + " : " + object + " : " + procedure +
                      " : " + std::to_string(number) + " - " + description;
   // One line an error, quoted as data: inner quotes and line ends would break what reads it.
-  line = replace_all(replace_all(line, "\"", "'"), "\n", " ");
+  line = replace_all(replace_all(replace_all(line, "\"", "'"), "\r", ""), "\n", " ");
   file_ << '"' << line << "\"\n" << std::flush;
 }
 

@@ -1,6 +1,7 @@
 #include "shell/frmMenus.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "core/error_box.h"
 #include "shell/menus.h"
