@@ -248,7 +248,7 @@ void frmCheck::build() {
 
   cmdPrint = named("cmdPrint", new QPushButton(QStringLiteral("&Print Check")));
   cmdDelete = named("cmdDelete", new QPushButton(QStringLiteral("&Delete Check")));
-  cmdRepeat = later(named("cmdRepeat", new QPushButton(QStringLiteral("Repea&t Check"))),
+  cmdRepeat = later(named("cmdRepeat", new QPushButton(QStringLiteral("&Repeat Check"))),
                     shell.has_window("frmModRepeat"), "frmModRepeat");
   auto* column = column_layout(this);
   column->addLayout(bank);

@@ -10,7 +10,7 @@ namespace tallymere {
 
 frmPrintPL2::frmPrintPL2(Shell& shell_of_frame) : ReportForm(shell_of_frame, "frmPrintPL2") {
   sheet_ = named("grfPL", new GraphSheet(graph_));
-  cmdGraph = named("cmdGraph", new QPushButton(QStringLiteral("Grap&h")));
+  cmdGraph = named("cmdGraph", new QPushButton(QStringLiteral("&Graph")));
   cmdGraph->setCheckable(true);
   add_button(cmdGraph);
   on(cmdGraph, "cmdGraph_AfterClick", [this] { cmdGraph_AfterClick(); });

@@ -17,15 +17,26 @@ void show_page(QTabWidget* tabs, int page) {
   tabs->currentWidget()->setFocus(Qt::ShortcutFocusReason);
 }
 
+QList<QAbstractButton*> answering_buttons(const QWidget& window, const QKeySequence& keys) {
+  QList<QAbstractButton*> buttons = window.findChildren<QAbstractButton*>();
+  buttons.removeIf([&](QAbstractButton* button) { return !answers(*button, button->text(), keys); });
+  return buttons;
+}
+
+/// One button is pressed; where several share a letter, each press of it goes on to the next.
+void press_or_go_on(const QList<QAbstractButton*>& buttons, const QWidget* focus) {
+  qsizetype at = 0;
+  while (at < buttons.size() && buttons[at] != focus) ++at;
+  QAbstractButton* next = buttons[at < buttons.size() ? (at + 1) % buttons.size() : 0];
+  next->setFocus(Qt::ShortcutFocusReason);
+  if (buttons.size() == 1) next->click();
+}
+
 }  // namespace
 
 std::function<void()> Mnemonic_Of(QWidget& window, const QKeySequence& keys) {
-  for (QAbstractButton* button : window.findChildren<QAbstractButton*>())
-    if (answers(*button, button->text(), keys))
-      return [button] {
-        button->setFocus(Qt::ShortcutFocusReason);
-        button->click();
-      };
+  if (const auto buttons = answering_buttons(window, keys); !buttons.isEmpty())
+    return [buttons, &window] { press_or_go_on(buttons, window.focusWidget()); };
   for (QLabel* label : window.findChildren<QLabel*>())
     if (QWidget* field = label->buddy(); field && field->isEnabled() && answers(*label, label->text(), keys))
       return [field] { field->setFocus(Qt::ShortcutFocusReason); };
