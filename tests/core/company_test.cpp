@@ -90,11 +90,7 @@ TEST(Company, AnOlderFileIsBroughtUpToDateOnOpening) {
   EXPECT_TRUE(acme.db().find_table("SavedReports"));
   EXPECT_EQ(acme.db().QueryDefs().size(), 1u);
   EXPECT_EQ(acme.db().value("SELECT Amount FROM Transactions WHERE TransNum = 7").money(), Money::dollars(7));
-<<<<<<< HEAD
   EXPECT_EQ(acme.db().value("SELECT COUNT(*) FROM pragma_index_info('Transactions_Account')").integer(), 7);
-=======
-  EXPECT_EQ(acme.db().value("SELECT COUNT(*) FROM pragma_index_info('Transactions_Account')").integer(), 8);
->>>>>>> qa
   EXPECT_EQ(acme.db().value("SELECT At FROM History ORDER BY RowKey DESC").text().substr(0, 10),
             "2026-06-15");
 }
