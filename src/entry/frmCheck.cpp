@@ -6,6 +6,7 @@
 #include <QPushButton>
 #include <QStackedWidget>
 #include <QTabWidget>
+#include <utility>
 
 #include "core/format.h"
 #include "core/text.h"

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QScopedValueRollback>
 #include <QTimer>
+#include <utility>
 
 #include "core/balances.h"
 #include "core/ledger.h"
