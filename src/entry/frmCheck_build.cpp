@@ -41,14 +41,12 @@ class Paper : public QFrame {
   }
 };
 
-/// The words of the amount stand on a line. The asterisks before them are cut when there is no room, the words never:
-/// they are set smaller.
+/// The words of the amount stand on a line. The asterisks before them are cut when there is no room, the
+/// words never: they are set smaller.
 class WordsLine : public QLabel {
  public:
   WordsLine() { setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed); }
-  QSize sizeHint() const override {
-    return {60 * theme::unit, QFontMetrics(font()).height() + theme::unit};
-  }
+  QSize sizeHint() const override { return {60 * theme::unit, QFontMetrics(font()).height() + theme::unit}; }
   QSize minimumSizeHint() const override { return {20 * theme::unit, sizeHint().height()}; }
 
  protected:
@@ -65,8 +63,9 @@ class WordsLine : public QLabel {
     QString words = text();
     while (words.startsWith(QLatin1String("* "))) words.remove(0, 2);
     QFont fitting = font();
-    const int wanted = QFontMetrics(fitting).horizontalAdvance(words);
-    if (wanted > width()) fitting.setPointSizeF(fitting.pointSizeF() * width() / (wanted + 1.0));
+    // Widths do not shrink in step with the size: tried until the words fit.
+    while (QFontMetricsF(fitting, this).horizontalAdvance(words) + 1 > width() && fitting.pointSizeF() > 4)
+      fitting.setPointSizeF(fitting.pointSizeF() - 0.25);
     return fitting;
   }
 };
@@ -170,7 +169,7 @@ void frmCheck::build_lines() {
   };
   grdExpense = line_grid("grdExpense",
                          {list("Category", lists_->drpExpenseList, account_id),
-                          {.name = QStringLiteral("Amount"), .kind = Kind::money, .width = 14},
+                          {.name = QStringLiteral("Amount"), .kind = Kind::money, .width = 15},
                           {.name = QStringLiteral("Memo")},
                           list("Customer", lists_->drpCustomers),
                           list("Class", lists_->drpClass),
@@ -181,7 +180,7 @@ void frmCheck::build_lines() {
                         {.name = QStringLiteral("Description")},
                         {.name = QStringLiteral("Quantity"), .kind = Kind::number, .width = 10},
                         {.name = QStringLiteral("Cost"), .kind = Kind::money, .width = 12},
-                        {.name = QStringLiteral("Amount"), .kind = Kind::money, .width = 14},
+                        {.name = QStringLiteral("Amount"), .kind = Kind::money, .width = 15},
                         list("Customer", lists_->drpCustomers),
                         list("Class", lists_->drpClass),
                         {.name = QStringLiteral("CatID"), .kind = Kind::hidden}},

@@ -46,7 +46,7 @@ GridColumn text(const char* name, int width = 0) {
   return {.name = QString::fromLatin1(name), .width = width};
 }
 GridColumn money(const char* name) {
-  return {.name = QString::fromLatin1(name), .kind = Kind::money, .width = 11};
+  return {.name = QString::fromLatin1(name), .kind = Kind::money, .width = 14};
 }
 GridColumn choice(const char* name, SSDBDropDown* list, int width = 0, int id = -1) {
   return {.name = QString::fromLatin1(name), .width = width, .list = list, .id_column = id};
@@ -82,10 +82,11 @@ void frmRegister::build_register() {
   grdRegister = named("grdRegister", grid);
   GridColumn balance = money("Balance");
   balance.locked = true;
+  balance.width = 15;
   grdRegister->set_columns({{.name = QStringLiteral("Date"), .kind = Kind::date, .width = 15},
                             text("Num", 7),
                             choice("Payee", drpVendor),
-                            choice("Category", SSDBDropDown1, 22, column::CatID),
+                            choice("Category", SSDBDropDown1, 20, column::CatID),
                             text("Memo"),
                             choice("Class", lists_->drpClass, 10),
                             money("Payment"),

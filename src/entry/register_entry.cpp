@@ -142,17 +142,6 @@ std::optional<Fault> Break_Down_Fault(const RegisterEntry& entry) {
   return std::nullopt;
 }
 
-std::optional<Fault> Entry_Fault(const Register& reg, const RegisterEntry& entry) {
-  if (!entry.Date) return Mistake("Please Enter a date value for all transactions.", "Invalid Data", grid);
-  if (entry.Category.empty() || !entry.amount()) return Incomplete();
-  if (entry.is_broken_down()) return Break_Down_Fault(entry);
-  if (entry.CatID.empty()) return Incomplete();
-  if (entry.CatID == reg.category().CatID)
-    return Mistake("Cannot Assign Category to Transaction that is also the Category that you are editing.",
-                   "Invalid Category", grid);
-  return std::nullopt;
-}
-
 /// A transaction as it stands in the ledger before a rewrite.
 struct Stored {
   std::string Type = "Ledger Entry";
@@ -182,6 +171,29 @@ bool May_Rewrite(const Stored& stored) {
 /// One line of a larger transaction, whose other lines this register does not show and would drop.
 bool Is_Part_Of_More(const Stored& stored, const RegisterEntry& entry) {
   return stored.rows > 2 && stored.Category != break_down && !entry.is_broken_down();
+}
+
+/// Of a larger ledger entry a register only changes the mark.
+bool Takes_Only_Mark(const Stored& stored) {
+  return stored.Type == "Ledger Entry" && stored.rows > 2;
+}
+
+/// Lines that will not be written need not add up: a ledger entry may stand here with several rows.
+bool Writes_Lines(Session& session, const RegisterEntry& entry) {
+  if (entry.is_new()) return true;
+  const Stored stored = Read_Stored(session, entry.TransNum, entry.key);
+  return May_Rewrite(stored) && !Takes_Only_Mark(stored);
+}
+
+std::optional<Fault> Entry_Fault(Session& session, const Register& reg, const RegisterEntry& entry) {
+  if (!entry.Date) return Mistake("Please Enter a date value for all transactions.", "Invalid Data", grid);
+  if (entry.Category.empty() || !entry.amount()) return Incomplete();
+  if (entry.is_broken_down()) return Writes_Lines(session, entry) ? Break_Down_Fault(entry) : std::nullopt;
+  if (entry.CatID.empty()) return Incomplete();
+  if (entry.CatID == reg.category().CatID)
+    return Mistake("Cannot Assign Category to Transaction that is also the Category that you are editing.",
+                   "Invalid Category", grid);
+  return std::nullopt;
 }
 
 void Rewrite_Cleared(Session& session, const RegisterEntry& entry) {
@@ -274,7 +286,7 @@ void Save_Entry(Session& session, const Register& reg, RegisterEntry& entry, Rec
       result.fault = Access_Denied();
       return;
     }
-    if (stored.Type == "Ledger Entry" && stored.rows > 2) return Rewrite_Cleared(session, entry);
+    if (Takes_Only_Mark(stored)) return Rewrite_Cleared(session, entry);
   }
   Write_Entry(session, reg, stored, entry);
   result.stapler = true;
@@ -284,7 +296,7 @@ void Save_Entry(Session& session, const Register& reg, RegisterEntry& entry, Rec
 
 RecordResult Record(Session& session, const Register& reg, RegisterEntry& entry) {
   RecordResult result;
-  result.fault = Entry_Fault(reg, entry);
+  result.fault = Entry_Fault(session, reg, entry);
   if (result.fault) return result;
   result.conflict = Save_Or_Conflict([&] { Save_Entry(session, reg, entry, result); });
   result.reload = true;

@@ -4,6 +4,7 @@
 #include <map>
 
 #include "core/balances.h"
+#include "core/ledger.h"
 #include "core/text.h"
 
 namespace tallymere {
@@ -82,6 +83,10 @@ void frmAccounts::cmdNew_Click() {
 }
 
 void frmAccounts::mnuEdit_Click() {
+  if (Category_Name(session, row().CatID).empty()) {
+    make_list_again();
+    return shell.say("Another user has deleted this category.");
+  }
   shell.Ask_Window(
       {.window = "frmModAccount", .key = row().CatID, .number = static_cast<int64_t>(AccountMode::Edit)});
 }

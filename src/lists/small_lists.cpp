@@ -46,8 +46,10 @@ void Update_Small_List(Session& session, const SmallList& list, SmallListRow& ro
     return;
   }
   store::Transaction tx(*session.dbCompany, "Changed in " + std::string(list.table) + ": " + row.text);
-  session.dbCompany->Execute("UPDATE " + Table(list) + " SET " + Field(list) + " = ? WHERE RowKey = ?",
-                             {row.text, row.key});
+  const int64_t there = session.dbCompany->Execute(
+      "UPDATE " + Table(list) + " SET " + Field(list) + " = ? WHERE RowKey = ?", {row.text, row.key});
+  // What was typed is not lost when another user has deleted the row meanwhile.
+  if (there == 0 && !row.text.empty()) row.key = Add(session, list, row.text);
   tx.commit();
 }
 

@@ -92,6 +92,7 @@ void SSDBCombo::set_text(const std::string& text) {
   const QSignalBlocker quiet(this);
   setCurrentIndex(chosen_);
   setEditText(QString::fromStdString(text));
+  if (!hasFocus()) lineEdit()->home(false);  // a long name is read from its beginning
 }
 
 bool SSDBCombo::set_id(const std::string& id) {
@@ -156,6 +157,7 @@ void SSDBCombo::focusOutEvent(QFocusEvent* event) {
   if (event->reason() == Qt::PopupFocusReason || event->reason() == Qt::ActiveWindowFocusReason) return;
   settle();
   lineEdit()->deselect();
+  lineEdit()->home(false);
   Q_EMIT LostFocus();
 }
 

@@ -138,8 +138,23 @@ void mark_faulty(QWidget* field, bool faulty) {
   field->setPalette(palette);
 }
 
+namespace {
+
+/// On dense screens a text is a little wider than its whole points say, and its first letter would be cut.
+class FieldLabel : public QLabel {
+ public:
+  using QLabel::QLabel;
+  QSize sizeHint() const override { return wider(QLabel::sizeHint()); }
+  QSize minimumSizeHint() const override { return wider(QLabel::minimumSizeHint()); }
+
+ private:
+  static QSize wider(QSize size) { return {size.width() + 2, size.height()}; }
+};
+
+}  // namespace
+
 QLabel* label_for(QWidget* control, const QString& text) {
-  auto* label = new QLabel(text);
+  auto* label = new FieldLabel(text);
   label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   label->setBuddy(control);
   if (control->accessibleName().isEmpty()) control->setAccessibleName(without_mnemonic(text));

@@ -161,4 +161,16 @@ click(w.cmdGoto);
 equal(win("frmCheck").txtIndex.value, "10");
 close(win("frmCheck"));
 close(w);
+
+// A ledger entry may stand here with several rows: its lines do not add up to one of them, which takes its mark alone.
+for (const credit of [60, 40]) post(30, "Ledger Entry", "1/10/2026", "0SS", "<-Break Down->", 0, credit);
+post(30, "Ledger Entry", "1/10/2026", "40SS", "<-Break Down->", 100, 0);
+w = register("Checking");
+g = w.grdRegister;
+g.row(find(g, 30) + 1);
+g.toggle(g.row(), "Clear");
+click(w.cmdRecord);
+equal(ledger(30).map(function (row) { return row.Cleared; }), [false, true, false]);
+other("DELETE FROM Transactions WHERE TransNum = 30");
+close(w);
 equal(rows("SELECT Balance FROM Accounts WHERE CatID = '0SS'")[0].Balance, -345);

@@ -98,6 +98,14 @@ modal("frmModAccount", function (m) {
 });
 popup("mnuEdit");
 
+// One that another user deleted while it was on the screen leaves the list instead of opening.
+other("INSERT INTO Accounts (CatID, AccountName, AccountType, Dormant) VALUES ('900SS', 'Aaron', 'Bank', False)");
+for (const on of [false, true]) check(l.chkDormant, on);
+ok(place("Aaron") >= 0);
+other("DELETE FROM Accounts WHERE CatID = '900SS'");
+choose("Aaron", "mnuEdit");
+equal(place("Aaron"), -1);
+
 // Deleting: refused, in use, done.
 const question = "Are you sure you want to delete \"Drones\"";
 box("Confirm Delete", question, "No");

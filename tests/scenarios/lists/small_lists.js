@@ -24,6 +24,12 @@ for (const list of [["mnuClassList", "frmClass", "grdClass", "Class", "Class", "
   box("Confirm Delete", null, "Yes");
   click(w.cmdAction);
   equal([names(list[3], list[4]), g.rows], [["North"], 1]);
+  // A value that another user deletes while it is changed is there again as it was typed.
+  other("DELETE FROM " + list[3]);
+  g.set(0, "Name", "North'é");
+  g.row(1);
+  equal(names(list[3], list[4]), ["North'é"]);
+  g.set(0, "Name", "North");
   g.set(1, "Name", "East");
   click(w.cmdClose);
   equal(names(list[3], list[4]), ["East", "North"], "closing writes the last row");
