@@ -104,8 +104,7 @@ class CacheUpdate {
   void add(store::Database::Params params) { rows_.push_back(std::move(params)); }
   void write() {
     if (rows_.empty()) return;
-    // Figures that can be worked out again at any time need no way back, and would bury the work of people.
-    store::Transaction tx(db_, what_, store::Transaction::History::None);
+    store::Transaction tx(db_, what_);
     for (const auto& row : rows_) db_.Execute(statement_, row);
     tx.commit();
   }

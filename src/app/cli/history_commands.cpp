@@ -51,8 +51,8 @@ int Undo(Arguments& arguments) {
   if (!number) throw Usage("missing: the number of an action (see history)");
   arguments.finish();
   Undo_Action(cli.session, *number);
-  if (cli.session.RecalcAll) Update_Accounts(cli.session);  // the wish for it would end with this call
   Show_Action(store::List_Actions(*cli.session.dbCompany, 1).at(0));
+  if (cli.session.RecalcAll) Update_Accounts(cli.session);  // the wish for it would end with this call
   return 0;
 }
 

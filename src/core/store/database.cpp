@@ -387,7 +387,6 @@ void Transaction::leave() {
 }
 
 void Transaction::write_history() {
-  if (history_ == History::None) return;
   std::string changes;
   if (history_ == History::Rows) {
     changes = db_.connection_.take_changes();

@@ -168,8 +168,7 @@ class Database {
 /// row of history with who, when, what and the change itself, in the same commit.
 class Transaction {
  public:
-  /// Summary: a bulk load, one line that cannot be taken back. None: caches only, which leave no line at all.
-  enum class History { Rows, Summary, None };
+  enum class History { Rows, Summary };  ///< Summary: a bulk load, one line that cannot be taken back
 
   Transaction(Database& db, std::string what, History history = History::Rows);
   ~Transaction();
