@@ -1,6 +1,7 @@
 #include <algorithm>
 
 #include "core/ledger.h"
+#include "reports/kept_ledger.h"
 #include "reports/ledger_sums.h"
 
 // Income on cash basis: counted when the customer pays.
@@ -113,9 +114,7 @@ class PaidRows {
   }
 
   void take_share(const PaidRow& row, const Payment& payment) {
-    Money receivable = receivable_of(row.TransNum);
-    bool in_part = receivable > payment.Amount && !receivable.is_zero();
-    Money share = in_part ? row.Amount.share(payment.Amount, receivable) : row.Amount;
+    Money share = Paid_Share(row.Amount, payment.Amount, receivable_of(row.TransNum));
     take_({row.category, payment.date, row.is_credit ? share : -share});
   }
 
@@ -140,7 +139,13 @@ class PaidRows {
 
 }  // namespace
 
+Money Paid_Share(Money Amount, Money payment, Money receivable) {
+  const bool in_part = receivable > payment && !receivable.is_zero();
+  return in_part ? Amount.share(payment, receivable) : Amount;
+}
+
 void Sum_CashIncome(store::Database& db, const CatIDs& categories, DateRange days, const TakeAmount& take) {
+  if (auto* kept = KeptLedger::Of(db, categories)) return kept->Sum_CashIncome(categories, days, take);
   PaidRows(db, categories, days, take).read();
   db.each(
       "SELECT wanted.key, Date, SUM(CASE WHEN Credit <> 0 THEN ABS(Amount) ELSE -ABS(Amount) END)"

@@ -100,6 +100,7 @@ ReportTable Build_Report(Session& session, const ReportRequest& request) {
   const ReportDef* report = Find_Report(request.key);
   if (!report)
     throw store::Error(store::errors::no_such_field, "There is no report \"" + request.key + "\".");
+  const store::Snapshot moment(*session.dbCompany);
   return report->build(session, request);
 }
 

@@ -58,7 +58,7 @@ const ReportDef* Find_Report(std::string_view window, std::string_view window_ke
 /// The request a menu command makes: default dates, cash basis.
 ReportRequest Default_Request(const Session& session, std::string_view key);
 
-/// Runs the builder of request.key, which must be one of Reports().
+/// Runs the builder of request.key, which must be one of Reports(), on the company as it is at one moment.
 ReportTable Build_Report(Session& session, const ReportRequest& request);
 
 /// The report that "Go to" on a row opens from a table whose go_to is Category: that category from the first
