@@ -50,7 +50,6 @@ class ReportForm : public Form {
   const ReportTable& table() const { return table_; }
   ReportRequest& report_request() { return request_; }
   const ReportDef& report() const { return *report_; }
-  QString foot_note() const;  ///< "Cash basis", on reports that have one
 
   SSDBGrid* grdPL;
   QComboBox* cmbDate;

@@ -37,7 +37,7 @@ void frmPrintPL2::after_load() {
 
 Lay_Out frmPrintPL2::pages_to_print() {
   if (!cmdGraph->isChecked()) return ReportForm::pages_to_print();
-  return [this](const QPageLayout& page) { return std::make_unique<Graph_Pages>(graph_, page, foot_note()); };
+  return [this](const QPageLayout& page) { return std::make_unique<Graph_Pages>(graph_, page); };
 }
 
 QPageLayout frmPrintPL2::page_to_print() {

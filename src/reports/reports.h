@@ -73,7 +73,7 @@ std::string Company_Name(Session& session);
 std::string Period_Text(Date start, Date end);
 
 /// The title of a request's heading: its own, or else the report's followed by `subject`; the company; the
-/// period.
+/// period; the basis.
 ReportHeading Make_Heading(Session& session, const ReportRequest& request, std::string_view subject = {});
 
 }  // namespace tallymere
