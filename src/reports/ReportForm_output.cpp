@@ -2,9 +2,8 @@
 #include <QClipboard>
 #include <QLabel>
 #include <QPushButton>
-#include <fstream>
 
-#include "core/store/error.h"
+#include "core/whole_file.h"
 #include "reports/ReportForm.h"
 #include "reports/frmChangeTitle.h"
 #include "reports/frmSelectFields.h"
@@ -135,9 +134,7 @@ void ReportForm::export_sheet() {
 void ReportForm::export_csv() {
   const std::string file = ask_file("CSV Files", "csv");
   if (file.empty()) return;
-  std::ofstream out(file, std::ios::binary);
-  Write_Csv(table_, out);
-  if (!out.flush()) throw store::Error(store::errors::disk_full, "'" + file + "' cannot be written.");
+  Write_Whole(file, [this](std::ostream& out) { Write_Csv(table_, out); });
   shell.say("Saved as " + file + ".");
 }
 
