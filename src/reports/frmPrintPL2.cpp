@@ -22,8 +22,19 @@ void frmPrintPL2::read_ahead() {
   if (!session.company_open() || !KeptLedger::Read_Ahead(*session.dbCompany)) idle_.stop();
 }
 
+/// Another statement begins with its figures.
+void frmPrintPL2::take(const Request& asked) {
+  if (asked.key != report_request().key) cmdGraph->setChecked(false);
+  ReportForm::take(asked);
+  show_chosen();
+}
+
 void frmPrintPL2::cmdGraph_AfterClick() {
   after_load();
+  show_chosen();
+}
+
+void frmPrintPL2::show_chosen() {
   show_instead_of_grid(cmdGraph->isChecked() ? sheet_ : nullptr);
 }
 

@@ -17,6 +17,8 @@ class frmPrintPL2 : public ReportForm {
  public:
   explicit frmPrintPL2(Shell& shell_of_frame);
 
+  void take(const Request& asked) override;
+
  protected:
   Lay_Out pages_to_print() override;
   QPageLayout page_to_print() override;
@@ -24,6 +26,7 @@ class frmPrintPL2 : public ReportForm {
 
  private:
   void cmdGraph_AfterClick();
+  void show_chosen();
   void read_ahead();
 
   QTimer idle_;  ///< ticks whenever there is nothing else to do

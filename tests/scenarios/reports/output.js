@@ -46,3 +46,6 @@ modal("frmPreview", function (d) {
 click(w.cmdPrint);
 click(w.cmdGraph);
 ok(w.grdPL.visible, "and back");
+click(w.cmdGraph);
+menu("mnuRYTDPL");
+equal([w.cmdGraph.checked, w.grdPL.visible], [false, true], "another statement begins with its figures");
