@@ -2,7 +2,8 @@
 #include <QClipboard>
 #include <QLabel>
 #include <QPushButton>
-#include <fstream>
+#include <QSaveFile>
+#include <sstream>
 
 #include "core/store/error.h"
 #include "reports/ReportForm.h"
@@ -141,9 +142,12 @@ void ReportForm::export_sheet() {
 void ReportForm::export_csv() {
   const std::string file = ask_file("CSV Files", "csv");
   if (file.empty()) return;
-  std::ofstream out(file, std::ios::binary);
-  Write_Csv(table_, out);
-  if (!out.flush()) throw store::Error(store::errors::disk_full, "'" + file + "' cannot be written.");
+  std::ostringstream text;
+  Write_Csv(table_, text);
+  QSaveFile out(qt(file));  // what stood there before stays until the new one is whole
+  const QByteArray bytes = QByteArray::fromStdString(text.str());
+  if (!out.open(QIODevice::WriteOnly) || out.write(bytes) != bytes.size() || !out.commit())
+    throw store::Error(store::errors::disk_full, "'" + file + "' cannot be written.");
   shell.say("Saved as " + file + ".");
 }
 
