@@ -33,6 +33,7 @@ QLabel* heading_label(double size, bool bold) {
   auto* label = new QLabel;
   label->setTextFormat(Qt::PlainText);
   label->setAlignment(Qt::AlignHCenter);
+  label->setWordWrap(true);
   QFont font = label->font();
   font.setPointSizeF(font.pointSizeF() * size);
   font.setBold(bold);
@@ -106,6 +107,7 @@ QWidget* ReportForm::build_sheet() {
   grdPL->setFrameShape(QFrame::NoFrame);
   grdPL->setShowGrid(false);
   grdPL->set_multi_select(true);
+  grdPL->set_empty_hint(QStringLiteral("There is nothing to report for these dates."));
   grdPL->define_style("sBold", {.bold = true, .rule = true});
   grdPL->define_style("Bold", {.bold = true, .rule = true, .size = 14});
   auto* column = column_layout();
@@ -262,9 +264,9 @@ void ReportForm::read_controls() {
 /// Dates that are those of a preset show its name, however they came there.
 void ReportForm::show_preset() {
   const DateRange shown{request_.from, request_.to};
-  const auto preset = std::find_if(
-      Date_Range_Names.begin(), Date_Range_Names.end(),
-      [&](std::string_view name) { return Get_Date_Range(name, session.today()) == shown; });
+  const auto preset =
+      std::find_if(Date_Range_Names.begin(), Date_Range_Names.end(),
+                   [&](std::string_view name) { return Get_Date_Range(name, session.today()) == shown; });
   cmbDate->setCurrentText(preset == Date_Range_Names.end() ? QLatin1String(own_dates)
                                                            : qt(std::string(*preset)));
 }
@@ -272,6 +274,8 @@ void ReportForm::show_preset() {
 /// A date or the basis was changed: the report follows at once.
 void ReportForm::changed_by_user() {
   read_controls();
+  if (report_->start != ReportDef::Start::None && request_.from > request_.to)
+    shell.say("The start date is after the end date: no day lies between them.");
   show_preset();
   Load_Standard();
 }

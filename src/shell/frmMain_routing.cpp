@@ -160,10 +160,11 @@ void frmMain::bring_up(Form& form) {
     form.raise();
     return form.activateWindow();
   }
-  const bool fresh = !frame->isVisible();
+  // A new one comes up as large as it wants to be now that it knows what it shows.
+  if (!frame->isVisible() && !frame->isMaximized())
+    frame->resize(frame->sizeHint().boundedTo(mdi_->viewport()->size()));
   form.show();
   frame->isMinimized() ? frame->showNormal() : frame->show();
-  if (fresh && !frame->isMaximized()) frame->resize(frame->size().boundedTo(mdi_->viewport()->size()));
   mdi_->setActiveSubWindow(frame);
 }
 
