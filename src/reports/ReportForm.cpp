@@ -150,7 +150,9 @@ QVBoxLayout* ReportForm::build_buttons() {
 }
 
 void ReportForm::add_button(QPushButton* added) {
+  QWidget* before = buttons_->itemAt(extra_button_at_ - 1)->widget();
   buttons_->insertWidget(extra_button_at_++, added);
+  setTabOrder(before, added);
 }
 
 void ReportForm::connect_controls() {

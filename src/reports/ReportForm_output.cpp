@@ -45,7 +45,8 @@ void ReportForm::cmdLabel_AfterClick() {
   frmChangeTitle dialog(shell, utf8(Label6->text()));
   if (!shell.Run_Modal(dialog)) return;
   request_.title = dialog.title();
-  if (Is_Built_With_Title(utf8(objectName()))) return Load_Standard();
+  const bool own_again = request_.title.empty();
+  if (own_again || Is_Built_With_Title(utf8(objectName()))) return Load_Standard();
   table_.heading.title = request_.title;
   show_heading();
 }
