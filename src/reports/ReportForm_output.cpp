@@ -66,7 +66,7 @@ void ReportForm::cmdGoto_AfterClick() {
                               .end = request->to});
 }
 
-/// Any report can do without some of its columns.
+/// Any report can do without some of its columns, but not without all.
 void ReportForm::cmdPick_AfterClick() {
   std::vector<FieldChoice> choices;
   const ReportTable whole = Build_Report(session, request_);
@@ -78,6 +78,7 @@ void ReportForm::cmdPick_AfterClick() {
   hidden_.clear();
   for (const FieldChoice& choice : dialog.choices())
     if (!choice.selected) hidden_.insert(choice.caption);
+  if (hidden_.size() == choices.size()) hidden_.clear();
   Load_Standard();
 }
 
@@ -85,7 +86,7 @@ void ReportForm::cmdPick_AfterClick() {
 
 QString ReportForm::foot_note() const {
   if (!report_->has_basis) return {};
-  return request_.basis == Basis::Cash ? QStringLiteral("Cash basis") : QStringLiteral("Accrual basis");
+  return shown_basis_ == Basis::Cash ? QStringLiteral("Cash basis") : QStringLiteral("Accrual basis");
 }
 
 Lay_Out ReportForm::pages_to_print() {
