@@ -96,7 +96,7 @@ class ReportForm : public Form {
   const ReportDef* report_ = nullptr;
   ReportRequest request_;
   ReportTable table_;
-  std::set<std::string> hidden_;  ///< captions of columns the user took out
+  std::set<std::string> hidden_;     ///< captions of columns the user took out
   Basis shown_basis_ = Basis::Cash;  ///< of table_: a build that failed leaves the request another one
   bool building_ = false;
 

@@ -11,6 +11,7 @@
 #include "reports/frmSelectFields.h"
 #include "reports/renderers.h"
 #include "reports/report_paint.h"
+#include "reports/widest_texts.h"
 #include "shell/widgets/SSDBGrid.h"
 #include "shell/widgets/frmPreview.h"
 
@@ -66,13 +67,13 @@ void ReportForm::cmdGoto_AfterClick() {
                               .end = request->to});
 }
 
-/// Any report can do without some of its columns, but not without all.
+/// Any report can do without some of its columns, but not without all, nor without what its rows are called.
 void ReportForm::cmdPick_AfterClick() {
   std::vector<FieldChoice> choices;
   const ReportTable whole = Build_Report(session, request_);
-  for (const ReportColumn& column : whole.columns)
-    if (!column.caption.empty())
-      choices.push_back({column.caption, column.caption, !hidden_.contains(column.caption)});
+  for (int at = Label_Column(whole) + 1; at < static_cast<int>(whole.columns.size()); ++at)
+    if (const std::string& caption = whole.columns[static_cast<size_t>(at)].caption; !caption.empty())
+      choices.push_back({caption, caption, !hidden_.contains(caption)});
   frmSelectFields dialog(shell, choices);
   if (!shell.Run_Modal(dialog)) return;
   hidden_.clear();

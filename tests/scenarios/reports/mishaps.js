@@ -64,10 +64,13 @@ equal(w.cmbDate.value, "Custom");
 date(w.dteStart, "1/1/2026");
 equal(w.cmbDate.value, "This Year");
 
-// No column picked is all of them; an emptied title is the report's own.
+// No column picked is all of them, and the names of the rows always stay; an emptied title is the report's own.
 modal("frmSelectFields", function (d) { d.grdFields.select([]); click(d.cmdOk); });
 click(w.cmdPick);
 ok(w.grdPL.columns.indexOf("Break Down") > 0);
+modal("frmSelectFields", function (d) { d.grdFields.select([0]); click(d.cmdOk); });
+click(w.cmdPick);
+equal(w.grdPL.columns, ["", "Type", "Date", ""]);
 menu("mnuPrintTranDate");
 w = win("frmPrintCustom");
 modal("frmChangeTitle", function (d) { type(d.Text1, ""); click(d.cmdOk); });
