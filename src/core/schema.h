@@ -43,6 +43,10 @@ struct ReadingIndex {
   std::string_view where;    // partial index: its condition, else empty
 };
 
+// Of a PaidBy: that it names several payments, or is written in any way but the ledger's own. The condition of an
+// index, so whoever asks for such rows asks in these words.
+inline constexpr std::string_view not_one_payment = "PaidBy <> CAST(CAST(PaidBy AS INTEGER) AS TEXT) || ';'";
+
 struct StoredQuery {
   std::string_view name;
   std::string_view sql;
@@ -58,7 +62,7 @@ struct Reference {
 };
 
 // Raised with every change of a table, field or index; stored in each file as its user_version.
-inline constexpr int schema_version = 1;
+inline constexpr int schema_version = 2;
 
 std::span<const TableDef> company_tables();   // Model.mdb and every company file
 std::span<const TableDef> accounts_tables();  // Accounts.mdb

@@ -308,7 +308,6 @@ void ReportForm::build() {
     built = Pick_Columns(built, keep);
   }
   table_ = std::move(built);
-  shown_basis_ = request_.basis;
   show_table();
   after_load();
   if (!table_.notice.empty()) session.prompts.box({table_.notice, table_.heading.title, Icon::Information});

@@ -50,7 +50,6 @@ class ReportForm : public Form {
   const ReportTable& table() const { return table_; }
   ReportRequest& report_request() { return request_; }
   const ReportDef& report() const { return *report_; }
-  QString foot_note() const;  ///< "Cash basis", on reports that have one
 
   SSDBGrid* grdPL;
   QComboBox* cmbDate;
@@ -96,8 +95,7 @@ class ReportForm : public Form {
   const ReportDef* report_ = nullptr;
   ReportRequest request_;
   ReportTable table_;
-  std::set<std::string> hidden_;     ///< captions of columns the user took out
-  Basis shown_basis_ = Basis::Cash;  ///< of table_: a build that failed leaves the request another one
+  std::set<std::string> hidden_;  ///< captions of columns the user took out
   bool building_ = false;
 
   QLabel *Label4, *Label5, *Label6, *lblStart, *lblEnd, *lblBasis;

@@ -85,14 +85,8 @@ void ReportForm::cmdPick_AfterClick() {
 
 // --- paper
 
-QString ReportForm::foot_note() const {
-  if (!report_->has_basis) return {};
-  return shown_basis_ == Basis::Cash ? QStringLiteral("Cash basis") : QStringLiteral("Accrual basis");
-}
-
 Lay_Out ReportForm::pages_to_print() {
-  return
-      [this](const QPageLayout& page) { return std::make_unique<Report_Pages>(table_, page, foot_note()); };
+  return [this](const QPageLayout& page) { return std::make_unique<Report_Pages>(table_, page); };
 }
 
 QPageLayout ReportForm::page_to_print() {

@@ -1,6 +1,8 @@
 #include <algorithm>
 
 #include "core/ledger.h"
+#include "core/schema.h"
+#include "reports/kept_ledger.h"
 #include "reports/ledger_sums.h"
 
 // Income on cash basis: counted when the customer pays.
@@ -13,7 +15,7 @@ struct Payment {
 };
 
 /// The payments of a period. Unless it holds the whole ledger, which numbers may lie in it is read once: that
-/// spares looking at most payments.
+/// spares looking at all others.
 class Payments {
  public:
   Payments(store::Database& db, DateRange days) : db_(db), days_(days) {
@@ -26,11 +28,23 @@ class Payments {
         " GROUP BY Date, TransNum",
         {days.start, days.end}, [&](const store::Row& row) { in_period_.push_back(row.integer(0)); });
     std::sort(in_period_.begin(), in_period_.end());
+    in_period_.erase(std::unique(in_period_.begin(), in_period_.end()), in_period_.end());
   }
 
   bool all_in_period() const { return all_in_period_; }
   bool may_be_in_period(int64_t number) const {
     return all_in_period_ || std::binary_search(in_period_.begin(), in_period_.end(), number);
+  }
+  /// For json_each: lists of the numbers in the period, each of a bearable length.
+  std::vector<std::string> lists_in_period() const {
+    constexpr size_t longest = 10000;
+    std::vector<std::string> lists;
+    for (size_t at = 0; at < in_period_.size(); ++at) {
+      if (at % longest == 0) lists.emplace_back("[");
+      lists.back() += std::to_string(in_period_[at]) + ",";
+    }
+    for (std::string& list : lists) list.back() = ']';
+    return lists;
   }
 
   /// The first row of that transaction when it is dated in the period.
@@ -66,30 +80,38 @@ class PaidRows {
   PaidRows(store::Database& db, const CatIDs& categories, DateRange days, const TakeAmount& take)
       : db_(db), payments_(db, days), places_(categories), take_(take) {}
 
-  /// Reads every row that names a payment of the period; a long period's in one go, a short one's payment by
-  /// payment.
+  /// Reads every row that names a payment of the period; payment by payment, unless that is the whole ledger.
   void read() {
-    if (payments_.all_in_period())
-      db_.each(select + " ORDER BY PaidBy", {}, [this](const store::Row& row) { add(row); });
-    else
-      read_some();
+    if (payments_.all_in_period()) read_rows("", " WHERE PaidBy IS NOT NULL", " ORDER BY PaidBy", {});
+    for (const std::string& payments : payments_.lists_in_period())
+      read_rows(" json_each(?) AS payment CROSS JOIN",
+                " WHERE PaidBy >= payment.value || ';' AND PaidBy < payment.value || '<'", "", {payments});
+    if (!payments_.all_in_period()) read_several_times_paid();
     finish();
   }
 
  private:
-  static inline const std::string select =
-      "SELECT PaidBy, Account, TransNum, Credit, Amount FROM Transactions INDEXED BY Transactions_PaidBy"
-      " WHERE PaidBy IS NOT NULL AND (Paid <> 0 OR Type = 'Invoice')";
+  void read_rows(const std::string& before, const std::string& where, const std::string& order,
+                 const store::Database::Params& params) {
+    db_.each("SELECT PaidBy, Account, TransNum, Credit, Amount FROM" + before +
+                 " Transactions INDEXED BY Transactions_PaidBy" + where +
+                 " AND (Paid <> 0 OR Transactions.Type = 'Invoice')" + order,
+             params, [this](const store::Row& row) { add(row); });
+  }
 
-  void read_some() {
-    db_.each(
-        "SELECT DISTINCT PaidBy FROM Transactions INDEXED BY Transactions_PaidBy WHERE PaidBy IS NOT NULL",
-        {}, [this](const store::Row& row) {
-          for (int64_t number : Payments_Of(row.text(0)))
-            if (payments_.may_be_in_period(number))
-              return db_.each(select + " AND PaidBy = ?", {row.text(0)},
-                              [this](const store::Row& each) { add(each); });
-        });
+  /// The rows whose first payment was not in the period, but a later one was.
+  void read_several_times_paid() {
+    db_.each("SELECT DISTINCT PaidBy FROM Transactions INDEXED BY Transactions_PaidByMore WHERE " +
+                 std::string(not_one_payment),
+             {}, [this](const store::Row& row) {
+               auto in_period = [this](int64_t number) { return payments_.may_be_in_period(number); };
+               const auto numbers = Payments_Of(row.text(0));
+               if (std::none_of(numbers.begin(), numbers.end(), in_period)) return;
+               const bool known = in_period(numbers.front()) &&
+                                  row.text(0).starts_with(std::to_string(numbers.front()) + ";");
+               if (known) return;
+               read_rows("", " WHERE PaidBy = ?", "", {row.text(0)});
+             });
   }
 
   void add(const store::Row& row) {
@@ -113,9 +135,7 @@ class PaidRows {
   }
 
   void take_share(const PaidRow& row, const Payment& payment) {
-    Money receivable = receivable_of(row.TransNum);
-    bool in_part = receivable > payment.Amount && !receivable.is_zero();
-    Money share = in_part ? row.Amount.share(payment.Amount, receivable) : row.Amount;
+    Money share = Paid_Share(row.Amount, payment.Amount, receivable_of(row.TransNum));
     take_({row.category, payment.date, row.is_credit ? share : -share});
   }
 
@@ -140,7 +160,13 @@ class PaidRows {
 
 }  // namespace
 
+Money Paid_Share(Money Amount, Money payment, Money receivable) {
+  const bool in_part = receivable > payment && !receivable.is_zero();
+  return in_part ? Amount.share(payment, receivable) : Amount;
+}
+
 void Sum_CashIncome(store::Database& db, const CatIDs& categories, DateRange days, const TakeAmount& take) {
+  if (auto* kept = KeptLedger::Of(db, categories)) return kept->Sum_CashIncome(categories, days, take);
   PaidRows(db, categories, days, take).read();
   db.each(
       "SELECT wanted.key, Date, SUM(CASE WHEN Credit <> 0 THEN ABS(Amount) ELSE -ABS(Amount) END)"

@@ -4,6 +4,7 @@
 #include <QPushButton>
 
 #include "reports/graph_paint.h"
+#include "reports/kept_ledger.h"
 #include "shell/widgets/theme.h"
 
 namespace tallymere {
@@ -14,6 +15,11 @@ frmPrintPL2::frmPrintPL2(Shell& shell_of_frame) : ReportForm(shell_of_frame, "fr
   cmdGraph->setCheckable(true);
   add_button(cmdGraph);
   on(cmdGraph, "cmdGraph_AfterClick", [this] { cmdGraph_AfterClick(); });
+  on(&idle_, &QTimer::timeout, "idle_Timer", [this] { read_ahead(); });
+}
+
+void frmPrintPL2::read_ahead() {
+  if (!session.company_open() || !KeptLedger::Read_Ahead(*session.dbCompany)) idle_.stop();
 }
 
 void frmPrintPL2::cmdGraph_AfterClick() {
@@ -23,6 +29,7 @@ void frmPrintPL2::cmdGraph_AfterClick() {
 
 /// Only a graph that is on show is reckoned.
 void frmPrintPL2::after_load() {
+  idle_.start(0);
   if (!cmdGraph->isChecked()) return;
   graph_ = Build_PL_Graph(session, report_request());
   sheet_->update();
@@ -30,7 +37,7 @@ void frmPrintPL2::after_load() {
 
 Lay_Out frmPrintPL2::pages_to_print() {
   if (!cmdGraph->isChecked()) return ReportForm::pages_to_print();
-  return [this](const QPageLayout& page) { return std::make_unique<Graph_Pages>(graph_, page, foot_note()); };
+  return [this](const QPageLayout& page) { return std::make_unique<Graph_Pages>(graph_, page); };
 }
 
 QPageLayout frmPrintPL2::page_to_print() {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QTimer>
+
 #include "reports/ReportForm.h"
 #include "reports/profit_and_loss.h"
 
@@ -7,7 +9,8 @@ namespace tallymere {
 
 class GraphSheet;
 
-/// The income statement, and the same figures as a graph.
+/// The income statement, and the same figures as a graph. Once it is on show the ledger is read ahead, so
+/// that another period shows at once.
 class frmPrintPL2 : public ReportForm {
   Q_OBJECT
 
@@ -21,7 +24,9 @@ class frmPrintPL2 : public ReportForm {
 
  private:
   void cmdGraph_AfterClick();
+  void read_ahead();
 
+  QTimer idle_;  ///< ticks whenever there is nothing else to do
   PL_Graph graph_;
   GraphSheet* sheet_;
   QPushButton* cmdGraph;

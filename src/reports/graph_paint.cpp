@@ -245,8 +245,8 @@ void Paint_PL_Graph(QPainter& painter, const QRectF& room, const PL_Graph& graph
   Graph(painter, graph, colors, font).paint(room);
 }
 
-Graph_Pages::Graph_Pages(const PL_Graph& graph, const QPageLayout& page, QString note)
-    : Pages(page), graph_(graph), note_(std::move(note)) {}
+Graph_Pages::Graph_Pages(const PL_Graph& graph, const QPageLayout& page)
+    : Pages(page), graph_(graph) {}
 
 void Graph_Pages::paint(QPainter& painter, int) const {
   const Print_Fonts fonts(1);
@@ -261,7 +261,7 @@ void Graph_Pages::paint(QPainter& painter, int) const {
   write(fonts.company(), graph_.heading.company, colors.ink);
   write(fonts.period(), graph_.heading.period, colors.soft);
   painter.setFont(fonts.edge().font);
-  painter.drawText(room, Qt::AlignLeft | Qt::AlignBottom, note_);
+  painter.drawText(room, Qt::AlignLeft | Qt::AlignBottom, qt(graph_.heading.basis));
   Paint_PL_Graph(painter, room.adjusted(0, 300, 0, -400), graph_, colors, fonts.of("Small").font);
 }
 

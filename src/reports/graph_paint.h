@@ -29,14 +29,13 @@ void Paint_PL_Graph(QPainter& painter, const QRectF& room, const PL_Graph& graph
 /// The graph on one page, below the report's heading.
 class Graph_Pages : public Pages {
  public:
-  Graph_Pages(const PL_Graph& graph, const QPageLayout& page, QString note = {});
+  Graph_Pages(const PL_Graph& graph, const QPageLayout& page);
 
   int count() const override { return 1; }
   void paint(QPainter& painter, int page) const override;
 
  private:
   const PL_Graph& graph_;
-  QString note_;
 };
 
 }  // namespace tallymere

@@ -3,6 +3,7 @@
 #include <charconv>
 
 #include "core/ledger.h"
+#include "reports/kept_ledger.h"
 
 namespace tallymere {
 namespace {
@@ -148,6 +149,7 @@ std::string Id_List(const std::vector<std::string>& texts) {
 }
 
 Figures Sum_Category(store::Database& db, const CatIDs& categories, const SumRange& range) {
+  if (auto* kept = KeptLedger::Of(db, categories)) return kept->Sum_Category(categories, range);
   Figures figures;
   std::string sum = "(SELECT SUM(" + std::string(row_value) + ")" + std::string(by_account) + "wanted.value" +
                     std::string(in_period) + If_Counted(range.basis) + ")";
@@ -160,6 +162,7 @@ Figures Sum_Category(store::Database& db, const CatIDs& categories, const SumRan
 
 ColumnFigures Sum_Category_By_Name(store::Database& db, const CatIDs& categories, const SumRange& range,
                                    const std::vector<std::string>& names) {
+  if (auto* kept = KeptLedger::Of(db, categories)) return kept->Sum_Category_By_Name(categories, range, names);
   ColumnFigures figures;
   const auto columns = Columns_Of(names);
   std::string sum =
@@ -182,6 +185,7 @@ ColumnFigures Sum_Category_By_Name(store::Database& db, const CatIDs& categories
 
 ColumnFigures Sum_Category_By_Class(store::Database& db, const CatIDs& categories, const SumRange& range,
                                     const std::vector<std::string>& classes) {
+  if (auto* kept = KeptLedger::Of(db, categories)) return kept->Sum_Category_By_Class(categories, range, classes);
   ColumnFigures figures;
   const auto columns = Columns_Of(classes);
   db.each(Category_Rows("Account, Class, Debit, Credit", " AND Class <> ''" + If_Counted(range.basis)),
@@ -196,6 +200,7 @@ ColumnFigures Sum_Category_By_Class(store::Database& db, const CatIDs& categorie
 
 void Sum_Category_By_Day(store::Database& db, const CatIDs& categories, const SumRange& range,
                          const TakeAmount& take) {
+  if (auto* kept = KeptLedger::Of(db, categories)) return kept->Sum_Category_By_Day(categories, range, take);
   db.each(Category_Rows("wanted.key, Date, SUM(" + std::string(row_value) + ")", If_Counted(range.basis)) +
               " GROUP BY wanted.key, Date",
           Params_Of(categories, range.days), [&](const store::Row& row) {

@@ -63,6 +63,7 @@ void Keep_Largest(std::vector<PL_Graph::Slice>& slices, size_t largest) {
 
 PL_Graph Build_PL_Graph(Session& session, const ReportRequest& request, size_t largest) {
   store::Database& db = *session.dbCompany;
+  const store::Snapshot moment(db);
   const CategoryTree tree = CategoryTree::Load(db);
   PL_Graph graph;
   graph.heading = Make_Heading(session, request);

@@ -181,6 +181,7 @@ void Read_Line(const std::string& line, ReportTable& table) {
     table.heading.title = fields.text();
     table.heading.company = fields.text();
     table.heading.period = fields.text();
+    table.heading.basis = fields.text();
   } else if (what == "column") {
     table.columns.push_back(Read_Column(fields));
   } else if (what == "group") {
@@ -220,7 +221,7 @@ void Write_Rows(const ReportTable& table, std::ostream& out) {
 void Write_Report_File(const ReportTable& table, std::ostream& out) {
   const ReportHeading& heading = table.heading;
   out << first_line << "\nheading\t" << Escaped(heading.title) << '\t' << Escaped(heading.company) << '\t'
-      << Escaped(heading.period) << '\n';
+      << Escaped(heading.period) << '\t' << Escaped(heading.basis) << '\n';
   for (const ReportColumn& column : table.columns)
     out << "column\t" << Name_Of(column.kind) << '\t' << column.right << '\t' << column.width << '\t'
         << Escaped(column.mask) << '\t' << Escaped(column.caption) << '\n';

@@ -50,10 +50,9 @@ int Decimals(Money amount) {
 
 }  // namespace
 
-Report_Pages::Report_Pages(const ReportTable& table, const QPageLayout& page, QString note)
+Report_Pages::Report_Pages(const ReportTable& table, const QPageLayout& page)
     : Pages(page),
       table_(table),
-      note_(std::move(note)),
       columns_(Fit_Columns(table, Room_On(page))),
       fonts_(columns_.scale) {
   label_column_ = Label_Column(table);
@@ -322,7 +321,7 @@ void Report_Pages::paint_foot(QPainter& painter, int page) const {
   const Print_Fonts::Look& look = fonts_.edge();
   Use(painter, look, soft_ink);
   const QRectF foot(side, size().height() - bottom + 200, size().width() - 2 * side, look.row_height());
-  painter.drawText(foot, Qt::AlignLeft, note_);
+  painter.drawText(foot, Qt::AlignLeft, qt(table_.heading.basis));
   painter.drawText(foot, Qt::AlignRight, QStringLiteral("Page %1 of %2").arg(page + 1).arg(count()));
 }
 
@@ -331,8 +330,8 @@ QPageLayout Page_For(const ReportTable& table) {
   return Natural_Width(table) <= Room_On(upright) * 1.1 ? upright : Letter_Page(QPageLayout::Landscape);
 }
 
-void Write_Report_Pdf(const ReportTable& table, const std::filesystem::path& file, const QString& note) {
-  Write_Pdf(Report_Pages(table, Page_For(table), note), file, qt(table.heading.title));
+void Write_Report_Pdf(const ReportTable& table, const std::filesystem::path& file) {
+  Write_Pdf(Report_Pages(table, Page_For(table)), file, qt(table.heading.title));
 }
 
 }  // namespace tallymere

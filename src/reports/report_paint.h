@@ -11,11 +11,11 @@ class QPainter;
 namespace tallymere {
 
 /// A report as a typeset statement: its heading on the first page and a running head on the others, the
-/// column heads on every page, totals under a rule, page numbers. The table must outlive it.
+/// column heads on every page, totals under a rule, basis and page numbers at the foot. The table must outlive
+/// it.
 class Report_Pages : public Pages {
  public:
-  /// `note` stands at the foot of each page: the basis, for those reports that have one.
-  Report_Pages(const ReportTable& table, const QPageLayout& page, QString note = {});
+  Report_Pages(const ReportTable& table, const QPageLayout& page);
 
   int count() const override;
   void paint(QPainter& painter, int page) const override;
@@ -52,7 +52,6 @@ class Report_Pages : public Pages {
   void paint_foot(QPainter& painter, int page) const;
 
   const ReportTable& table_;
-  QString note_;
   Page_Columns columns_;
   Print_Fonts fonts_;
   std::vector<int> decimals_;    ///< the most that an amount of each column shows
@@ -66,6 +65,6 @@ class Report_Pages : public Pages {
 /// Upright where the table fits so, else lying.
 QPageLayout Page_For(const ReportTable& table);
 
-void Write_Report_Pdf(const ReportTable& table, const std::filesystem::path& file, const QString& note = {});
+void Write_Report_Pdf(const ReportTable& table, const std::filesystem::path& file);
 
 }  // namespace tallymere

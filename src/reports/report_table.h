@@ -16,7 +16,8 @@
 namespace tallymere {
 
 struct ReportHeading {
-  std::string title, company, period;
+  std::string title = {}, company = {}, period = {};
+  std::string basis = {};  ///< "Cash basis"; empty on reports that know only one
 
   /// The three lines above the report's columns, CR LF between them.
   std::string caption() const { return title + "\r\n" + company + "\r\n" + period; }

@@ -100,6 +100,7 @@ ReportTable Build_Report(Session& session, const ReportRequest& request) {
   const ReportDef* report = Find_Report(request.key);
   if (!report)
     throw store::Error(store::errors::no_such_field, "There is no report \"" + request.key + "\".");
+  const store::Snapshot moment(*session.dbCompany);
   return report->build(session, request);
 }
 
@@ -125,8 +126,11 @@ std::string Period_Text(Date start, Date end) {
 ReportHeading Make_Heading(Session& session, const ReportRequest& request, std::string_view subject) {
   const ReportDef* report = Find_Report(request.key);
   std::string own = std::string(report ? report->title : "") + std::string(subject);
-  return {request.title.empty() ? own : request.title, Company_Name(session),
-          Period_Text(request.from, request.to)};
+  ReportHeading heading{request.title.empty() ? own : request.title, Company_Name(session),
+                        Period_Text(request.from, request.to)};
+  if (report && report->has_basis)
+    heading.basis = request.basis == Basis::Cash ? "Cash basis" : "Accrual basis";
+  return heading;
 }
 
 }  // namespace tallymere

@@ -58,7 +58,7 @@ const ReportDef* Find_Report(std::string_view window, std::string_view window_ke
 /// The request a menu command makes: default dates, cash basis.
 ReportRequest Default_Request(const Session& session, std::string_view key);
 
-/// Runs the builder of request.key, which must be one of Reports().
+/// Runs the builder of request.key, which must be one of Reports(), on the company as it is at one moment.
 ReportTable Build_Report(Session& session, const ReportRequest& request);
 
 /// The report that "Go to" on a row opens from a table whose go_to is Category: that category from the first
@@ -73,7 +73,7 @@ std::string Company_Name(Session& session);
 std::string Period_Text(Date start, Date end);
 
 /// The title of a request's heading: its own, or else the report's followed by `subject`; the company; the
-/// period.
+/// period; the basis.
 ReportHeading Make_Heading(Session& session, const ReportRequest& request, std::string_view subject = {});
 
 }  // namespace tallymere

@@ -92,7 +92,10 @@ std::string Csv_Field(const std::string& text) {
 }  // namespace
 
 void Write_Text(const ReportTable& table, std::ostream& out) {
-  out << table.heading.title << "\n" << table.heading.company << "\n" << table.heading.period << "\n\n";
+  const ReportHeading& heading = table.heading;
+  out << heading.title << "\n" << heading.company << "\n" << heading.period << "\n";
+  if (!heading.basis.empty()) out << heading.basis << "\n";
+  out << "\n";
   Aligned(table, out).write();
 }
 

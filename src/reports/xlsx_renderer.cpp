@@ -5,6 +5,7 @@
 #include <map>
 
 #include "core/store/error.h"
+#include "core/text.h"
 #include "reports/renderers.h"
 
 namespace tallymere {
@@ -15,9 +16,13 @@ using Kind = ReportColumn::Kind;
 
 constexpr lxw_row_t rows_of_a_sheet = LXW_ROW_MAX;
 constexpr int measured_rows = 300;
-constexpr size_t longest_text = 32767;  // of a cell, in characters
+constexpr size_t longest_text = 32767;      // of a cell, in characters
+constexpr size_t longest_header_text = 40;  // three of them, were each letter an "&", fit into a header's 255
+constexpr double heading_height = 60;       // points: three lines of 14
 constexpr std::string_view plain_money = "#,##0.00##";
 constexpr std::string_view plain_date = "m/d/yyyy";
+
+enum class Align { Left, Right, Centre };
 
 struct Look {
   std::string_view style;
@@ -34,9 +39,9 @@ bool Has_Spreadsheet_Date(Date day) {
   return day.year() >= 1900;
 }
 
-std::string_view Cut_To_Cell(std::string_view text) {
-  if (text.size() <= longest_text) return text;
-  size_t end = longest_text;
+std::string_view Cut(std::string_view text, size_t longest) {
+  if (text.size() <= longest) return text;
+  size_t end = longest;
   while (end > 0 && (text[end] & 0xC0) == 0x80) --end;
   return text.substr(0, end);
 }
@@ -70,24 +75,51 @@ class Workbook {
     at_ = 0;
     for (size_t at = 0; at < shown_.size(); ++at)
       worksheet_set_column(sheet_, column_number(at), column_number(at), width_of(shown_[at]), nullptr);
-    for (const std::string& line : {table_.heading.title, table_.heading.company, table_.heading.period})
-      write_text(at_++, 0, line, format("Bold", ""));
-    ++at_;
-    if (!table_.groups.empty()) write_groups();
+    write_groups();
     for (size_t at = 0; at < shown_.size(); ++at)
       write_text(at_, column_number(at), table_.columns[static_cast<size_t>(shown_[at])].caption,
-                 format("sBold", "", is_right(shown_[at])));
+                 format("sBold", "", is_right(shown_[at]) ? Align::Right : Align::Left));
     worksheet_freeze_panes(sheet_, ++at_, 0);
-    worksheet_repeat_rows(sheet_, at_ - 1, at_ - 1);
-    worksheet_fit_to_pages(sheet_, 1, 0);
-    if (shown_.size() > 6) worksheet_set_landscape(sheet_);
+    worksheet_repeat_rows(sheet_, table_.groups.empty() ? at_ - 1 : 0, at_ - 1);
+    set_up_page();
   }
 
+  /// The heading is what groups all columns of a report that has no groups of its own.
   void write_groups() {
-    for (size_t at = 0; at < shown_.size(); ++at)
-      for (const ReportGroup& group : table_.groups)
-        if (group.first == shown_[at]) write_text(at_, column_number(at), group.caption, format("sBold", ""));
+    std::vector<ReportGroup> groups = table_.groups;
+    if (groups.empty())
+      groups.push_back({table_.heading.caption(), 0, static_cast<int>(table_.columns.size())});
+    const bool is_heading = table_.groups.empty();
+    lxw_format* look = format(is_heading ? "Bold" : "sBold", "", Align::Centre);
+    if (is_heading) worksheet_set_row(sheet_, at_, heading_height, nullptr);
+    for (const ReportGroup& group : groups) {
+      const auto below = [&](int column) {
+        return column >= group.first && column < group.first + group.count;
+      };
+      const auto first = std::find_if(shown_.begin(), shown_.end(), below);
+      const auto last = std::find_if_not(first, shown_.end(), below);
+      if (first == last) continue;
+      const auto from = static_cast<size_t>(first - shown_.begin()),
+                 to = static_cast<size_t>(last - shown_.begin()) - 1;
+      const std::string caption = replace_all(group.caption, "\r\n", "\n");
+      if (from == to)
+        write_text(at_, column_number(from), caption, look);
+      else
+        worksheet_merge_range(sheet_, at_, column_number(from), at_, column_number(to), caption.c_str(),
+                              look);
+    }
     ++at_;
+  }
+
+  void set_up_page() {
+    const ReportHeading& heading = table_.heading;
+    std::string header = "&C";
+    for (const std::string& text : {heading.title, heading.company, heading.period})
+      header += (header.size() > 2 ? "   " : "") + replace_all(Cut(text, longest_header_text), "&", "&&");
+    worksheet_set_header(sheet_, header.c_str());
+    worksheet_set_footer(sheet_, ("&L" + heading.basis + "&RPage &P of &N").c_str());
+    worksheet_fit_to_pages(sheet_, 1, 0);
+    if (shown_.size() > 6) worksheet_set_landscape(sheet_);
   }
 
   void write_row(int row) {
@@ -110,17 +142,17 @@ class Workbook {
       lxw_datetime date{day->year(), static_cast<int>(day->month()), static_cast<int>(day->day()), 0, 0, 0};
       worksheet_write_datetime(sheet_, at_, to, &date, format(style, mask_or(plain_date)));
     } else if (!value.blank()) {
-      write_text(at_, to, value.text(), format(style, "", is_right(column)));
+      write_text(at_, to, value.text(), format(style, "", is_right(column) ? Align::Right : Align::Left));
     }
   }
 
   void write_text(lxw_row_t row, lxw_col_t column, const std::string& text, lxw_format* look) {
     if (!text.empty())
-      worksheet_write_string(sheet_, row, column, std::string(Cut_To_Cell(text)).c_str(), look);
+      worksheet_write_string(sheet_, row, column, std::string(Cut(text, longest_text)).c_str(), look);
   }
 
-  lxw_format* format(std::string_view style, std::string_view mask, bool right = false) {
-    std::string name = std::string(style) + '\t' + std::string(mask) + (right ? "\tr" : "");
+  lxw_format* format(std::string_view style, std::string_view mask, Align align = Align::Left) {
+    std::string name = std::string(style) + '\t' + std::string(mask) + "LRC"[static_cast<int>(align)];
     auto [known, is_new] = formats_.try_emplace(name, nullptr);
     if (!is_new) return known->second;
     lxw_format* made = known->second = workbook_add_format(book_);
@@ -131,7 +163,12 @@ class Workbook {
       if (look.size > 0) format_set_font_size(made, look.size);
     }
     if (!mask.empty()) format_set_num_format(made, std::string(mask).c_str());
-    if (right) format_set_align(made, LXW_ALIGN_RIGHT);
+    if (align == Align::Right) format_set_align(made, LXW_ALIGN_RIGHT);
+    if (align == Align::Centre) {
+      format_set_align(made, LXW_ALIGN_CENTER);
+      format_set_align(made, LXW_ALIGN_VERTICAL_CENTER);
+      format_set_text_wrap(made);
+    }
     return made;
   }
 

@@ -120,6 +120,24 @@ TEST(Xlsx, HasRealNumbersAndDates) {
     EXPECT_NE(styles.find(expected), std::string::npos) << expected;
 }
 
+TEST(Xlsx, GroupsStandInTheFirstRowCaptionsInTheSecondAndTheHeadingOnEveryPage) {
+  TempFolder folder;
+  const auto file = folder.path() / "report.xlsx";
+  const auto sheet_of = [&](const ReportTable& table) {
+    Write_Xlsx(table, file);
+    return Unzipped(file, "xl/worksheets/sheet1.xml");
+  };
+  ReportTable plain;
+  plain.heading = {"Profit & Loss", "Acme", "2026", "Cash basis"};
+  plain.columns = {{.caption = "Name"}, {.caption = "Qty"}};
+  plain.add_row().text("Bolt").value(int64_t{7});
+  const std::string sheet = sheet_of(plain);
+  for (auto expected : {"<mergeCell ref=\"A1:B1\"/>", "Profit &amp; Loss\nAcme\n2026", "<c r=\"B3\"><v>7</v>",
+                        "&amp;CProfit &amp;&amp; Loss   Acme   2026<", "&amp;LCash basis&amp;R"})
+    EXPECT_NE(sheet.find(expected), std::string::npos) << expected << " in " << sheet;
+  EXPECT_NE(sheet_of(Motley()).find("<mergeCell ref=\"C1:D1\"/>"), std::string::npos);
+}
+
 TEST(Xlsx, WhereItCannotBeWrittenNothingIsLeft) {
   TempFolder folder;
   EXPECT_THROW(Write_Xlsx(Motley(), folder.path() / "no such folder" / "a.xlsx"), store::Error);

@@ -1,6 +1,7 @@
 #include "app/drive/hands.h"
 
 #include <QAbstractButton>
+#include <QAbstractEventDispatcher>
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QKeyEvent>
@@ -56,6 +57,16 @@ void Bring_Forward(QWidget& control) {
   QCoreApplication::processEvents();
 }
 
+/// A person is slow: what the program does when idle is done before the next step.
+static void Wait_Till_Idle() {
+  constexpr int patience_ms = 5000;
+  QElapsedTimer waited;
+  waited.start();
+  while (waited.elapsed() < patience_ms &&
+         QAbstractEventDispatcher::instance()->processEvents(QEventLoop::AllEvents)) {
+  }
+}
+
 void Settle() {
   constexpr int rounds = 4;  // a step may post a step that posts a step
   for (int round = 0; round < rounds; ++round) {
@@ -63,6 +74,7 @@ void Settle() {
     QCoreApplication::processEvents();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   }
+  Wait_Till_Idle();
 }
 
 void Press(Qt::Key key, Qt::KeyboardModifiers modifiers, const QString& text) {

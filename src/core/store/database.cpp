@@ -336,6 +336,17 @@ void Database::require_transaction() const {
     throw Error(errors::no_transaction, "The operation was undone after an earlier failure.");
 }
 
+Snapshot::Snapshot(Database& db) : connection_(&db.connection()) {
+  if (connection_->in_transaction())
+    connection_ = nullptr;
+  else
+    connection_->begin_reading();
+}
+
+Snapshot::~Snapshot() {
+  if (connection_) connection_->end_reading();
+}
+
 // --- transactions -------------------------------------------------------------------------------------------
 
 Transaction::Transaction(Database& db, std::string what, History history)

@@ -7,6 +7,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <typeindex>
 #include <vector>
 
 #include "core/store/engine.h"
@@ -142,6 +143,16 @@ class Database {
   }  ///< nullptr outside a Transaction
   Connection& connection() { return connection_; }
 
+  ChangeStamp change_stamp() { return connection_.change_stamp(); }
+  /// What somebody worked out from this file and keeps beside it while it is open; made empty at the first call.
+  /// Whoever keeps it compares the change_stamp() of its making before believing it.
+  template <typename T>
+  T& kept() {
+    auto& place = kept_[typeid(T)];
+    if (!place) place = std::make_shared<T>();
+    return *static_cast<T*>(place.get());
+  }
+
   Statement query(std::string_view sql, const Params& params);  ///< translated, bound, not yet stepped
 
  private:
@@ -161,6 +172,20 @@ class Database {
   mutable std::optional<std::vector<TableDef>> tables_;
   mutable int64_t definitions_read_at_ = 0;
   std::map<std::string, std::string, std::less<>> translations_;
+  std::map<std::type_index, std::shared_ptr<void>> kept_;
+};
+
+/// A scope in which all that is read is of one moment, whatever others write meanwhile. Inside a Transaction it is
+/// part of that; none may begin within it.
+class Snapshot {
+ public:
+  explicit Snapshot(Database& db);
+  ~Snapshot();
+  Snapshot(const Snapshot&) = delete;
+  Snapshot& operator=(const Snapshot&) = delete;
+
+ private:
+  Connection* connection_;  ///< nullptr when an outer scope sees to it
 };
 
 /// A scope in which a database is written. The destructor undoes; commit is explicit and may fail (3218, 3026), after

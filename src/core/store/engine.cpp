@@ -234,9 +234,17 @@ void Connection::execute(const std::string& sql) {
 
 int64_t Connection::last_key() const { return sqlite3_last_insert_rowid(handle_); }
 int64_t Connection::changes() const { return sqlite3_changes64(handle_); }
+
+ChangeStamp Connection::change_stamp() {
+  auto others = prepare("PRAGMA data_version");
+  return {others.step() ? others.integer(0) : -1, sqlite3_total_changes64(handle_)};
+}
+
 bool Connection::in_transaction() const { return !sqlite3_get_autocommit(handle_); }
 
 void Connection::begin() { prepare("BEGIN IMMEDIATE").run(); }
+void Connection::begin_reading() { prepare("BEGIN DEFERRED").run(); }
+void Connection::end_reading() { sqlite3_exec(handle_, "COMMIT", nullptr, nullptr, nullptr); }
 void Connection::commit() { prepare("COMMIT").run(); }
 void Connection::rollback() {
   if (in_transaction()) sqlite3_exec(handle_, "ROLLBACK", nullptr, nullptr, nullptr);

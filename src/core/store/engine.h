@@ -69,6 +69,12 @@ struct RowChange {
   std::vector<Cell> cells;  ///< for Changed only the key and the columns that changed
 };
 
+/// How often a file was changed by others and by this connection, undone changes counted too.
+struct ChangeStamp {
+  int64_t by_others = -1, own = -1;
+  friend bool operator==(const ChangeStamp&, const ChangeStamp&) = default;
+};
+
 /// An open file. Waits a few seconds for another process's lock, then gives Error 3218.
 class Connection {
  public:
@@ -82,9 +88,13 @@ class Connection {
   void execute(const std::string& sql);     ///< one or several statements without results
   int64_t last_key() const;
   int64_t changes() const;
+  /// Differs from an earlier one once anybody may have changed the file, this connection or another.
+  ChangeStamp change_stamp();
 
   bool in_transaction() const;
   void begin();  ///< takes the writer's lock at once
+  void begin_reading();  ///< the first reading fixes the moment; writers wait from then on
+  void end_reading();
   void commit();
   void rollback();
   void savepoint(const std::string& name);

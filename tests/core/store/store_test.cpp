@@ -2,6 +2,7 @@
 #include <sys/stat.h>
 
 #include <fstream>
+#include <thread>
 
 #include "core/store/recordset.h"
 #include "support/temp_folder.h"
@@ -235,6 +236,31 @@ TEST_F(Store, NothingIsWrittenOnceTheEngineUndidTheWholeByItself) {
   }
   EXPECT_EQ(db->value("SELECT COUNT(*) FROM Bills").integer(), 1);
   add("Next", Money::dollars(2));
+}
+
+TEST_F(Store, InASnapshotNothingChangesUntilItEnds) {
+  add("Rent", Money::dollars(10));
+  auto other = second_user();
+  const auto sum = [&] { return db->value("SELECT SUM(Amount) FROM Bills").integer() / 10000; };
+  const ChangeStamp before = db->change_stamp();
+  std::thread writer;
+  {
+    const Snapshot moment(*db);
+    EXPECT_EQ(sum(), 10);
+    writer = std::thread([&] {
+      Transaction tx(*other, "meanwhile");
+      other->Execute("UPDATE Bills SET Amount = 990000");
+      tx.commit();
+    });
+    std::this_thread::sleep_for(std::chrono::milliseconds(30));
+    const Snapshot inner(*db);
+    EXPECT_EQ(sum(), 10);
+    EXPECT_EQ(db->change_stamp(), before);
+  }
+  writer.join();
+  EXPECT_EQ(sum(), 99);
+  EXPECT_NE(db->change_stamp(), before);
+  add("Phone", Money::dollars(1));  // writing goes on as ever
 }
 
 TEST_F(Store, WhatOtherProgramsDoToTheFileIsSeen) {

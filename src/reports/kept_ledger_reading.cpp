@@ -1,0 +1,213 @@
+#include <algorithm>
+#include <span>
+
+#include "core/ledger.h"
+#include "reports/kept_ledger.h"
+#include "reports/profit_and_loss.h"
+
+namespace tallymere {
+namespace {
+
+constexpr int rows_in_a_step = 10000;
+
+constexpr std::string_view next_rows =
+    "SELECT RowKey, TransNum, Transactions.Type, Date, Name, Class, Account, Amount, Debit, Credit, Paid,"
+    " PaidBy FROM Transactions WHERE RowKey > ? ORDER BY RowKey LIMIT ?";
+enum Column { HiddenKey, TransNum, Type, Day, Name, Class, Account, Amount, Debit, Credit, Paid, PaidBy };
+
+constexpr Date always(100, 1, 1), never(9999, 12, 31);
+
+/// Brings them into the order of their numbers and keeps the first row of each.
+template <typename T>
+void Keep_First_Rows(std::vector<T>& heads) {
+  std::stable_sort(heads.begin(), heads.end(), [](auto& a, auto& b) { return a.TransNum < b.TransNum; });
+  auto same = [](auto& a, auto& b) { return a.TransNum == b.TransNum; };
+  heads.erase(std::unique(heads.begin(), heads.end(), same), heads.end());
+}
+
+template <typename T>
+const T* Find(const std::vector<T>& heads, int64_t TransNum) {
+  auto found = std::lower_bound(heads.begin(), heads.end(), TransNum,
+                                [](const T& head, int64_t number) { return head.TransNum < number; });
+  return found == heads.end() || found->TransNum != TransNum ? nullptr : &*found;
+}
+
+}  // namespace
+
+/// Reads a company's ledger into its KeptLedger, a step at a time.
+class LedgerReader {
+ public:
+  explicit LedgerReader(store::Database& db) : db_(db) {}
+
+  bool step();  ///< false when there is no more to do
+
+ private:
+  struct Head {  ///< the first row of a transaction, or of its receivable
+    int64_t TransNum;
+    std::optional<Date> day;
+    Money Amount;
+  };
+  struct PaidBill {
+    size_t row;  ///< among the ledger's
+    int64_t payment;
+  };
+  struct PaidIncome {
+    KeptLedger::TextId category;
+    int64_t TransNum;
+    bool is_credit;
+    Money Amount;
+    size_t payments, payment_count;  ///< part of payments_
+  };
+  /// Rows of one transaction mostly bear the same text: the last one and its id.
+  struct LastText {
+    std::string text;
+    KeptLedger::TextId id = KeptLedger::no_text;
+  };
+
+  void begin();
+  void read(const store::Row& row);
+  void add_row(const store::Row& row, Date day);
+  void add_income(const store::Row& row, std::optional<Date> day);
+  void finish();
+  void date_paid_bills();
+  void share_out_income();
+  void sort_by_day();
+  KeptLedger::TextId keep(LastText& last, const store::Row& row, int column);
+
+  store::Database& db_;
+  store::ChangeStamp begun_at_;
+  int64_t read_to_ = 0;  ///< hidden key
+  KeptLedger ledger_;
+  std::vector<Head> transactions_, receivables_;
+  std::vector<PaidBill> paid_bills_;
+  std::vector<PaidIncome> paid_income_;
+  std::vector<int64_t> payments_;
+  std::string PaidBy_;  ///< of the payments at the end of payments_
+  size_t paid_from_ = 0;
+  LastText Account_, Name_, Class_;
+};
+
+bool KeptLedger::Read_Ahead(store::Database& db) {
+  if (db.writing_scope()) return true;  // what stands there now may yet be undone
+  auto& reader = db.kept<std::optional<LedgerReader>>();
+  try {
+    const store::Snapshot moment(db);
+    if (!reader) reader.emplace(db);
+    if (reader->step()) return true;
+  } catch (const std::exception&) {
+    // who needs the ledger will meet the fault and tell of it
+  }
+  reader.reset();
+  return false;
+}
+
+bool LedgerReader::step() {
+  const store::ChangeStamp now = db_.change_stamp();
+  if (db_.kept<KeptLedger>().read_at_ == now) return false;
+  if (begun_at_ == store::ChangeStamp()) begin();
+  if (begun_at_ != now) return false;
+  int rows = 0;
+  db_.each(next_rows, {read_to_, rows_in_a_step}, [&](const store::Row& row) {
+    read(row);
+    ++rows;
+  });
+  if (rows == rows_in_a_step) return true;
+  finish();
+  return false;
+}
+
+void LedgerReader::begin() {
+  begun_at_ = db_.change_stamp();
+  const CategoryTree tree = CategoryTree::Load(db_);
+  for (std::string_view section : PL_Sections)
+    for (const std::string& id : Section_Categories(tree, section))
+      ledger_.texts_.try_emplace(id, static_cast<KeptLedger::TextId>(ledger_.texts_.size() + 1));
+  ledger_.categories_ = ledger_.texts_.size();
+}
+
+void LedgerReader::read(const store::Row& row) {
+  read_to_ = row.integer(HiddenKey);
+  const int64_t number = row.integer(TransNum);
+  const std::optional<Date> day = row.date(Day);
+  if (transactions_.empty() || transactions_.back().TransNum != number)
+    transactions_.push_back({number, day, row.money(Amount)});
+  if (row.text(Account) != Account_.text)
+    Account_ = {std::string(row.text(Account)), ledger_.id_of(row.text(Account))};
+  if (same_text(Account_.text, accounts_receivable)) receivables_.push_back({number, day, row.money(Amount)});
+  if (Account_.id == KeptLedger::no_text || Account_.id > ledger_.categories_) return;
+  if (day) add_row(row, *day);
+  add_income(row, day);
+}
+
+void LedgerReader::add_row(const store::Row& row, Date day) {
+  const bool counts = Is_Counted(Basis::Cash, row.text(Type), row.flag(Paid));
+  if (counts && same_text(row.text(Type), "Bill"))
+    if (auto payments = Payments_Of(row.text(PaidBy)); !payments.empty())
+      paid_bills_.push_back({ledger_.rows_.size(), payments.front()});
+  ledger_.rows_.push_back({day, counts ? always : never, Account_.id, keep(Name_, row, Name),
+                           keep(Class_, row, Class), Row_Value(row.money(Debit), row.money(Credit))});
+}
+
+void LedgerReader::add_income(const store::Row& row, std::optional<Date> day) {
+  const bool is_credit = !row.money(Credit).is_zero();
+  if (!row.flag(Paid) && !same_text(row.text(Type), "Invoice")) {
+    const Money amount = row.money(Amount).abs();
+    if (day) ledger_.income_.push_back({*day, Account_.id, is_credit ? amount : -amount});
+    return;
+  }
+  if (row.text(PaidBy) != PaidBy_) {
+    PaidBy_ = row.text(PaidBy);
+    paid_from_ = payments_.size();
+    for (int64_t payment : Payments_Of(PaidBy_)) payments_.push_back(payment);
+  }
+  if (const size_t count = payments_.size() - paid_from_)
+    paid_income_.push_back(
+        {Account_.id, row.integer(TransNum), is_credit, row.money(Amount), paid_from_, count});
+}
+
+KeptLedger::TextId LedgerReader::keep(LastText& last, const store::Row& row, int column) {
+  if (row.is_null(column)) return KeptLedger::no_text;
+  if (last.id == KeptLedger::no_text || row.text(column) != last.text) {
+    last.text = row.text(column);
+    const auto next = static_cast<KeptLedger::TextId>(ledger_.texts_.size() + 1);
+    last.id = ledger_.texts_.try_emplace(last.text, next).first->second;
+  }
+  return last.id;
+}
+
+void LedgerReader::finish() {
+  Keep_First_Rows(transactions_);
+  Keep_First_Rows(receivables_);
+  date_paid_bills();
+  share_out_income();
+  sort_by_day();
+  ledger_.read_at_ = begun_at_;
+  db_.kept<KeptLedger>() = std::move(ledger_);
+}
+
+void LedgerReader::date_paid_bills() {
+  for (const PaidBill& bill : paid_bills_)
+    if (const Head* payment = Find(transactions_, bill.payment); payment && payment->day)
+      ledger_.rows_[bill.row].counts_from = *payment->day;
+}
+
+void LedgerReader::share_out_income() {
+  for (const PaidIncome& income : paid_income_) {
+    const Head* receivable = Find(receivables_, income.TransNum);
+    for (int64_t number : std::span(payments_).subspan(income.payments, income.payment_count)) {
+      const Head* payment = Find(transactions_, number);
+      if (!payment || !payment->day) continue;
+      const Money share =
+          Paid_Share(income.Amount, payment->Amount, receivable ? receivable->Amount : Money());
+      ledger_.income_.push_back({*payment->day, income.category, income.is_credit ? share : -share});
+    }
+  }
+}
+
+void LedgerReader::sort_by_day() {
+  auto by_day = [](auto& a, auto& b) { return a.day < b.day; };
+  std::sort(ledger_.rows_.begin(), ledger_.rows_.end(), by_day);
+  std::sort(ledger_.income_.begin(), ledger_.income_.end(), by_day);
+}
+
+}  // namespace tallymere
