@@ -37,6 +37,13 @@ bool stands_several_times(const Form* form) {
                    utf8(form->objectName())) != std::end(stand_several_times);
 }
 
+/// Whole in the room there is.
+void fit_in(QMdiSubWindow& frame, QSize wanted, QSize room) {
+  frame.resize(wanted.boundedTo(room));
+  frame.move(std::min(frame.x(), room.width() - frame.width()),
+             std::min(frame.y(), room.height() - frame.height()));
+}
+
 QMdiSubWindow* frame_of(const Form& form) {
   return qobject_cast<QMdiSubWindow*>(form.parentWidget());
 }
@@ -176,11 +183,11 @@ void frmMain::bring_up(Form& form) {
     form.raise();
     return form.activateWindow();
   }
-  // A new one comes up as large as it wants to be now that it knows what it shows.
-  if (!frame->isVisible() && !frame->isMaximized())
-    frame->resize(frame->sizeHint().boundedTo(mdi_->viewport()->size()));
+  const bool fresh = !frame->isVisible();
+  const QSize wanted = frame->sizeHint();  // as large as it wants to be now that it knows what it shows
   form.show();
   frame->isMinimized() ? frame->showNormal() : frame->show();
+  if (fresh && !frame->isMaximized()) fit_in(*frame, wanted, mdi_->viewport()->size());
   mdi_->setActiveSubWindow(frame);
 }
 
