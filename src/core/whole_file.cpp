@@ -5,9 +5,12 @@
 
 #include <cerrno>
 #include <cstdio>
+#include <fstream>
 #include <string>
 #include <system_error>
 #include <utility>
+
+#include "core/store/error.h"
 
 namespace tallymere {
 
@@ -46,6 +49,26 @@ bool Move_To_Free_Place(const fs::path& aside, const fs::path& place) {
   if (errno == EEXIST) return false;
   fs::rename(aside, place);  // a file system that cannot move without replacing
   return true;
+}
+
+void Write_Whole_By_Name(const fs::path& place, const std::function<void(const fs::path&)>& write) {
+  std::error_code fault;
+  const auto kind = fs::status(place, fault).type();
+  if (kind != fs::file_type::regular && kind != fs::file_type::not_found) return write(place);
+  const fs::path file = kind == fs::file_type::regular ? fs::canonical(place) : place;  // a link stays a link
+  const FileAside aside(file, ".new");
+  write(aside.path());
+  fs::rename(aside.path(), file, fault);
+  if (fault) throw store::Error(store::errors::bad_path, "'" + place.string() + "' cannot be written.");
+}
+
+void Write_Whole(const fs::path& place, const std::function<void(std::ostream&)>& write) {
+  Write_Whole_By_Name(place, [&](const fs::path& file) {
+    std::ofstream out(file, std::ios::binary);
+    write(out);
+    if (!out.flush())
+      throw store::Error(store::errors::bad_path, "'" + place.string() + "' cannot be written.");
+  });
 }
 
 fs::path Journal_Of(fs::path database) {

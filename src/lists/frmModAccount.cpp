@@ -43,11 +43,7 @@ void frmModAccount::build() {
   add_field(fields, QStringLiteral("&Account Number:"), txtAcctNum);
   add_field(fields, QStringLiteral("D&escription:"), txtDescripiton);
   fields->addRow(QString(), chkDormant);
-  auto* column = column_layout(this);
-  column->addLayout(fields);
-  column->addStretch(1);
-  column->addSpacing(theme::gap);
-  column->addLayout(button_row({}, {cmdCancel, cmdOk}));
+  lay_out_dialog(this, fields, {cmdCancel, cmdOk});
 }
 
 void frmModAccount::load() {

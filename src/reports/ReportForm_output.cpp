@@ -2,10 +2,8 @@
 #include <QClipboard>
 #include <QLabel>
 #include <QPushButton>
-#include <QSaveFile>
-#include <sstream>
 
-#include "core/store/error.h"
+#include "core/whole_file.h"
 #include "reports/ReportForm.h"
 #include "reports/frmChangeTitle.h"
 #include "reports/frmSelectFields.h"
@@ -139,12 +137,7 @@ void ReportForm::export_sheet() {
 void ReportForm::export_csv() {
   const std::string file = ask_file("CSV Files", "csv");
   if (file.empty()) return;
-  std::ostringstream text;
-  Write_Csv(table_, text);
-  QSaveFile out(qt(file));  // what stood there before stays until the new one is whole
-  const QByteArray bytes = QByteArray::fromStdString(text.str());
-  if (!out.open(QIODevice::WriteOnly) || out.write(bytes) != bytes.size() || !out.commit())
-    throw store::Error(store::errors::disk_full, "'" + file + "' cannot be written.");
+  Write_Whole(file, [this](std::ostream& out) { Write_Csv(table_, out); });
   shell.say("Saved as " + file + ".");
 }
 

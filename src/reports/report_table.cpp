@@ -30,6 +30,8 @@ const std::string* ReportTable::keep(std::string_view text) {
 }
 
 ReportTable::Line ReportTable::add_row(std::string_view style, RowKey key) {
+  const size_t start = rows_.empty() ? 0 : rows_.back().first_cell;
+  while (cells_.size() > start && std::holds_alternative<std::monostate>(cells_.back())) cells_.pop_back();
   rows_.push_back({cells_.size(), keep(style), keep(key.text), key.number});
   return Line(*this);
 }
@@ -92,6 +94,8 @@ store::Value ReportTable::value(int row, int column) const {
 }
 
 std::string ReportTable::text(int row, int column) const {
+  const Cell& content = cell(row, column);
+  if (auto text = std::get_if<const std::string*>(&content)) return **text;
   return value(row, column).text();
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <deque>
 #include <map>
 #include <memory>
 #include <string>
@@ -111,8 +112,8 @@ class ReportTable {
   const Cell& cell(int row, int column) const;
 
   std::shared_ptr<Texts> texts_ = std::make_shared<Texts>();  // copies of a table share them
-  std::vector<Row> rows_;
-  std::vector<Cell> cells_;
+  std::deque<Row> rows_;  // long reports grow without being copied
+  std::deque<Cell> cells_;
   std::map<std::pair<int, int>, const std::string*> cell_styles_;
 };
 

@@ -6,6 +6,7 @@
 
 #include "core/store/error.h"
 #include "core/text.h"
+#include "core/whole_file.h"
 #include "reports/renderers.h"
 
 namespace tallymere {
@@ -197,20 +198,11 @@ class Workbook {
 }  // namespace
 
 void Write_Xlsx(const ReportTable& table, const fs::path& file) {
-  fs::path aside = file;
-  aside += ".new";
-  std::error_code fault, ignored;
-  if (!std::ofstream(aside)) fault = std::make_error_code(std::errc::permission_denied);
-  try {
-    if (!fault) Workbook(table, aside).write();
-  } catch (...) {
-    fs::remove(aside, ignored);
-    throw;
-  }
-  if (!fault) fs::rename(aside, file, fault);
-  if (!fault) return;
-  fs::remove(aside, ignored);
-  throw store::Error(store::errors::bad_path, "'" + file.string() + "' cannot be written.");
+  Write_Whole_By_Name(file, [&](const fs::path& aside) {
+    if (!std::ofstream(aside))
+      throw store::Error(store::errors::bad_path, "'" + file.string() + "' cannot be written.");
+    Workbook(table, aside).write();
+  });
 }
 
 }  // namespace tallymere

@@ -3,7 +3,6 @@
 #include <QFormLayout>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QVBoxLayout>
 
 #include "shell/widgets/theme.h"
 
@@ -18,11 +17,7 @@ frmCreate::frmCreate(Shell& shell_of_frame, CompanyCommands& commands)
   cmdCancel = named("cmdCancel", new QPushButton(QStringLiteral("Cancel")));
   auto* fields = form_layout();
   add_field(fields, QStringLiteral("Company Name"), txtName);
-  auto* column = column_layout(this);
-  column->addLayout(fields);
-  column->addStretch(1);
-  column->addSpacing(theme::gap);
-  column->addLayout(button_row({}, {cmdCancel, cmdOk}));
+  lay_out_dialog(this, fields, {cmdCancel, cmdOk});
   on(cmdOk, "cmdOk_AfterClick", [this] { cmdOk_AfterClick(); });
   on(cmdCancel, "cmdCancel_AfterClick", [this] { finish(false); });
 }

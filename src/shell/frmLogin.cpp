@@ -3,7 +3,6 @@
 #include <QFormLayout>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QVBoxLayout>
 
 #include "core/passwords.h"
 #include "core/rights.h"
@@ -30,11 +29,7 @@ void frmLogin::build() {
   auto* fields = form_layout();
   add_field(fields, QStringLiteral("&User Name:"), cmbUser);
   add_field(fields, QStringLiteral("&Password:"), txtPassord);
-  auto* column = column_layout(this);
-  column->addLayout(fields);
-  column->addStretch(1);
-  column->addSpacing(theme::gap);
-  column->addLayout(button_row({}, {SSDBCommand2, cmdLogin}));
+  lay_out_dialog(this, fields, {SSDBCommand2, cmdLogin});
 }
 
 void frmLogin::load() {

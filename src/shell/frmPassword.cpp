@@ -3,7 +3,6 @@
 #include <QFormLayout>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QVBoxLayout>
 
 #include "core/passwords.h"
 #include "core/store/recordset.h"
@@ -20,11 +19,7 @@ frmPassword::frmPassword(Shell& shell_of_frame) : Form(shell_of_frame, "frmPassw
   cmdCancel = named("cmdCancel", new QPushButton(QStringLiteral("Cancel")));
   auto* fields = form_layout();
   add_field(fields, QStringLiteral("Enter Password"), Text1);
-  auto* column = column_layout(this);
-  column->addLayout(fields);
-  column->addStretch(1);
-  column->addSpacing(theme::gap);
-  column->addLayout(button_row({}, {cmdCancel, cmdOk}));
+  lay_out_dialog(this, fields, {cmdCancel, cmdOk});
   on(cmdOk, "cmdOk_AfterClick", [this] { cmdOk_AfterClick(); });
   on(cmdCancel, "cmdCancel_AfterClick", [this] { finish(false); });
 }

@@ -3,7 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <fstream>
+#include <stdexcept>
 
+#include "core/store/error.h"
 #include "support/temp_folder.h"
 
 namespace tallymere {
@@ -44,6 +46,27 @@ TEST(WholeFile, NothingStaysAsideButWhatWasHandedOn) {
   }
   EXPECT_TRUE(fs::exists(kept));
   EXPECT_EQ(std::distance(fs::directory_iterator(folder.path()), fs::directory_iterator()), 1);
+}
+
+TEST(WholeFile, ADocumentIsWrittenOverAnotherOnlyWhenItIsWhole) {
+  const testing::TempFolder folder;
+  const fs::path report = folder / "report.csv", link = folder / "latest.csv";
+  Write_Whole(report, [](std::ostream& out) { out << "old"; });
+  fs::create_symlink(report, link);
+  EXPECT_THROW(Write_Whole(report,
+                           [](std::ostream& out) {
+                             out << "half";
+                             throw std::runtime_error("no more");
+                           }),
+               std::runtime_error);
+  EXPECT_EQ(content(report), "old");
+  Write_Whole(link, [](std::ostream& out) { out << "new"; });
+  EXPECT_EQ(content(report), "new");
+  EXPECT_TRUE(fs::is_symlink(link));
+  EXPECT_THROW(Write_Whole(folder / "no folder" / "a.csv", [](std::ostream& out) { out << "x"; }), store::Error);
+  Write_Whole("/dev/null", [](std::ostream& out) { out << "x"; });
+  EXPECT_TRUE(fs::is_character_file("/dev/null"));
+  EXPECT_EQ(std::distance(fs::directory_iterator(folder.path()), fs::directory_iterator()), 2);
 }
 
 }  // namespace

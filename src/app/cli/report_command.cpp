@@ -12,6 +12,7 @@
 #include "core/store/error.h"
 #include "core/text.h"
 #include "reports/renderers.h"
+#include "core/whole_file.h"
 #include "reports/report_file.h"
 #include "reports/reports.h"
 
@@ -111,9 +112,7 @@ void Write_Stream(const ReportTable& table, const std::string& out, Writer write
     if (!std::cout.flush()) throw std::runtime_error("the report could not be written");
     return;
   }
-  std::ofstream file(out, std::ios::binary);
-  write(table, file);
-  if (!file.flush()) throw std::runtime_error("'" + out + "' cannot be written");
+  Write_Whole(out, [&](std::ostream& file) { write(table, file); });
 }
 
 void Write_As(const ReportTable& table, const std::string& format, const std::string& out) {

@@ -200,4 +200,12 @@ QHBoxLayout* plain_button_row(std::initializer_list<QPushButton*> left,
   return buttons_in_row(left, right);
 }
 
+void lay_out_dialog(QWidget* dialog, QFormLayout* fields, std::initializer_list<QPushButton*> buttons) {
+  auto* column = column_layout(dialog);
+  column->addLayout(fields);
+  column->addStretch(1);
+  column->addSpacing(theme::gap);
+  column->addLayout(button_row({}, buttons));
+}
+
 }  // namespace tallymere

@@ -56,5 +56,7 @@ QHBoxLayout* button_row(std::initializer_list<QPushButton*> left, std::initializ
 /// The same with no default button (lists and reports, where Enter belongs to the grid).
 QHBoxLayout* plain_button_row(std::initializer_list<QPushButton*> left,
                               std::initializer_list<QPushButton*> right);
+/// A dialog of plain fields: these from the top, its buttons at the lower right, the last one the default.
+void lay_out_dialog(QWidget* dialog, QFormLayout* fields, std::initializer_list<QPushButton*> buttons);
 
 }  // namespace tallymere
