@@ -33,6 +33,7 @@ QLabel* heading_label(double size, bool bold) {
   auto* label = new QLabel;
   label->setTextFormat(Qt::PlainText);
   label->setAlignment(Qt::AlignHCenter);
+  label->setWordWrap(true);
   QFont font = label->font();
   font.setPointSizeF(font.pointSizeF() * size);
   font.setBold(bold);
@@ -106,6 +107,7 @@ QWidget* ReportForm::build_sheet() {
   grdPL->setFrameShape(QFrame::NoFrame);
   grdPL->setShowGrid(false);
   grdPL->set_multi_select(true);
+  grdPL->set_empty_hint(QStringLiteral("There is nothing to report for these dates."));
   grdPL->define_style("sBold", {.bold = true, .rule = true});
   grdPL->define_style("Bold", {.bold = true, .rule = true, .size = 14});
   auto* column = column_layout();
@@ -148,7 +150,9 @@ QVBoxLayout* ReportForm::build_buttons() {
 }
 
 void ReportForm::add_button(QPushButton* added) {
+  QWidget* before = buttons_->itemAt(extra_button_at_ - 1)->widget();
   buttons_->insertWidget(extra_button_at_++, added);
+  setTabOrder(before, added);
 }
 
 void ReportForm::connect_controls() {
@@ -174,9 +178,12 @@ void ReportForm::connect_controls() {
   on(copies, &QShortcut::activated, "grdPL_KeyDown", [this] { copy(); });
 }
 
+/// A report of many columns comes up as wide as they are, where the frame has that room.
 QSize ReportForm::sizeHint() const {
   if (const auto left = window_memory::size_of(objectName())) return *left;
-  return Form::sizeHint().expandedTo({120 * theme::unit, 76 * theme::unit});
+  const int wanted = grdPL->natural_width() + buttons_->sizeHint().width() + 7 * theme::unit;
+  return Form::sizeHint().expandedTo(
+      {std::clamp(wanted, 120 * theme::unit, 180 * theme::unit), 76 * theme::unit});
 }
 
 void ReportForm::show_instead_of_grid(QWidget* other) {
@@ -206,25 +213,25 @@ void ReportForm::load() {
 }
 
 void ReportForm::take(const Request& asked) {
-  if (!begin_report(asked)) return finish(false);
+  begin_report(asked);
   show_request();
   Load_Standard();
   grdPL->setFocus();
 }
 
-/// Asked for again under the same key, the window keeps its dates.
-bool ReportForm::begin_report(const Request& asked) {
+/// Asked for again under the same key, the window keeps its dates. Without any report it does not come up.
+void ReportForm::begin_report(const Request& asked) {
   const ReportDef* report = Find_Report(utf8(objectName()), asked.key);
-  if (!report)
+  if (!report) {
+    if (!report_) finish(false);
     throw store::Error(store::errors::no_such_field, "There is no report \"" + asked.key + "\" here.");
+  }
   if (report != report_ || asked.start || asked.end || !asked.columns.empty()) {
     report_ = report;
     request_ = Default_Request(session, report->key);
     hidden_.clear();
-    cmbDate->setCurrentText(QLatin1String(own_dates));
   }
   take_options(asked);
-  return true;
 }
 
 void ReportForm::take_options(const Request& asked) {
@@ -241,6 +248,7 @@ void ReportForm::take_options(const Request& asked) {
 void ReportForm::show_request() {
   dteStart->set_value(request_.from);
   dteEnd->set_value(request_.to);
+  show_preset();
   optBasis->button(static_cast<int>(request_.basis))->setChecked(true);
   const bool period = report_->start != ReportDef::Start::None;
   for (QWidget* control : std::initializer_list<QWidget*>{lblStart, dteStart, cmbDate})
@@ -255,12 +263,22 @@ void ReportForm::read_controls() {
   request_.basis = static_cast<Basis>(optBasis->checkedId());
 }
 
+/// Dates that are those of a preset show its name, however they came there.
+void ReportForm::show_preset() {
+  const DateRange shown{request_.from, request_.to};
+  const auto preset =
+      std::find_if(Date_Range_Names.begin(), Date_Range_Names.end(),
+                   [&](std::string_view name) { return Get_Date_Range(name, session.today()) == shown; });
+  cmbDate->setCurrentText(preset == Date_Range_Names.end() ? QLatin1String(own_dates)
+                                                           : qt(std::string(*preset)));
+}
+
 /// A date or the basis was changed: the report follows at once.
 void ReportForm::changed_by_user() {
-  if (report_->start != ReportDef::Start::None &&
-      (dteStart->value() != request_.from || dteEnd->value() != request_.to))
-    cmbDate->setCurrentText(QLatin1String(own_dates));
   read_controls();
+  if (report_->start != ReportDef::Start::None && request_.from > request_.to)
+    shell.say("The start date is after the end date: no day lies between them.");
+  show_preset();
   Load_Standard();
 }
 
@@ -278,6 +296,10 @@ void ReportForm::cmbDate_Click() {
 void ReportForm::Load_Standard() {
   if (building_) return;
   const QScopedValueRollback building(building_, true);
+  guard("Load_Standard", [this] { build(); });
+}
+
+void ReportForm::build() {
   const Hourglass hourglass(session.prompts);
   ReportTable built = Build_Report(session, request_);
   if (!hidden_.empty()) {
@@ -312,15 +334,17 @@ void ReportForm::show_table() {
   show_widths();
 }
 
-/// A long label runs on over the empty cells after it, as it does on paper.
+/// A label runs on over the empty cells after it, as it does on paper; beyond the first rows of a long list
+/// that is for heads and totals only.
 void ReportForm::show_labels() {
-  constexpr size_t short_label = 10;
   constexpr int most_rows = 20000;
   grdPL->clearSpans();
   const int label = Label_Column(table_);
-  for (int row = 0; row < std::min(table_.rows(), most_rows); ++row)
-    if (const int span = Label_Span(table_, row); span > 1 && table_.text(row, label).size() > short_label)
-      grdPL->setSpan(row, label, 1, span);
+  for (int row = 0; row < table_.rows(); ++row) {
+    const bool plain = table_.style(row).empty() || table_.style(row) == "Small";
+    if (row >= most_rows && plain) continue;
+    if (const int span = Label_Span(table_, row); span > 1) grdPL->setSpan(row, label, 1, span);
+  }
 }
 
 void ReportForm::show_heading() {

@@ -65,13 +65,15 @@ class ReportForm : public Form {
   void fit_sheet();
 
   // --- the request
-  bool begin_report(const Request& asked);
+  void begin_report(const Request& asked);
   void take_options(const Request& asked);
   void show_request();
+  void show_preset();
   void read_controls();
   void changed_by_user();
 
   // --- showing the table
+  void build();
   void show_table();
   void show_columns();
   void show_labels();

@@ -9,6 +9,7 @@
 #include "reports/frmSelectFields.h"
 #include "reports/renderers.h"
 #include "reports/report_paint.h"
+#include "reports/widest_texts.h"
 #include "shell/widgets/SSDBGrid.h"
 #include "shell/widgets/frmPreview.h"
 
@@ -43,7 +44,8 @@ void ReportForm::cmdLabel_AfterClick() {
   frmChangeTitle dialog(shell, utf8(Label6->text()));
   if (!shell.Run_Modal(dialog)) return;
   request_.title = dialog.title();
-  if (Is_Built_With_Title(utf8(objectName()))) return Load_Standard();
+  const bool own_again = request_.title.empty();
+  if (own_again || Is_Built_With_Title(utf8(objectName()))) return Load_Standard();
   table_.heading.title = request_.title;
   show_heading();
 }
@@ -63,18 +65,19 @@ void ReportForm::cmdGoto_AfterClick() {
                               .end = request->to});
 }
 
-/// Any report can do without some of its columns.
+/// Any report can do without some of its columns, but not without all, nor without what its rows are called.
 void ReportForm::cmdPick_AfterClick() {
   std::vector<FieldChoice> choices;
   const ReportTable whole = Build_Report(session, request_);
-  for (const ReportColumn& column : whole.columns)
-    if (!column.caption.empty())
-      choices.push_back({column.caption, column.caption, !hidden_.contains(column.caption)});
+  for (int at = Label_Column(whole) + 1; at < static_cast<int>(whole.columns.size()); ++at)
+    if (const std::string& caption = whole.columns[static_cast<size_t>(at)].caption; !caption.empty())
+      choices.push_back({caption, caption, !hidden_.contains(caption)});
   frmSelectFields dialog(shell, choices);
   if (!shell.Run_Modal(dialog)) return;
   hidden_.clear();
   for (const FieldChoice& choice : dialog.choices())
     if (!choice.selected) hidden_.insert(choice.caption);
+  if (hidden_.size() == choices.size()) hidden_.clear();
   Load_Standard();
 }
 

@@ -12,7 +12,7 @@ using Kind = ReportColumn::Kind;
 using store::FieldType;
 
 // What every query reads first.
-enum Fixed { group_column, TransNum_column, Type_column, Credit_column, first_field };
+enum Fixed { group_column, TransNum_column, Type_column, Amount_column, Credit_column, first_field };
 
 Kind Kind_Of(FieldType type) {
   switch (type) {
@@ -65,25 +65,30 @@ Custom_Rows::Custom_Rows(store::Database& db, ReportTable& table, const ReportRe
 }
 
 void Custom_Rows::read_columns(const std::string& list) {
-  const store::TableDef& ledger = *db_.find_table("Transactions");
   table_.columns = {{.kind = Kind::Margin, .width = 1}};
-  for (const std::string& name : list.empty() ? Pickable_Fields(db_) : Column_Names(list)) {
-    const std::string caption(Caption_Of_Field(name));
-    const bool is_balance = name == "Balance";
-    const store::Field* field = ledger.find(name);
-    if (!field && !is_balance) continue;  // a saved list may name what an older version had
-    const bool is_category = name == "Account" || name == "Category";
-    table_.columns.push_back({.caption = caption,
-                              .kind = is_balance ? Kind::Money : Kind_Of(field->type),
-                              .right = Is_Right(caption)});
-    Shows shows = is_balance         ? Shows::Balance
-                  : name == "Amount" ? Shows::Amount
-                  : is_category      ? Shows::CategoryName
-                                     : Shows::Field;
-    int at = first_field + static_cast<int>(columns_.size());
-    columns_.push_back({shows, at, is_balance ? FieldType::Money : field->type});
-    fields_ += is_balance ? ", NULL" : ", Transactions." + store::Quoted(field->name);
-  }
+  for (const std::string& name : Column_Names(list)) add_column(name);
+  if (!columns_.empty()) return;
+  for (const std::string& name : Pickable_Fields(db_)) add_column(name);
+}
+
+/// Nothing for a name the ledger has not: a saved list may come from another version.
+void Custom_Rows::add_column(const std::string& name) {
+  const bool is_balance = name == "Balance";
+  const store::Field* field = db_.find_table("Transactions")->find(name);
+  if (!field && !is_balance) return;
+  const std::string caption(Caption_Of_Field(name));
+  const bool is_category = name == "Account" || name == "Category";
+  table_.columns.push_back({.caption = caption,
+                            .kind = is_balance ? Kind::Money : Kind_Of(field->type),
+                            .right = Is_Right(caption)});
+  Shows shows = is_balance         ? Shows::Balance
+                : name == "Amount" ? Shows::Amount
+                : is_category      ? Shows::CategoryName
+                                   : Shows::Field;
+  int at = first_field + static_cast<int>(columns_.size());
+  shows_amount_ |= shows == Shows::Amount;
+  columns_.push_back({shows, at, is_balance ? FieldType::Money : field->type});
+  fields_ += is_balance ? ", NULL" : ", Transactions." + store::Quoted(field->name);
 }
 
 Money Custom_Rows::Signed_Amount(Money Amount, Money Credit) const {
@@ -95,8 +100,8 @@ void Custom_Rows::add_head(std::string_view name) {
 }
 
 std::string Custom_Rows::select(std::string_view group) const {
-  return "SELECT " + std::string(group) + ", Transactions.TransNum, Transactions.Type, Credit" + fields_ +
-         " FROM ";
+  return "SELECT " + std::string(group) + ", Transactions.TransNum, Transactions.Type, Amount, Credit" +
+         fields_ + " FROM ";
 }
 
 void Custom_Rows::Fill_Rows(std::string_view condition, const store::Database::Params& params,
@@ -127,20 +132,21 @@ void Custom_Rows::Fill_Groups(std::string_view field, const std::vector<std::str
 void Custom_Rows::add_row(const store::Row& row) {
   auto line = table_.add_row("Small", {row.text(Type_column), row.integer(TransNum_column)});
   line.skip();
-  for (const Column& column : columns_) add_cell(line, column, row);
+  const Money amount = Signed_Amount(row.money(Amount_column), row.money(Credit_column));
+  if (!shows_amount_) total_ += amount;  // a balance is no less right without the amounts beside it
+  for (const Column& column : columns_) add_cell(line, column, row, amount);
 }
 
-void Custom_Rows::add_cell(ReportTable::Line& line, const Column& column, const store::Row& row) {
+void Custom_Rows::add_cell(ReportTable::Line& line, const Column& column, const store::Row& row,
+                           Money amount) {
   switch (column.shows) {
     case Shows::Balance:
       line.money(total_);
       return;
-    case Shows::Amount: {
-      Money amount = Signed_Amount(row.money(column.at), row.money(Credit_column));
+    case Shows::Amount:
       total_ += amount;
       line.money(amount);
       return;
-    }
     case Shows::CategoryName:
       line.text(row.text(column.at) == break_down ? std::string(break_down)
                                                   : tree_.name(row.text(column.at)));

@@ -63,9 +63,16 @@ void frmSavedReps::show_menu() {
 
 std::optional<SavedReport> frmSavedReps::selected(const char* otherwise) {
   const int row = grdCustomers->Row();
-  if (row >= 0) return Find_Saved_Report(session, grdCustomers->value(row, KeyColumn).integer());
-  session.prompts.box({otherwise, "No Selection", Icon::Information});
-  return std::nullopt;
+  if (row < 0) {
+    session.prompts.box({otherwise, "No Selection", Icon::Information});
+    return std::nullopt;
+  }
+  const auto report = Find_Saved_Report(session, grdCustomers->value(row, KeyColumn).integer());
+  if (!report) {
+    fill();
+    shell.say("Another user has deleted this report.");
+  }
+  return report;
 }
 
 void frmSavedReps::chosen(const std::string& item) {

@@ -22,7 +22,7 @@ class frmSavedReps : public Form {
  private:
   void fill();
   void show_menu();
-  /// The report of the selected row; without one, this box.
+  /// The report of the selected row; without one, this box. Nothing, too, where another user deleted it.
   std::optional<SavedReport> selected(const char* otherwise);
   void chosen(const std::string& item);
   void mnuEditSaveRep_Click();

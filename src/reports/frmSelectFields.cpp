@@ -38,7 +38,6 @@ void frmSelectFields::load() {
     }
   }
   grdFields->select_rows(selected);
-  grdFields->scrollToTop();
 }
 
 void frmSelectFields::cmdOk_AfterClick() {

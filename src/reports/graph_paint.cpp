@@ -79,7 +79,9 @@ class Graph {
   void fit_spans(qreal room) {
     for (const int months : span_sizes)
       for (const Graph_Scale scale : {Graph_Scale::Full, Graph_Scale::Thousands, Graph_Scale::Millions}) {
-        spans_ = Graph_Spans(graph_, months);
+        auto spans = Graph_Spans(graph_, months);
+        if (!Suits(spans, scale)) continue;
+        spans_ = std::move(spans);
         amounts_ = scale;
         if (needed() <= room / static_cast<qreal>(std::max<size_t>(spans_.size(), 1))) return;
       }
@@ -92,7 +94,7 @@ class Graph {
       for (const Money amount : {span.income, span.expense, span.income - span.expense})
         most = std::max(most, QFontMetricsF(bold_).horizontalAdvance(qt(Graph_Text(amount, amounts_))));
     }
-    return most + line_ * 0.7;
+    return most + line_ * 0.5;
   }
 
   void scale_to(const QRectF& plot) {
@@ -251,9 +253,8 @@ void Graph_Pages::paint(QPainter& painter, int) const {
   const Graph_Colors colors = Graph_Colors::on_paper();
   QRectF room(900, 720, size().width() - 1800, size().height() - 1620);
   const auto write = [&](const Print_Fonts::Look& look, const std::string& text, const QColor& color) {
-    painter.setFont(look.font);
     painter.setPen(color);
-    painter.drawText(room, Qt::AlignHCenter | Qt::AlignTop, qt(text));
+    Write_Line(painter, room, Qt::AlignHCenter | Qt::AlignTop, look, qt(text));
     room.setTop(room.top() + look.row_height());
   };
   write(fonts.title(), graph_.heading.title, colors.ink);

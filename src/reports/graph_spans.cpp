@@ -1,5 +1,6 @@
 #include "reports/graph_spans.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "core/format.h"
@@ -21,6 +22,10 @@ std::string Label_Of(int first_month, int months) {
   return std::to_string(year) + "-" + last.substr(last.size() - 2);
 }
 
+double Unit_Of(Graph_Scale scale) {
+  return scale == Graph_Scale::Thousands ? 1e3 : 1e6;
+}
+
 }  // namespace
 
 std::vector<Graph_Span> Graph_Spans(const PL_Graph& graph, int months) {
@@ -39,8 +44,15 @@ std::vector<Graph_Span> Graph_Spans(const PL_Graph& graph, int months) {
 std::string Graph_Text(Money amount, Graph_Scale scale) {
   if (scale == Graph_Scale::Full) return Format(amount, "#,##0");
   if (amount.is_zero()) return "0";
-  const bool thousands = scale == Graph_Scale::Thousands;
-  return Format(amount.to_double() / (thousands ? 1e3 : 1e6), "#,##0.0") + (thousands ? "k" : "M");
+  return Format(amount.to_double() / Unit_Of(scale), "#,##0.0") +
+         (scale == Graph_Scale::Thousands ? "k" : "M");
+}
+
+bool Suits(const std::vector<Graph_Span>& spans, Graph_Scale scale) {
+  if (scale == Graph_Scale::Full) return true;
+  return std::any_of(spans.begin(), spans.end(), [&](const Graph_Span& span) {
+    return std::max(std::abs(span.income.to_double()), std::abs(span.expense.to_double())) >= Unit_Of(scale);
+  });
 }
 
 double Graph_Step(double low, double high, int steps) {

@@ -21,6 +21,8 @@ std::vector<Graph_Span> Graph_Spans(const PL_Graph& graph, int months);
 /// How amounts are written: in full without cents, in thousands or in millions.
 enum class Graph_Scale { Full, Thousands, Millions };
 std::string Graph_Text(Money amount, Graph_Scale scale);
+/// Whether the figures say anything on that scale: small ones are all "0.0M" in millions.
+bool Suits(const std::vector<Graph_Span>& spans, Graph_Scale scale);
 
 /// Steps for an axis from `low` to `high` (low <= 0 <= high): 1, 2 or 5 times a power of ten, about `steps`.
 double Graph_Step(double low, double high, int steps);

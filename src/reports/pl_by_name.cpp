@@ -86,7 +86,7 @@ class Details {
   void start(const std::string& name) {
     finish();
     name_ = &name;
-    table_.add_row("", RowKey{*name_}).skip().text(*name_);
+    table_.add_row("sBold", RowKey{*name_}).skip().text(*name_);
   }
 
   /// Type, Date, Number, Memo, Account, Category, Amount, Debit, Credit, Paid from column 1 on.
@@ -111,7 +111,7 @@ class Details {
 
   void finish() {
     if (!name_) return;
-    table_.add_row("", RowKey{*name_}).skip().text(*name_).skip(5).money(total_);
+    table_.add_row("sBold", RowKey{*name_}).skip().text(*name_).skip(5).money(total_);
     table_.add_spacer();
     total_ = {};
     name_ = nullptr;

@@ -10,8 +10,9 @@ size_t Month_At(const PL_Graph& graph, Date day) {
 }
 
 void Add_Months(PL_Graph& graph, const ReportRequest& request) {
-  for (Date month = request.from.first_of_month(); month <= request.to; month = month.add_months(1))
-    graph.months.push_back({month, {}, {}});
+  const Date first = request.from.first_of_month();
+  for (int month = 0; month <= months_between(first, request.to); ++month)  // up to the last there is
+    graph.months.push_back({first.add_months(month), {}, {}});
 }
 
 void Add_Income(PL_Graph& graph, store::Database& db, const CategoryTree& tree,

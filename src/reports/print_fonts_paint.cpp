@@ -1,6 +1,8 @@
 #include "reports/print_fonts_paint.h"
 
 #include <QFontDatabase>
+#include <QPainter>
+#include <algorithm>
 
 #include "shell/widgets/theme.h"
 
@@ -57,6 +59,18 @@ Print_Fonts::Print_Fonts(qreal scale) {
 const Print_Fonts::Look& Print_Fonts::of(std::string_view style) const {
   const auto found = looks_.find(style);
   return found == looks_.end() ? looks_.find("")->second : found->second;
+}
+
+void Write_Line(QPainter& painter, const QRectF& line, int align, const Print_Fonts::Look& look,
+                const QString& text) {
+  constexpr qreal smallest = 0.6;
+  QFont font = look.font;
+  const qreal needed = look.metrics.horizontalAdvance(text);
+  if (needed > line.width())
+    font.setPixelSize(static_cast<int>(font.pixelSize() * std::max(line.width() / needed, smallest)));
+  painter.setFont(font);
+  painter.drawText(line, align | Qt::TextSingleLine,
+                   QFontMetricsF(font).elidedText(text, Qt::ElideRight, line.width()));
 }
 
 }  // namespace tallymere

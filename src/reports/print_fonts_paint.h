@@ -2,9 +2,12 @@
 
 #include <QFont>
 #include <QFontMetricsF>
+#include <QRectF>
 #include <map>
 #include <string>
 #include <string_view>
+
+class QPainter;
 
 namespace tallymere {
 
@@ -32,5 +35,9 @@ class Print_Fonts {
  private:
   std::map<std::string, Look, std::less<>> looks_;
 };
+
+/// One line of text, smaller where it is long, and cut with dots where even that does not do.
+void Write_Line(QPainter& painter, const QRectF& line, int align, const Print_Fonts::Look& look,
+                const QString& text);
 
 }  // namespace tallymere

@@ -57,8 +57,7 @@ Report_Pages::Report_Pages(const ReportTable& table, const QPageLayout& page)
       fonts_(columns_.scale) {
   label_column_ = Label_Column(table);
   is_list_ = columns_.panels.front().size() > 4;
-  for (int row = table.rows() - 1; row >= 0 && grand_total_ < 0; --row)
-    if (!table.is_spacer(row)) grand_total_ = is_total(row) ? row : table.rows();
+  if (table.rows() > 0 && is_total(table.rows() - 1)) grand_total_ = table.rows() - 1;
   heads_height_ = heads_height();
   find_decimals();
   part_into_pages();
@@ -205,7 +204,7 @@ void Report_Pages::paint_heading(QPainter& painter, bool first_page) const {
   const auto write = [&](const Print_Fonts::Look& look, const QString& text, const QColor& color) {
     line.setHeight(look.row_height());
     Use(painter, look, color);
-    painter.drawText(line, Qt::AlignHCenter | Qt::AlignTop, text);
+    Write_Line(painter, line, Qt::AlignHCenter | Qt::AlignTop, look, text);
     line.translate(0, line.height());
   };
   if (!first_page)

@@ -68,11 +68,12 @@ void Save_Report(Session& session, SavedReport& report) {
   store::Transaction tx(db,
                         (report.key ? "Saved report changed: " : "New saved report: ") + report.ReportName);
   auto rows = db.OpenRecordset("SELECT * FROM SavedReports WHERE RowKey = ?", {report.key});
-  report.key ? rows.Edit() : rows.AddNew();
+  const bool there = !rows.empty();  // not any more, where another user deleted it: it is added again
+  there ? rows.Edit() : rows.AddNew();
   Write(rows, report);
   rows.Update();
   tx.commit();
-  if (!report.key) report.key = rows.last_added();
+  if (!there) report.key = rows.last_added();
 }
 
 void Delete_Saved_Report(Session& session, const SavedReport& report) {

@@ -26,7 +26,7 @@ std::vector<SavedReport> Saved_Reports(Session& session);  ///< by name
 std::optional<SavedReport> Find_Saved_Report(Session& session, int64_t key);
 
 std::optional<Fault> Check_Saved_Report(const SavedReport& report);
-/// Adds it, or changes the record it came from, and gives a new one its key.
+/// Changes the record it came from; without one adds it and gives it its key.
 void Save_Report(Session& session, SavedReport& report);
 void Delete_Saved_Report(Session& session, const SavedReport& report);
 

@@ -6,6 +6,7 @@
 #include <QPushButton>
 #include <QStatusBar>
 #include <QToolButton>
+#include <algorithm>
 
 #include "core/store/error.h"
 #include "entry/document.h"
@@ -25,6 +26,22 @@ namespace {
 /// Windows that belong to the frame itself and need no company.
 bool is_own(const std::string& name) {
   return name == "frmStart" || name == "frmCreate";
+}
+
+/// Windows that may stand several times share this many places.
+constexpr ptrdiff_t window_places = 51;
+constexpr std::string_view stand_several_times[] = {"frmPrintCustom", "frmRegister"};
+
+bool stands_several_times(const Form* form) {
+  return std::find(std::begin(stand_several_times), std::end(stand_several_times),
+                   utf8(form->objectName())) != std::end(stand_several_times);
+}
+
+/// Whole in the room there is.
+void fit_in(QMdiSubWindow& frame, QSize wanted, QSize room) {
+  frame.resize(wanted.boundedTo(room));
+  frame.move(std::min(frame.x(), room.width() - frame.width()),
+             std::min(frame.y(), room.height() - frame.height()));
 }
 
 QMdiSubWindow* frame_of(const Form& form) {
@@ -114,6 +131,12 @@ Form* frmMain::Show_Window(const Request& request) {
   }
   if (!is_own(request.window) && !session.dbCompany)
     throw store::Error(store::errors::file_not_found, "No company is open.");
+  if (request.new_instance &&
+      std::count_if(forms_.begin(), forms_.end(), stands_several_times) >= window_places) {
+    session.prompts.box({"There are 51 reports and registers open. Please close one of them first.",
+                         "Too Many Windows", Icon::Information});
+    return nullptr;
+  }
   Hourglass hourglass(session.prompts);
   Form* form = request.new_instance ? nullptr : find_window(request.window);
   if (!form) form = open_form(request.window);
@@ -161,9 +184,10 @@ void frmMain::bring_up(Form& form) {
     return form.activateWindow();
   }
   const bool fresh = !frame->isVisible();
+  const QSize wanted = frame->sizeHint();  // as large as it wants to be now that it knows what it shows
   form.show();
   frame->isMinimized() ? frame->showNormal() : frame->show();
-  if (fresh && !frame->isMaximized()) frame->resize(frame->size().boundedTo(mdi_->viewport()->size()));
+  if (fresh && !frame->isMaximized()) fit_in(*frame, wanted, mdi_->viewport()->size());
   mdi_->setActiveSubWindow(frame);
 }
 

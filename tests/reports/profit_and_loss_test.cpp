@@ -181,6 +181,11 @@ TEST(ProfitAndLoss, GraphAgreesWithTheReport) {
   EXPECT_EQ(graph.expenses[0].AccountName + graph.expenses[1].AccountName + graph.expenses[2].AccountName,
             "RentGoodsOther");
   EXPECT_EQ(graph.expenses[2].amount, D(3));
+  const auto months_of = [&](Date from, Date to) {
+    return Build_PL_Graph(*books.session, books.request("PL", from, to)).months.size();
+  };
+  EXPECT_EQ(months_of(Date(9999, 11, 30), Date(9999, 12, 31)), 2u) << "no month follows the last";
+  EXPECT_EQ(months_of(may, new_year), 0u) << "dates the wrong way round";
 }
 
 // --- cash basis

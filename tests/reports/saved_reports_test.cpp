@@ -24,6 +24,8 @@ TEST(SavedReports, AnotherReportOfTheSameNameIsItsOwn) {
   ASSERT_EQ(Saved_Reports(*books.session).size(), 1u);
   EXPECT_EQ(Saved_Reports(*books.session)[0].Item, "E2");
   EXPECT_FALSE(Find_Saved_Report(*books.session, first.key));
+  Save_Report(*books.session, first);  // another user deleted it while it was being changed
+  EXPECT_EQ(Find_Saved_Report(*books.session, first.key)->Item, "E1");
 }
 
 TEST(SavedReports, ShowsWhatItWasSavedFromOnTheDayItIsShown) {

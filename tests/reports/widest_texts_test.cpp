@@ -82,6 +82,9 @@ TEST(GraphSpans, AxisStepsAndAmountsReadEasily) {
   EXPECT_EQ(Graph_Text(D(-12345), Graph_Scale::Full), "-12,345");
   EXPECT_EQ(Graph_Text(D(-12345), Graph_Scale::Thousands), "-12.3k");
   EXPECT_EQ(Graph_Text(D(12345678), Graph_Scale::Millions), "12.3M");
+  const std::vector<Graph_Span> small = {{"Jan", 2026, D(61000), D(0)}};
+  EXPECT_TRUE(Suits(small, Graph_Scale::Thousands));
+  EXPECT_FALSE(Suits(small, Graph_Scale::Millions)) << "that would be 0.1M";
 }
 
 TEST(GraphSpans, SmallExpensesGoTogetherWithoutLoss) {

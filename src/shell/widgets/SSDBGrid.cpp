@@ -130,6 +130,8 @@ void SSDBGrid::share_widths() {
 void SSDBGrid::set_natural_widths(std::vector<int> natural, std::vector<int> least) {
   natural_ = std::move(natural);
   natural_least_ = std::move(least);
+  for (std::vector<int>* widths : {&natural_, &natural_least_})  // as the head makes them anyway
+    for (int& width : *widths) width = std::max(width, header_->minimumSectionSize());
   spread_widths();
 }
 
@@ -325,8 +327,8 @@ std::vector<int> SSDBGrid::selected_rows() const {
 void SSDBGrid::select_rows(const std::vector<int>& chosen) {
   const QScopedValueRollback code(by_code_, true);
   clearSelection();
-  for (const int row : chosen)
-    selectionModel()->setCurrentIndex(model_->index(row, 0),
+  for (auto row = chosen.rbegin(); row != chosen.rend(); ++row)  // the first comes last: it is in view
+    selectionModel()->setCurrentIndex(model_->index(*row, 0),
                                       QItemSelectionModel::Select | QItemSelectionModel::Rows);
 }
 

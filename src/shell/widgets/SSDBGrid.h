@@ -163,6 +163,7 @@ class SSDBGrid : public QTableView {
   bool leave_row();
   bool is_stop(int row, int column) const;  ///< a cell that Enter and Tab stop at
   QModelIndex next_cell(const QModelIndex& from, int step) const;
+  bool light_row();
   bool enter_pressed();  ///< on to the next cell; in a list, what a double click does
   void remove_selected();
   void settle_modes();

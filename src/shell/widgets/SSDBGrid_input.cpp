@@ -155,11 +155,15 @@ QModelIndex SSDBGrid::moveCursor(CursorAction action, Qt::KeyboardModifiers modi
   if (!model_->read_only &&
       (action == QAbstractItemView::MoveNext || action == QAbstractItemView::MovePrevious))
     return next_cell(currentIndex(), action == QAbstractItemView::MoveNext ? 1 : -1);
-  const QModelIndex here = currentIndex();
-  const bool unlit = selects_rows() && here.isValid() && !selectionModel()->isRowSelected(here.row(), {});
-  if (unlit && (action == MoveDown || action == MoveUp))
-    return here;  // the first arrow key lights the row it is on
   return QTableView::moveCursor(action, modifiers);
+}
+
+/// The first arrow key lights the row it is on, where none is lit.
+bool SSDBGrid::light_row() {
+  const QModelIndex here = currentIndex();
+  if (!selects_rows() || !here.isValid() || !selected_rows().empty()) return false;
+  selectionModel()->select(here, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+  return true;
 }
 
 bool SSDBGrid::focusNextPrevChild(bool next) {
@@ -214,6 +218,10 @@ void SSDBGrid::keyPressEvent(QKeyEvent* event) {
       break;
     case Qt::Key_Down:
       if ((event->modifiers() & Qt::AltModifier) && open_list(here)) return;
+      if (plain && light_row()) return;
+      break;
+    case Qt::Key_Up:
+      if (plain && light_row()) return;
       break;
     default:
       break;
