@@ -12,7 +12,7 @@ using Kind = ReportColumn::Kind;
 using store::FieldType;
 
 // What every query reads first.
-enum Fixed { group_column, TransNum_column, Type_column, Amount_column, Credit_column, first_field };
+enum Fixed { group_column, TransNum_column, Type_column, Credit_column, first_field };
 
 Kind Kind_Of(FieldType type) {
   switch (type) {
@@ -86,7 +86,6 @@ void Custom_Rows::add_column(const std::string& name) {
                 : is_category      ? Shows::CategoryName
                                    : Shows::Field;
   int at = first_field + static_cast<int>(columns_.size());
-  shows_amount_ |= shows == Shows::Amount;
   columns_.push_back({shows, at, is_balance ? FieldType::Money : field->type});
   fields_ += is_balance ? ", NULL" : ", Transactions." + store::Quoted(field->name);
 }
@@ -100,8 +99,8 @@ void Custom_Rows::add_head(std::string_view name) {
 }
 
 std::string Custom_Rows::select(std::string_view group) const {
-  return "SELECT " + std::string(group) + ", Transactions.TransNum, Transactions.Type, Amount, Credit" +
-         fields_ + " FROM ";
+  return "SELECT " + std::string(group) + ", Transactions.TransNum, Transactions.Type, Credit" + fields_ +
+         " FROM ";
 }
 
 void Custom_Rows::Fill_Rows(std::string_view condition, const store::Database::Params& params,
@@ -132,21 +131,20 @@ void Custom_Rows::Fill_Groups(std::string_view field, const std::vector<std::str
 void Custom_Rows::add_row(const store::Row& row) {
   auto line = table_.add_row("Small", {row.text(Type_column), row.integer(TransNum_column)});
   line.skip();
-  const Money amount = Signed_Amount(row.money(Amount_column), row.money(Credit_column));
-  if (!shows_amount_) total_ += amount;  // a balance is no less right without the amounts beside it
-  for (const Column& column : columns_) add_cell(line, column, row, amount);
+  for (const Column& column : columns_) add_cell(line, column, row);
 }
 
-void Custom_Rows::add_cell(ReportTable::Line& line, const Column& column, const store::Row& row,
-                           Money amount) {
+void Custom_Rows::add_cell(ReportTable::Line& line, const Column& column, const store::Row& row) {
   switch (column.shows) {
     case Shows::Balance:
       line.money(total_);
       return;
-    case Shows::Amount:
+    case Shows::Amount: {
+      Money amount = Signed_Amount(row.money(column.at), row.money(Credit_column));
       total_ += amount;
       line.money(amount);
       return;
+    }
     case Shows::CategoryName:
       line.text(row.text(column.at) == break_down ? std::string(break_down)
                                                   : tree_.name(row.text(column.at)));

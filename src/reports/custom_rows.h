@@ -36,7 +36,7 @@ class Custom_Rows {
   void read_columns(const std::string& list);  ///< without a known one: all fields
   void add_column(const std::string& name);
   void add_row(const store::Row& row);
-  void add_cell(ReportTable::Line& line, const Column& column, const store::Row& row, Money amount);
+  void add_cell(ReportTable::Line& line, const Column& column, const store::Row& row);
   std::string select(std::string_view first_columns) const;
 
   store::Database& db_;
@@ -45,7 +45,6 @@ class Custom_Rows {
   CategoryTree tree_;
   std::vector<Column> columns_;
   std::string fields_;  ///< the query's columns after the fixed ones
-  bool shows_amount_ = false;
   bool credit_positive_ = false;
   Money total_;
 };

@@ -30,8 +30,16 @@ void frmPrintPL2::take(const Request& asked) {
 }
 
 void frmPrintPL2::cmdGraph_AfterClick() {
-  after_load();
+  const bool wanted = cmdGraph->isChecked();
+  cmdGraph->setChecked(false);  // until there is one
+  if (wanted) draw_graph();
+  cmdGraph->setChecked(wanted);
   show_chosen();
+}
+
+void frmPrintPL2::draw_graph() {
+  graph_ = Build_PL_Graph(session, report_request());
+  sheet_->update();
 }
 
 void frmPrintPL2::show_chosen() {
@@ -41,9 +49,7 @@ void frmPrintPL2::show_chosen() {
 /// Only a graph that is on show is reckoned.
 void frmPrintPL2::after_load() {
   idle_.start(0);
-  if (!cmdGraph->isChecked()) return;
-  graph_ = Build_PL_Graph(session, report_request());
-  sheet_->update();
+  if (cmdGraph->isChecked()) draw_graph();
 }
 
 Lay_Out frmPrintPL2::pages_to_print() {

@@ -26,6 +26,7 @@ class frmPrintPL2 : public ReportForm {
 
  private:
   void cmdGraph_AfterClick();
+  void draw_graph();
   void show_chosen();
   void read_ahead();
 

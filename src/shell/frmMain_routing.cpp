@@ -28,15 +28,6 @@ bool is_own(const std::string& name) {
   return name == "frmStart" || name == "frmCreate";
 }
 
-/// Windows that may stand several times share this many places.
-constexpr ptrdiff_t window_places = 51;
-constexpr std::string_view stand_several_times[] = {"frmPrintCustom", "frmRegister"};
-
-bool stands_several_times(const Form* form) {
-  return std::find(std::begin(stand_several_times), std::end(stand_several_times),
-                   utf8(form->objectName())) != std::end(stand_several_times);
-}
-
 /// Whole in the room there is.
 void fit_in(QMdiSubWindow& frame, QSize wanted, QSize room) {
   frame.resize(wanted.boundedTo(room));
@@ -131,12 +122,6 @@ Form* frmMain::Show_Window(const Request& request) {
   }
   if (!is_own(request.window) && !session.dbCompany)
     throw store::Error(store::errors::file_not_found, "No company is open.");
-  if (request.new_instance &&
-      std::count_if(forms_.begin(), forms_.end(), stands_several_times) >= window_places) {
-    session.prompts.box({"There are 51 reports and registers open. Please close one of them first.",
-                         "Too Many Windows", Icon::Information});
-    return nullptr;
-  }
   Hourglass hourglass(session.prompts);
   Form* form = request.new_instance ? nullptr : find_window(request.window);
   if (!form) form = open_form(request.window);
