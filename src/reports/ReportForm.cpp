@@ -381,6 +381,8 @@ void ReportForm::show_columns() {
 
 /// Texts give way where room is short, amounts never.
 void ReportForm::show_widths() {
+  const std::vector<int> decimals = Most_Decimals(table_);
+  grdPL->set_decimals(decimals);
   std::map<std::string, QFontMetrics> looks;
   const auto width_of = [&](const StyledText& text) {
     QFont font = theme::tabular(grdPL->font());
@@ -396,6 +398,7 @@ void ReportForm::show_widths() {
     int width = head;
     for (const StyledText& text : texts[column])
       width = std::max(width, std::min(width_of(text), widest_column));
+    width += (decimals[column] - 2) * width_of({"0", ""});
     const bool margin = how.kind == ReportColumn::Kind::Margin;
     const bool gives_way = how.kind == ReportColumn::Kind::Text && column > 1;
     natural.push_back(margin ? 2 * theme::unit : width + 3 * theme::unit);

@@ -43,23 +43,15 @@ int Wrapping(const QFontMetricsF& metrics, const QString& text, qreal room) {
   return Qt::TextWordWrap;
 }
 
-int Decimals(Money amount) {
-  const auto fraction = std::abs(amount.units() % 10000);
-  return fraction % 100 == 0 ? 2 : fraction % 10 == 0 ? 3 : 4;
-}
-
 }  // namespace
 
 Report_Pages::Report_Pages(const ReportTable& table, const QPageLayout& page)
-    : Pages(page),
-      table_(table),
-      columns_(Fit_Columns(table, Room_On(page))),
-      fonts_(columns_.scale) {
+    : Pages(page), table_(table), columns_(Fit_Columns(table, Room_On(page))), fonts_(columns_.scale) {
   label_column_ = Label_Column(table);
   is_list_ = columns_.panels.front().size() > 4;
   if (table.rows() > 0 && is_total(table.rows() - 1)) grand_total_ = table.rows() - 1;
   heads_height_ = heads_height();
-  find_decimals();
+  decimals_ = Most_Decimals(table_);
   part_into_pages();
 }
 
@@ -117,15 +109,6 @@ qreal Report_Pages::row_height(int row) const {
 qreal Report_Pages::lead(int row) const {
   const bool apart = row == 0 || table_.is_spacer(row - 1) || !is_head(row);
   return apart ? 0 : fonts_.of(table_.style(row)).row_height() * 0.5;
-}
-
-void Report_Pages::find_decimals() {
-  decimals_.assign(table_.columns.size(), 2);
-  for (int row = 0; row < table_.rows(); ++row)
-    for (size_t column = 0; column < decimals_.size(); ++column)
-      if (table_.columns[column].kind == Kind::Money && table_.columns[column].mask.empty())
-        decimals_[column] =
-            std::max(decimals_[column], Decimals(table_.value(row, static_cast<int>(column)).money()));
 }
 
 qreal Report_Pages::heading_height(bool first_page) const {

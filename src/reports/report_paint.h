@@ -11,8 +11,8 @@ class QPainter;
 namespace tallymere {
 
 /// A report as a typeset statement: its heading on the first page and a running head on the others, the
-/// column heads on every page, totals under a rule, basis and page numbers at the foot. The table must outlive
-/// it.
+/// column heads on every page, totals under a rule, basis and page numbers at the foot. The table must
+/// outlive it.
 class Report_Pages : public Pages {
  public:
   Report_Pages(const ReportTable& table, const QPageLayout& page);
@@ -33,7 +33,6 @@ class Report_Pages : public Pages {
   bool is_total(int row) const;
   qreal row_height(int row) const;
   qreal lead(int row) const;
-  void find_decimals();
   qreal beyond(int row, int column, const Print_Fonts::Look& look) const;
   qreal lines_of(int row, int column, qreal room) const;
   qreal room_of(const Panel& panel, size_t at, int row) const;

@@ -101,6 +101,22 @@ void Copy_Groups(const ReportTable& from, const std::vector<bool>& keep, ReportT
 
 }  // namespace
 
+int Decimals(Money amount) {
+  const auto fraction = std::abs(amount.units() % 10000);
+  return fraction % 100 == 0 ? 2 : fraction % 10 == 0 ? 3 : 4;
+}
+
+std::vector<int> Most_Decimals(const ReportTable& table) {
+  std::vector<int> most(table.columns.size(), 2);
+  for (size_t column = 0; column < most.size(); ++column) {
+    if (table.columns[column].kind != ReportColumn::Kind::Money || !table.columns[column].mask.empty())
+      continue;
+    for (int row = 0; row < table.rows() && most[column] < 4; ++row)
+      most[column] = std::max(most[column], Decimals(table.value(row, static_cast<int>(column)).money()));
+  }
+  return most;
+}
+
 int Label_Column(const ReportTable& table) {
   const auto label = std::find_if(table.columns.begin(), table.columns.end(), [](const ReportColumn& column) {
     return column.kind != ReportColumn::Kind::Margin;

@@ -84,6 +84,10 @@ void SSDBGrid::set_caption(int column, const std::string& caption) {
 void SSDBGrid::set_locked(int column, bool locked) {
   model_->column(column).locked = locked;
 }
+void SSDBGrid::set_decimals(const std::vector<int>& decimals) {
+  for (size_t at = 0; at < decimals.size(); ++at) model_->column(static_cast<int>(at)).decimals = decimals[at];
+}
+
 void SSDBGrid::show_column(int column, bool shown) {
   const QScopedValueRollback code(by_code_, true);
   setColumnHidden(column, !shown);

@@ -30,6 +30,7 @@ class SSDBGrid : public QTableView {
   void set_caption(int column, const std::string& caption);
   void set_locked(int column, bool locked);
   void show_column(int column, bool shown);
+  void set_decimals(const std::vector<int>& decimals);  ///< of each column, see GridColumn
   /// Widths as the captions and first rows need; columns of width 0 share what is left beyond that.
   void fit_columns(int rows_looked_at = 200);
   /// Widths in pixels as one knows them who knows the contents. Room beyond the natural ones goes to all in
