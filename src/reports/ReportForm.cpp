@@ -383,6 +383,7 @@ void ReportForm::show_columns() {
 void ReportForm::show_widths() {
   const std::vector<int> decimals = Most_Decimals(table_);
   grdPL->set_decimals(decimals);
+  grdPL->set_frozen_columns(Label_Column(table_) + 1);
   std::map<std::string, QFontMetrics> looks;
   const auto width_of = [&](const StyledText& text) {
     QFont font = theme::tabular(grdPL->font());

@@ -80,7 +80,7 @@ class Workbook {
     for (size_t at = 0; at < shown_.size(); ++at)
       write_text(at_, column_number(at), table_.columns[static_cast<size_t>(shown_[at])].caption,
                  format("sBold", "", is_right(shown_[at]) ? Align::Right : Align::Left));
-    worksheet_freeze_panes(sheet_, ++at_, 0);
+    worksheet_freeze_panes(sheet_, ++at_, shown_.size() > 6 ? 1 : 0);
     worksheet_repeat_rows(sheet_, table_.groups.empty() ? at_ - 1 : 0, at_ - 1);
     set_up_page();
   }

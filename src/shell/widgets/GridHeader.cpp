@@ -27,6 +27,17 @@ void GridHeader::set_groups(std::vector<GridGroup> groups) {
   viewport()->update();
 }
 
+void GridHeader::set_frozen(int columns) {
+  frozen_ = columns;
+  viewport()->update();
+}
+
+int GridHeader::frozen_edge() const {
+  if (offset() == 0 || frozen_ == 0 || frozen_ >= count()) return 0;
+  const int edge = sectionPosition(frozen_);
+  return edge <= viewport()->width() / 2 ? edge : 0;  // the rest needs room, too
+}
+
 QFont GridHeader::head_font() const {
   QFont bold = font();
   bold.setWeight(QFont::DemiBold);
@@ -98,6 +109,10 @@ void GridHeader::paintEvent(QPaintEvent* event) {
   }
   QHeaderView::paintEvent(event);
   QPainter painter(viewport());
+  if (frozen_edge() > 0)
+    for (int column = 0; column < frozen_; ++column)
+      if (!isSectionHidden(column))
+        paintSection(&painter, {sectionPosition(column), 0, sectionSize(column), height()}, column);
   for (const GridGroup& group : groups_) paint_group(painter, group);
 }
 

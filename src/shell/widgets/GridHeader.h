@@ -19,6 +19,10 @@ class GridHeader : public QHeaderView {
   /// Room a column needs for its caption, in pixels.
   int width_for(int column) const;
 
+  void set_frozen(int columns);  ///< the first ones stay when the rest is scrolled sideways
+  int frozen() const { return frozen_; }
+  int frozen_edge() const;  ///< where they end; 0: nothing has moved below them
+
   QSize sizeHint() const override;
 
  protected:
@@ -32,6 +36,7 @@ class GridHeader : public QHeaderView {
   QFont head_font() const;
 
   std::vector<GridGroup> groups_;
+  int frozen_ = 0;
 };
 
 }  // namespace tallymere

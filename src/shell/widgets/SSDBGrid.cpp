@@ -1,6 +1,5 @@
 #include "shell/widgets/SSDBGrid.h"
 
-#include <QPainter>
 #include <QResizeEvent>
 #include <QScopedValueRollback>
 #include <QScrollBar>
@@ -32,6 +31,11 @@ SSDBGrid::SSDBGrid(QWidget* parent)
   changeEvent(nullptr);
   connect(header_, &QHeaderView::sectionResized, this, &SSDBGrid::dragged);
   connect(header_, &QHeaderView::sectionClicked, this, &SSDBGrid::sort_clicked);
+  connect(horizontalScrollBar(), &QScrollBar::valueChanged, this, [this] {
+    if (header_->frozen() == 0) return;
+    viewport()->update();
+    header_->viewport()->update();
+  });
 }
 
 SSDBGrid::~SSDBGrid() = default;
@@ -86,6 +90,11 @@ void SSDBGrid::set_locked(int column, bool locked) {
 }
 void SSDBGrid::set_decimals(const std::vector<int>& decimals) {
   for (size_t at = 0; at < decimals.size(); ++at) model_->column(static_cast<int>(at)).decimals = decimals[at];
+}
+
+void SSDBGrid::set_frozen_columns(int count) {
+  header_->set_frozen(count);
+  viewport()->update();
 }
 
 void SSDBGrid::show_column(int column, bool shown) {
@@ -439,16 +448,6 @@ void SSDBGrid::showEvent(QShowEvent* event) {
   if (qobject_cast<QStackedWidget*>(parentWidget()))
     setFrameShape(NoFrame);  // a tab's page has an edge already
   QTableView::showEvent(event);
-}
-
-void SSDBGrid::paintEvent(QPaintEvent* event) {
-  QTableView::paintEvent(event);
-  if (rows() > 0 || hint_.isEmpty()) return;
-  QPainter painter(viewport());
-  painter.setPen(theme::quiet_text());
-  const int top = model_->has_new_line() ? verticalHeader()->defaultSectionSize() : 0;
-  painter.drawText(viewport()->rect().adjusted(2 * theme::unit, top, -2 * theme::unit, 0),
-                   Qt::AlignCenter | Qt::TextWordWrap, hint_);
 }
 
 void SSDBGrid::resizeEvent(QResizeEvent* event) {

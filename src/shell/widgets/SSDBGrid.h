@@ -30,6 +30,7 @@ class SSDBGrid : public QTableView {
   void set_caption(int column, const std::string& caption);
   void set_locked(int column, bool locked);
   void show_column(int column, bool shown);
+  void set_frozen_columns(int count);  ///< the first ones stay in view when the grid is scrolled sideways
   void set_decimals(const std::vector<int>& decimals);  ///< of each column, see GridColumn
   /// Widths as the captions and first rows need; columns of width 0 share what is left beyond that.
   void fit_columns(int rows_looked_at = 200);
@@ -123,6 +124,7 @@ class SSDBGrid : public QTableView {
   GridModel& cells() { return *model_; }
   bool selects_rows() const { return selectionBehavior() == SelectRows; }
   QSize sizeHint() const override;
+  void scrollTo(const QModelIndex& cell, ScrollHint hint = EnsureVisible) override;
 
  Q_SIGNALS:
   void RowColChange(int last_row, int last_column);  ///< the current cell moved
@@ -176,6 +178,8 @@ class SSDBGrid : public QTableView {
   void dragged(int column, int before, int now);
   int last_shown() const;
   void sort_clicked(int column);
+  void paint_frozen_columns();
+  void paint_frozen(QPainter& painter, int row, int column);
   void go_to(int row, int column);  ///< by code: no RowColChange
 
   GridModel* model_;
