@@ -18,7 +18,11 @@ struct Payment {
 /// spares looking at all others.
 class Payments {
  public:
-  Payments(store::Database& db, DateRange days) : db_(db), days_(days) {
+  Payments(store::Database& db, DateRange days)
+      : first_row_(
+            db.query("SELECT Date, Amount FROM Transactions WHERE TransNum = ? ORDER BY RowKey LIMIT 1",
+                     {int64_t{0}})),
+        days_(days) {
     auto oldest = db.value("SELECT MIN(Date) FROM Transactions").maybe_date();
     auto newest = db.value("SELECT MAX(Date) FROM Transactions").maybe_date();
     all_in_period_ = !oldest || (*oldest >= days.start && *newest <= days.end);
@@ -49,18 +53,15 @@ class Payments {
 
   /// The first row of that transaction when it is dated in the period.
   std::optional<Payment> find(int64_t number) {
-    std::optional<Payment> found;
-    if (!may_be_in_period(number)) return found;
-    db_.each("SELECT Date, Amount FROM Transactions WHERE TransNum = ? ORDER BY RowKey LIMIT 1", {number},
-             [&](const store::Row& row) {
-               auto date = row.date(0);
-               if (date && *date >= days_.start && *date <= days_.end) found = Payment{*date, row.money(1)};
-             });
-    return found;
+    if (!may_be_in_period(number) || !first_row_.again().bind(1, number).step()) return std::nullopt;
+    const store::Row row(first_row_);
+    const auto date = row.date(0);
+    if (!date || *date < days_.start || *date > days_.end) return std::nullopt;
+    return Payment{*date, row.money(1)};
   }
 
  private:
-  store::Database& db_;
+  store::Statement first_row_;
   DateRange days_;
   bool all_in_period_ = false;
   std::vector<int64_t> in_period_;  // sorted; small enough for any company
@@ -115,13 +116,14 @@ class PaidRows {
   }
 
   void add(const store::Row& row) {
-    if (row.text(0) != PaidBy_) {
+    if (const std::string_view PaidBy = row.text(0); PaidBy != PaidBy_) {
       finish();
-      PaidBy_ = row.text(0);
+      PaidBy_ = PaidBy;
     }
-    if (same_text(row.text(1), accounts_receivable))
+    const std::string_view Account = row.text(1);
+    if (same_text(Account, accounts_receivable))
       receivables_.try_emplace(row.integer(2), row.money(4));
-    else if (auto place = places_.find(row.text(1)))
+    else if (auto place = places_.find(Account))
       rows_.push_back({*place, row.integer(2), row.integer(3) != 0, row.money(4)});
   }
 

@@ -113,6 +113,11 @@ Statement& Statement::bind_bytes(int position, std::string_view bytes) {
   return *this;
 }
 
+Statement& Statement::again() {
+  sqlite3_reset(slot_->handle);
+  return *this;
+}
+
 bool Statement::step() {
   int code = sqlite3_step(slot_->handle);
   if (code == SQLITE_ROW) return true;

@@ -30,6 +30,7 @@ class Statement {
   Statement& bind(int position, const Value& value);  ///< positions count from 1
   Statement& bind_all(const std::vector<Value>& values);
   Statement& bind_bytes(int position, std::string_view bytes);
+  Statement& again();  ///< back before its first step, to be run with other values
   bool step();         ///< true when on a row
   int64_t run();       ///< steps to the end; the number of rows changed
   int parameter_count() const;
