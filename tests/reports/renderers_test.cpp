@@ -136,6 +136,11 @@ TEST(Xlsx, GroupsStandInTheFirstRowCaptionsInTheSecondAndTheHeadingOnEveryPage) 
                         "&amp;CProfit &amp;&amp; Loss   Acme   2026<", "&amp;LCash basis&amp;R"})
     EXPECT_NE(sheet.find(expected), std::string::npos) << expected << " in " << sheet;
   EXPECT_NE(sheet_of(Motley()).find("<mergeCell ref=\"C1:D1\"/>"), std::string::npos);
+
+  plain.heading.title = "Profit And Loss Previous Year Comparioson";
+  EXPECT_NE(sheet_of(plain).find(">&amp;C" + plain.heading.title + "   Acme   2026<"), std::string::npos);
+  plain.heading.company = std::string(500, '&');
+  EXPECT_NE(sheet_of(plain).find("&amp;&amp;   2026<"), std::string::npos) << "shortened, it is not left out";
 }
 
 TEST(Xlsx, WhereItCannotBeWrittenNothingIsLeft) {
