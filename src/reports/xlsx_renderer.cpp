@@ -58,12 +58,15 @@ std::string Page_Header(const ReportHeading& heading, size_t longest) {
 class Workbook {
  public:
   Workbook(const ReportTable& table, const fs::path& file) : table_(table) {
+    for (int column = 0; column < static_cast<int>(table_.columns.size()); ++column)
+      if (table_.columns[static_cast<size_t>(column)].kind != Kind::Margin) shown_.push_back(column);
+    if (shown_.size() > LXW_COL_MAX)
+      throw store::Error(store::errors::conversion, "A spreadsheet has no room for more than " +
+                                                        std::to_string(LXW_COL_MAX) + " columns.");
     lxw_workbook_options options{};
     options.constant_memory = LXW_TRUE;  // rows go to disk as they come
     book_ = workbook_new_opt(file.c_str(), &options);
     if (!book_) throw store::Error(store::errors::disk_full, "The workbook could not be begun.");
-    for (int column = 0; column < static_cast<int>(table_.columns.size()); ++column)
-      if (table_.columns[static_cast<size_t>(column)].kind != Kind::Margin) shown_.push_back(column);
   }
 
   void write() {

@@ -149,6 +149,10 @@ TEST(Xlsx, WhereItCannotBeWrittenNothingIsLeft) {
   std::filesystem::create_directory(folder.path() / "taken.xlsx");
   EXPECT_THROW(Write_Xlsx(Motley(), folder.path() / "taken.xlsx"), store::Error);
   EXPECT_FALSE(std::filesystem::exists(folder.path() / "taken.xlsx.new"));
+  ReportTable wide;
+  wide.columns.resize(16385);  // a spreadsheet ends one column before; none is left out unsaid
+  EXPECT_THROW(Write_Xlsx(wide, folder.path() / "wide.xlsx"), store::Error);
+  EXPECT_FALSE(std::filesystem::exists(folder.path() / "wide.xlsx"));
 }
 
 TEST(ReportTable, KeepsValuesTextsAndLooksApart) {
