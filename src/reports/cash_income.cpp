@@ -75,7 +75,16 @@ struct PaidRow {
   Money Amount;
 };
 
-/// Rows with one and the same PaidBy. They come together, an invoice's receivable row among them.
+// An invoice's lines may post to AR1 too, and its first row may bear another PaidBy than they. So a row of
+// AR1 that is not the first of its transaction brings the Amount of the first one of AR1.
+constexpr std::string_view is_later_receivable =
+    "Account = 'AR1' AND RowKey > (SELECT MIN(RowKey) FROM Transactions AS head"
+    " WHERE head.TransNum = Transactions.TransNum)";
+constexpr std::string_view first_receivable =
+    "SELECT Amount FROM Transactions AS head WHERE head.TransNum = Transactions.TransNum AND Account = 'AR1'"
+    " ORDER BY RowKey LIMIT 1";
+
+/// Rows with one and the same PaidBy. They come together, mostly with the invoice's receivable row.
 class PaidRows {
  public:
   PaidRows(store::Database& db, const CatIDs& categories, DateRange days, const TakeAmount& take)
@@ -92,10 +101,13 @@ class PaidRows {
   }
 
  private:
+  static inline const std::string columns = "SELECT PaidBy, Account, TransNum, Credit, CASE WHEN " +
+                                            std::string(is_later_receivable) + " THEN (" +
+                                            std::string(first_receivable) + ") ELSE Amount END";
+
   void read_rows(const std::string& before, const std::string& where, const std::string& order,
                  const store::Database::Params& params) {
-    db_.each("SELECT PaidBy, Account, TransNum, Credit, Amount FROM" + before +
-                 " Transactions INDEXED BY Transactions_PaidBy" + where +
+    db_.each(columns + " FROM" + before + " Transactions INDEXED BY Transactions_PaidBy" + where +
                  " AND (Paid <> 0 OR Transactions.Type = 'Invoice')" + order,
              params, [this](const store::Row& row) { add(row); });
   }

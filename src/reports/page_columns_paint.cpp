@@ -17,6 +17,7 @@ constexpr qreal widest_text = 3600;    ///< beyond it texts wrap
 constexpr qreal widest_label = 5200;   ///< the same for the first column
 constexpr qreal narrowest_text = 900;  ///< a text column is not squeezed below it
 constexpr qreal longest_word = 2400;
+constexpr qreal word_slack = 1.1;  ///< which word is the widest was found without a font
 constexpr qreal widest_caption = 1300;
 constexpr qreal smallest_print = 0.78;
 constexpr qreal most_spread = 1.35;
@@ -53,7 +54,7 @@ class Measure {
   }
 
   qreal natural_of(size_t column) const {
-    qreal width = caption_width(column);
+    qreal width = std::max(caption_width(column), is_text(column) ? word_width(column) : 0);
     for (const StyledText& text : texts_[column])
       width = std::max(width, fonts_.of(text.style).metrics.horizontalAdvance(qt(text.text)));
     width += 2 * Page_Columns::pad + 20;
@@ -62,12 +63,14 @@ class Measure {
   }
   /// Texts wrap between words; only a word beyond all measure is broken.
   qreal least_of(size_t column) const {
+    const qreal width = std::max(word_width(column), caption_width(column)) + 2 * Page_Columns::pad + 20;
+    return std::min(natural[column], std::max(width, narrowest_text));
+  }
+  qreal word_width(size_t column) const {
     qreal width = 0;
     for (const StyledText& text : texts_[column])
       width = std::max(width, fonts_.of(text.style).metrics.horizontalAdvance(qt(text.word)));
-    width *= 1.15;  // one of fewer letters may be wider
-    width = std::max(std::min(width, longest_word), caption_width(column)) + 2 * Page_Columns::pad + 20;
-    return std::min(natural[column], std::max(width, narrowest_text));
+    return std::min(width * word_slack, longest_word);
   }
   /// A long caption of several words may stand in two lines.
   qreal caption_width(size_t column) const {

@@ -38,9 +38,15 @@ void Use(QPainter& painter, const Print_Fonts::Look& look, const QColor& color) 
 
 /// Between words, and within one only where it is too long for the room.
 int Wrapping(const QFontMetricsF& metrics, const QString& text, qreal room) {
-  for (const QString& word : text.split(QLatin1Char(' ')))
+  for (const QString& word : text.simplified().split(QLatin1Char(' ')))
     if (metrics.horizontalAdvance(word) > room) return Qt::TextWrapAnywhere;
   return Qt::TextWordWrap;
+}
+
+bool Is_One_Line(const QFontMetricsF& metrics, const QString& text, qreal room) {
+  if (text.contains(QLatin1Char('\n'))) return false;
+  const bool is_short = static_cast<qreal>(text.size()) * metrics.horizontalAdvance(QLatin1Char('W')) <= room;
+  return is_short || metrics.horizontalAdvance(text) <= room;
 }
 
 }  // namespace
@@ -88,8 +94,7 @@ qreal Report_Pages::lines_of(int row, int column, qreal room) const {
   if (table_.columns[static_cast<size_t>(column)].kind != Kind::Text) return 1;
   const QString text = qt(table_.for_the_eye(row, column));
   const QFontMetricsF& metrics = fonts_.of(table_.style(row, column)).metrics;
-  if (static_cast<qreal>(text.size()) * metrics.horizontalAdvance(QLatin1Char('W')) <= room) return 1;
-  if (metrics.horizontalAdvance(text) <= room) return 1;
+  if (Is_One_Line(metrics, text, room)) return 1;
   const qreal height =
       metrics.boundingRect(QRectF(0, 0, room, 1e6), Wrapping(metrics, text, room), text).height();
   return std::clamp(std::round(height / metrics.lineSpacing()), 1.0, qreal{most_lines});
@@ -270,7 +275,7 @@ void Report_Pages::paint_cell(QPainter& painter, const QRectF& cell, qreal width
   if (!how.right) room.setWidth(width_of_room);
   const qreal width = look.metrics.horizontalAdvance(text);
   const qreal baseline = cell.top() + look.metrics.lineSpacing() * 0.12 + look.metrics.ascent();
-  if (how.kind == Kind::Text && width > room.width())
+  if (how.kind == Kind::Text && !Is_One_Line(look.metrics, text, room.width()))
     painter.drawText(room.adjusted(0, look.metrics.lineSpacing() * 0.12, 0, 0),
                      Qt::AlignLeft | Wrapping(look.metrics, text, room.width()), text);
   else

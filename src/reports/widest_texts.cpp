@@ -1,6 +1,7 @@
 #include "reports/widest_texts.h"
 
 #include <algorithm>
+#include <array>
 #include <map>
 
 namespace tallymere {
@@ -8,9 +9,32 @@ namespace {
 
 constexpr int last_rows = 60;
 
+/// In tenths of a capital's height, for each byte: about what common sans-serif faces have.
+constexpr auto letter_widths = [] {
+  std::array<unsigned char, 256> widths{};
+  for (size_t byte = 0; byte < 256; ++byte)
+    widths[byte] = byte < 0x80 || (byte >= 0xC0 && byte < 0xE0) ? 6 : byte < 0xC0 ? 0 : 10;
+  auto set = [&](std::string_view letters, unsigned char width) {
+    for (char letter : letters) widths[static_cast<unsigned char>(letter)] = width;
+  };
+  set("ABCDEFGHKLNOPQRSTUVXYZ&", 7);
+  set("mwMW@%", 9);
+  set(" ijlIJ.,:;'!|/\\", 3);
+  set("frt()[]{}-\"", 4);
+  return widths;
+}();
+
+/// Which of two texts is the wider one cannot be told from how many letters they have.
+int Rough_Width(std::string_view text) {
+  int width = 0;
+  for (char byte : text) width += letter_widths[static_cast<unsigned char>(byte)];
+  return width;
+}
+
 /// What is widest in one column and one look so far. Amounts are compared by size and formatted at the end.
 struct Widest {
   std::string text, word;
+  int text_width = 0, word_width = 0;
   int largest = -1, smallest = -1;  ///< rows
   Money most, least;
 };
@@ -49,13 +73,19 @@ class Search {
     if (widest.smallest < 0 || amount < widest.least) widest.least = amount, widest.smallest = row;
   }
   static void take(Widest& widest, std::string text) {
-    if (text.size() > widest.word.size()) take_words(widest, text);
-    if (text.size() > widest.text.size()) widest.text = std::move(text);
+    const int width = Rough_Width(text);
+    if (width > widest.word_width) take_words(widest, text);
+    if (width <= widest.text_width) return;
+    widest.text = std::move(text);
+    widest.text_width = width;
   }
   static void take_words(Widest& widest, std::string_view text) {
     while (!text.empty()) {
-      const size_t end = std::min(text.find(' '), text.size());
-      if (end > widest.word.size()) widest.word = text.substr(0, end);
+      const size_t end = std::min(text.find_first_of(" \r\n"), text.size());
+      if (const int width = Rough_Width(text.substr(0, end)); width > widest.word_width) {
+        widest.word = text.substr(0, end);
+        widest.word_width = width;
+      }
       text.remove_prefix(std::min(end + 1, text.size()));
     }
   }

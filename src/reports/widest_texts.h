@@ -11,10 +11,10 @@ namespace tallymere {
 struct StyledText {
   std::string text;
   std::string style;
-  std::string word = {};  ///< the longest one in that look, not always of that text; empty for amounts
+  std::string word = {};  ///< the widest one in that look, not always of that text; empty for amounts
 };
 
-/// What a renderer measures to find how wide each column must be: for every column and look the longest text
+/// What a renderer measures to find how wide each column must be: for every column and look the widest text
 /// and the amounts with the most digits. Labels that run over empty cells need no room in their own column.
 /// At most about `rows_looked_at` rows are read, the last ones among them, since totals stand there; 0 reads
 /// all.

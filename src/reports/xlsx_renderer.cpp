@@ -17,9 +17,9 @@ using Kind = ReportColumn::Kind;
 
 constexpr lxw_row_t rows_of_a_sheet = LXW_ROW_MAX;
 constexpr int measured_rows = 300;
-constexpr size_t longest_text = 32767;      // of a cell, in characters
-constexpr size_t longest_header_text = 40;  // three of them, were each letter an "&", fit into a header's 255
-constexpr double heading_height = 60;       // points: three lines of 14
+constexpr size_t longest_text = 32767;  // of a cell, in characters
+constexpr size_t longest_header = 255;  // of a page
+constexpr double heading_height = 60;   // points: three lines of 14
 constexpr std::string_view plain_money = "#,##0.00##";
 constexpr std::string_view plain_date = "m/d/yyyy";
 
@@ -47,15 +47,26 @@ std::string_view Cut(std::string_view text, size_t longest) {
   return text.substr(0, end);
 }
 
+/// For each text at most so many bytes; an "&" is written twice.
+std::string Page_Header(const ReportHeading& heading, size_t longest) {
+  std::string header = "&C";
+  for (const std::string& text : {heading.title, heading.company, heading.period})
+    header += (header.size() > 2 ? "   " : "") + replace_all(Cut(text, longest), "&", "&&");
+  return header;
+}
+
 class Workbook {
  public:
   Workbook(const ReportTable& table, const fs::path& file) : table_(table) {
+    for (int column = 0; column < static_cast<int>(table_.columns.size()); ++column)
+      if (table_.columns[static_cast<size_t>(column)].kind != Kind::Margin) shown_.push_back(column);
+    if (shown_.size() > LXW_COL_MAX)
+      throw store::Error(store::errors::conversion, "A spreadsheet has no room for more than " +
+                                                        std::to_string(LXW_COL_MAX) + " columns.");
     lxw_workbook_options options{};
     options.constant_memory = LXW_TRUE;  // rows go to disk as they come
     book_ = workbook_new_opt(file.c_str(), &options);
     if (!book_) throw store::Error(store::errors::disk_full, "The workbook could not be begun.");
-    for (int column = 0; column < static_cast<int>(table_.columns.size()); ++column)
-      if (table_.columns[static_cast<size_t>(column)].kind != Kind::Margin) shown_.push_back(column);
   }
 
   void write() {
@@ -113,12 +124,10 @@ class Workbook {
   }
 
   void set_up_page() {
-    const ReportHeading& heading = table_.heading;
-    std::string header = "&C";
-    for (const std::string& text : {heading.title, heading.company, heading.period})
-      header += (header.size() > 2 ? "   " : "") + replace_all(Cut(text, longest_header_text), "&", "&&");
-    worksheet_set_header(sheet_, header.c_str());
-    worksheet_set_footer(sheet_, ("&L" + heading.basis + "&RPage &P of &N").c_str());
+    size_t longest = 80;
+    while (Page_Header(table_.heading, longest).size() > longest_header) longest /= 2;
+    worksheet_set_header(sheet_, Page_Header(table_.heading, longest).c_str());
+    worksheet_set_footer(sheet_, ("&L" + table_.heading.basis + "&RPage &P of &N").c_str());
     worksheet_fit_to_pages(sheet_, 1, 0);
     if (shown_.size() > 6) worksheet_set_landscape(sheet_);
   }

@@ -67,6 +67,12 @@ TEST(Paint, LongWideAndEmptyTablesFindTheirPages) {
   EXPECT_EQ(painter.pages_of(Table(1, 1, std::string(20000, 'x'))), 1);  // taller than a page, but it ends
 }
 
+TEST(Paint, ALineBreakInATextIsOneOnPaperToo) {
+  Painter painter;
+  const int joined = painter.pages_of(Table(400, 1, "Oak, IL"));
+  EXPECT_GT(painter.pages_of(Table(400, 1, "Oak\r\nIL")), joined * 3 / 2);
+}
+
 TEST(Paint, RefusesWhatItCannotReadOrWriteAndLeavesNothing) {
   Painter painter;
   painter.hand_over("tallymere-report 1\nheading\tA\tB\tC\n");

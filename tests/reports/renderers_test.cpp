@@ -136,6 +136,11 @@ TEST(Xlsx, GroupsStandInTheFirstRowCaptionsInTheSecondAndTheHeadingOnEveryPage) 
                         "&amp;CProfit &amp;&amp; Loss   Acme   2026<", "&amp;LCash basis&amp;R"})
     EXPECT_NE(sheet.find(expected), std::string::npos) << expected << " in " << sheet;
   EXPECT_NE(sheet_of(Motley()).find("<mergeCell ref=\"C1:D1\"/>"), std::string::npos);
+
+  plain.heading.title = "Profit And Loss Previous Year Comparioson";
+  EXPECT_NE(sheet_of(plain).find(">&amp;C" + plain.heading.title + "   Acme   2026<"), std::string::npos);
+  plain.heading.company = std::string(500, '&');
+  EXPECT_NE(sheet_of(plain).find("&amp;&amp;   2026<"), std::string::npos) << "shortened, it is not left out";
 }
 
 TEST(Xlsx, WhereItCannotBeWrittenNothingIsLeft) {
@@ -144,6 +149,10 @@ TEST(Xlsx, WhereItCannotBeWrittenNothingIsLeft) {
   std::filesystem::create_directory(folder.path() / "taken.xlsx");
   EXPECT_THROW(Write_Xlsx(Motley(), folder.path() / "taken.xlsx"), store::Error);
   EXPECT_FALSE(std::filesystem::exists(folder.path() / "taken.xlsx.new"));
+  ReportTable wide;
+  wide.columns.resize(16385);  // a spreadsheet ends one column before; none is left out unsaid
+  EXPECT_THROW(Write_Xlsx(wide, folder.path() / "wide.xlsx"), store::Error);
+  EXPECT_FALSE(std::filesystem::exists(folder.path() / "wide.xlsx"));
 }
 
 TEST(ReportTable, KeepsValuesTextsAndLooksApart) {

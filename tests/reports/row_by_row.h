@@ -110,9 +110,11 @@ struct RowByRow {
         for (const std::string& number : numbers) {
           const Posting* payment = first_row(number);
           if (!payment || payment->day < start || payment->day > end) continue;
-          Money receivable;
-          for (const Posting& other : rows)
-            if (other.TransNum == row.TransNum && other.Account == "AR1") receivable = amount_of(other);
+          auto of_receivable = [&](const Posting& other) {
+            return other.TransNum == row.TransNum && other.Account == "AR1";
+          };
+          auto head = std::find_if(rows.begin(), rows.end(), of_receivable);
+          Money receivable = head == rows.end() ? Money() : amount_of(*head);
           Money share = amount_of(row);
           if (receivable > amount_of(*payment) && !receivable.is_zero())
             share = share.share(amount_of(*payment), receivable);

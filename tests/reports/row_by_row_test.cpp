@@ -58,11 +58,9 @@ class Random_Ledger {
     head.Name = any(names);
     head.Paid = chance(50);
     head.PaidBy = paid_by(numbers);
-    bool has_receivable = false;
     for (int at = 1 + pick(4); at > 0; --at) {
       Posting row = head;
-      row.Account = any(ledger.accounts).CatID;
-      if (row.Account == "AR1" && std::exchange(has_receivable, true)) continue;
+      row.Account = chance(20) ? "AR1" : any(ledger.accounts).CatID;
       Money amount = Money::from_units(pick(3) * 10000 + pick(40000));
       (chance(50) ? row.Debit : row.Credit) = amount;
       if (chance(5)) row.Debit = row.Credit = amount;

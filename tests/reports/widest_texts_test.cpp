@@ -43,6 +43,17 @@ TEST(WidestTexts, LabelsRunOnAndTotalsAtTheEndCount) {
   EXPECT_EQ(Label_Span(table, 2), 2);
 }
 
+TEST(WidestTexts, LettersWeighDifferentlyAndALineEndsAWord) {
+  ReportTable table;
+  table.columns = {{.caption = "Type"}, {.caption = "Class"}, {.caption = "Address"}};
+  table.add_row().text("Deposit").text("Design/Build").text("Elm Street 1\r\nRockford");
+  table.add_row().text("Payment").text("Maintenance").text("Oak\r\nIL");
+  const auto widest = Widest_Texts(table);
+  EXPECT_EQ(Texts(widest[0]), std::vector<std::string>{":Payment:Payment"});
+  EXPECT_EQ(Texts(widest[1]), std::vector<std::string>{":Maintenance:Maintenance"});
+  EXPECT_EQ(widest[2].front().word, "Rockford");
+}
+
 TEST(WidestTexts, PickingColumnsKeepsRowsKeysAndGroups) {
   ReportTable table = Statement(1);
   table.set_cell_style(2, 3, "Underline");
