@@ -28,6 +28,8 @@ constexpr ReadingIndex reading[] = {
     // the bills that a check paid, when it is shown, printed or deleted; income by the day it was paid
     {"Transactions_PaidBy", "Transactions", "PaidBy, Account, TransNum, Credit, Amount, Type, Paid",
      "PaidBy IS NOT NULL"},
+    // what an invoice comes to: the first of its rows on AR1, as the rows were written
+    {"Transactions_Receivable", "Transactions", "TransNum, RowKey, Amount", "Account = 'AR1'"},
     // income of a period, when the invoice had been paid in part before
     {"Transactions_PaidByMore", "Transactions", "PaidBy", not_one_payment},
 };

@@ -1,7 +1,9 @@
 #include <algorithm>
+#include <utility>
 
 #include "core/ledger.h"
 #include "core/schema.h"
+#include "reports/income_shares.h"
 #include "reports/kept_ledger.h"
 #include "reports/ledger_sums.h"
 
@@ -9,175 +11,128 @@
 namespace tallymere {
 namespace {
 
-struct Payment {
-  Date date;
-  Money Amount;
-};
-
-/// The payments of a period. Unless it holds the whole ledger, which numbers may lie in it is read once: that
-/// spares looking at all others.
-class Payments {
+/// The numbers of the transactions dated in a period, unless that holds the whole ledger: they spare looking
+/// at what others paid.
+class Period {
  public:
-  Payments(store::Database& db, DateRange days)
-      : first_row_(
-            db.query("SELECT Date, Amount FROM Transactions WHERE TransNum = ? ORDER BY RowKey LIMIT 1",
-                     {int64_t{0}})),
-        days_(days) {
+  Period(store::Database& db, DateRange days) {
     auto oldest = db.value("SELECT MIN(Date) FROM Transactions").maybe_date();
     auto newest = db.value("SELECT MAX(Date) FROM Transactions").maybe_date();
-    all_in_period_ = !oldest || (*oldest >= days.start && *newest <= days.end);
-    if (all_in_period_) return;
+    is_whole_ledger_ = !oldest || (*oldest >= days.start && *newest <= days.end);
+    if (is_whole_ledger_) return;
     db.each(
         "SELECT TransNum FROM Transactions INDEXED BY Transactions_Date WHERE Date >= ? AND Date <= ?"
         " GROUP BY Date, TransNum",
-        {days.start, days.end}, [&](const store::Row& row) { in_period_.push_back(row.integer(0)); });
-    std::sort(in_period_.begin(), in_period_.end());
-    in_period_.erase(std::unique(in_period_.begin(), in_period_.end()), in_period_.end());
+        {days.start, days.end}, [&](const store::Row& row) { numbers_.push_back(row.integer(0)); });
+    std::sort(numbers_.begin(), numbers_.end());
+    numbers_.erase(std::unique(numbers_.begin(), numbers_.end()), numbers_.end());
   }
 
-  bool all_in_period() const { return all_in_period_; }
-  bool may_be_in_period(int64_t number) const {
-    return all_in_period_ || std::binary_search(in_period_.begin(), in_period_.end(), number);
-  }
-  /// For json_each: lists of the numbers in the period, each of a bearable length.
-  std::vector<std::string> lists_in_period() const {
-    constexpr size_t longest = 10000;
-    std::vector<std::string> lists;
-    for (size_t at = 0; at < in_period_.size(); ++at) {
-      if (at % longest == 0) lists.emplace_back("[");
-      lists.back() += std::to_string(in_period_[at]) + ",";
-    }
-    for (std::string& list : lists) list.back() = ']';
-    return lists;
-  }
-
-  /// The first row of that transaction when it is dated in the period.
-  std::optional<Payment> find(int64_t number) {
-    if (!may_be_in_period(number) || !first_row_.again().bind(1, number).step()) return std::nullopt;
-    const store::Row row(first_row_);
-    const auto date = row.date(0);
-    if (!date || *date < days_.start || *date > days_.end) return std::nullopt;
-    return Payment{*date, row.money(1)};
-  }
+  bool is_whole_ledger() const { return is_whole_ledger_; }
+  const std::vector<int64_t>& numbers() const { return numbers_; }
+  bool holds(int64_t number) const { return std::binary_search(numbers_.begin(), numbers_.end(), number); }
 
  private:
-  store::Statement first_row_;
-  DateRange days_;
-  bool all_in_period_ = false;
-  std::vector<int64_t> in_period_;  // sorted; small enough for any company
+  bool is_whole_ledger_ = false;
+  std::vector<int64_t> numbers_;  // sorted; small enough for any company
 };
 
-/// An income row that names the transactions which paid it.
-struct PaidRow {
-  size_t category;
-  int64_t TransNum;
-  bool is_credit;
-  Money Amount;
-};
+/// Numbers as a parameter for json_each, in lists of a bearable length.
+template <typename Fn>
+void Each_List(const std::vector<int64_t>& numbers, Fn&& fn) {
+  constexpr size_t longest = 10000;
+  std::string list;
+  for (size_t at = 0; at < numbers.size(); ++at) {
+    list += (list.empty() ? "[" : ",") + std::to_string(numbers[at]);
+    if ((at + 1) % longest != 0 && at + 1 < numbers.size()) continue;
+    fn(std::exchange(list, {}) + "]");
+  }
+}
 
-// An invoice's lines may post to AR1 too, and its first row may bear another PaidBy than they. So a row of
-// AR1 that is not the first of its transaction brings the Amount of the first one of AR1.
-constexpr std::string_view is_later_receivable =
-    "Account = 'AR1' AND RowKey > (SELECT MIN(RowKey) FROM Transactions AS head"
-    " WHERE head.TransNum = Transactions.TransNum)";
-constexpr std::string_view first_receivable =
-    "SELECT Amount FROM Transactions AS head WHERE head.TransNum = Transactions.TransNum AND Account = 'AR1'"
-    " ORDER BY RowKey LIMIT 1";
-
-/// Rows with one and the same PaidBy. They come together, mostly with the invoice's receivable row.
+/// Rows that name a payment of a period, read in batches and shared out.
 class PaidRows {
  public:
   PaidRows(store::Database& db, const CatIDs& categories, DateRange days, const TakeAmount& take)
-      : db_(db), payments_(db, days), places_(categories), take_(take) {}
+      : db_(db), days_(days), places_(categories), take_(take) {}
 
-  /// Reads every row that names a payment of the period; payment by payment, unless that is the whole ledger.
   void read() {
-    if (payments_.all_in_period()) read_rows("", " WHERE PaidBy IS NOT NULL", " ORDER BY PaidBy", {});
-    for (const std::string& payments : payments_.lists_in_period())
-      read_rows(" json_each(?) AS payment CROSS JOIN",
-                " WHERE PaidBy >= payment.value || ';' AND PaidBy < payment.value || '<'", "", {payments});
-    if (!payments_.all_in_period()) read_several_times_paid();
-    finish();
+    const Period period(db_, days_);
+    if (period.is_whole_ledger()) {
+      read_rows("", " WHERE PaidBy IS NOT NULL", {});
+    } else {
+      Each_List(period.numbers(), [this](const std::string& payments) {
+        read_rows(" json_each(?) AS payment CROSS JOIN",
+                  " WHERE PaidBy >= payment.value || ';' AND PaidBy < payment.value || '<'", {payments});
+      });
+      read_several_times_paid(period);
+    }
+    share_out();
   }
 
  private:
-  static inline const std::string columns = "SELECT PaidBy, Account, TransNum, Credit, CASE WHEN " +
-                                            std::string(is_later_receivable) + " THEN (" +
-                                            std::string(first_receivable) + ") ELSE Amount END";
-
-  void read_rows(const std::string& before, const std::string& where, const std::string& order,
-                 const store::Database::Params& params) {
-    db_.each(columns + " FROM" + before + " Transactions INDEXED BY Transactions_PaidBy" + where +
-                 " AND (Paid <> 0 OR Transactions.Type = 'Invoice')" + order,
+  void read_rows(const std::string& before, const std::string& where, const store::Database::Params& params) {
+    db_.each("SELECT PaidBy, Account, TransNum, Credit, Amount FROM" + before +
+                 " Transactions INDEXED BY Transactions_PaidBy" + where +
+                 " AND (Paid <> 0 OR Transactions.Type = 'Invoice')",
              params, [this](const store::Row& row) { add(row); });
   }
 
   /// The rows whose first payment was not in the period, but a later one was.
-  void read_several_times_paid() {
+  void read_several_times_paid(const Period& period) {
     db_.each("SELECT DISTINCT PaidBy FROM Transactions INDEXED BY Transactions_PaidByMore WHERE " +
                  std::string(not_one_payment),
-             {}, [this](const store::Row& row) {
-               auto in_period = [this](int64_t number) { return payments_.may_be_in_period(number); };
+             {}, [&](const store::Row& row) {
                const auto numbers = Payments_Of(row.text(0));
+               auto in_period = [&](int64_t number) { return period.holds(number); };
                if (std::none_of(numbers.begin(), numbers.end(), in_period)) return;
                const bool known = in_period(numbers.front()) &&
                                   row.text(0).starts_with(std::to_string(numbers.front()) + ";");
-               if (known) return;
-               read_rows("", " WHERE PaidBy = ?", "", {row.text(0)});
+               if (!known) read_rows("", " WHERE PaidBy = ?", {row.text(0)});
              });
   }
 
   void add(const store::Row& row) {
-    if (const std::string_view PaidBy = row.text(0); PaidBy != PaidBy_) {
-      finish();
-      PaidBy_ = PaidBy;
-    }
-    const std::string_view Account = row.text(1);
-    if (same_text(Account, accounts_receivable))
-      receivables_.try_emplace(row.integer(2), row.money(4));
-    else if (auto place = places_.find(Account))
-      rows_.push_back({*place, row.integer(2), row.integer(3) != 0, row.money(4)});
+    constexpr size_t batch = 20000;
+    const auto place = places_.find(row.text(1));
+    if (!place) return;
+    if (shares_.size() >= batch) share_out();
+    shares_.add(*place, row.integer(2), row.text(0), row.integer(3) != 0, row.money(4));
   }
 
-  void finish() {
-    if (!rows_.empty())
-      for (int64_t number : Payments_Of(PaidBy_))
-        if (auto payment = payments_.find(number))
-          for (const PaidRow& row : rows_) take_share(row, *payment);
-    rows_.clear();
-    receivables_.clear();
+  void share_out() {
+    const HeadRows payments = read_heads(
+        shares_.payments(),
+        "SELECT wanted.value, Amount, Date FROM json_each(?) AS wanted CROSS JOIN Transactions ON"
+        " Transactions.RowKey = (SELECT RowKey FROM Transactions AS head WHERE head.TransNum = wanted.value"
+        " ORDER BY RowKey LIMIT 1)");
+    const HeadRows receivables =
+        read_heads(shares_.invoices(),
+                   "SELECT wanted.value, Amount, NULL FROM json_each(?) AS wanted CROSS JOIN Transactions"
+                   " INDEXED BY Transactions_Receivable WHERE TransNum = wanted.value AND Account = 'AR1'");
+    shares_.share_out(payments, receivables, [this](const DatedAmount& part) {
+      if (part.date >= days_.start && part.date <= days_.end) take_(part);
+    });
+    shares_.clear();
   }
 
-  void take_share(const PaidRow& row, const Payment& payment) {
-    Money share = Paid_Share(row.Amount, payment.Amount, receivable_of(row.TransNum));
-    take_({row.category, payment.date, row.is_credit ? share : -share});
-  }
-
-  /// The Amount of the invoice's receivable row; zero, so that the whole row counts, when it has none.
-  Money receivable_of(int64_t TransNum) {
-    auto known = receivables_.find(TransNum);
-    if (known != receivables_.end()) return known->second;
-    auto read = db_.value(
-        "SELECT Amount FROM Transactions WHERE TransNum = ? AND Account = ? ORDER BY RowKey LIMIT 1",
-        {TransNum, accounts_receivable});
-    return receivables_.emplace(TransNum, read.money()).first->second;
+  HeadRows read_heads(const std::vector<int64_t>& numbers, std::string_view sql) {
+    HeadRows heads;
+    Each_List(numbers, [&](const std::string& list) {
+      db_.each(sql, {list},
+               [&](const store::Row& row) { heads.add(row.integer(0), row.date(2), row.money(1)); });
+    });
+    heads.settle();
+    return heads;
   }
 
   store::Database& db_;
-  Payments payments_;
+  DateRange days_;
   CategoryPlaces places_;
   const TakeAmount& take_;
-  std::string PaidBy_;
-  std::vector<PaidRow> rows_;
-  std::map<int64_t, Money> receivables_;
+  IncomeShares shares_;
 };
 
 }  // namespace
-
-Money Paid_Share(Money Amount, Money payment, Money receivable) {
-  const bool in_part = receivable > payment && !receivable.is_zero();
-  return in_part ? Amount.share(payment, receivable) : Amount;
-}
 
 void Sum_CashIncome(store::Database& db, const CatIDs& categories, DateRange days, const TakeAmount& take) {
   if (auto* kept = KeptLedger::Of(db, categories)) return kept->Sum_CashIncome(categories, days, take);

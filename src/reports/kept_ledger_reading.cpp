@@ -1,7 +1,7 @@
 #include <algorithm>
-#include <span>
 
 #include "core/ledger.h"
+#include "reports/income_shares.h"
 #include "reports/kept_ledger.h"
 #include "reports/profit_and_loss.h"
 
@@ -17,21 +17,6 @@ enum Column { HiddenKey, TransNum, Type, Day, Name, Class, Account, Amount, Debi
 
 constexpr Date always(100, 1, 1), never(9999, 12, 31);
 
-/// Brings them into the order of their numbers and keeps the first row of each.
-template <typename T>
-void Keep_First_Rows(std::vector<T>& heads) {
-  std::stable_sort(heads.begin(), heads.end(), [](auto& a, auto& b) { return a.TransNum < b.TransNum; });
-  auto same = [](auto& a, auto& b) { return a.TransNum == b.TransNum; };
-  heads.erase(std::unique(heads.begin(), heads.end(), same), heads.end());
-}
-
-template <typename T>
-const T* Find(const std::vector<T>& heads, int64_t TransNum) {
-  auto found = std::lower_bound(heads.begin(), heads.end(), TransNum,
-                                [](const T& head, int64_t number) { return head.TransNum < number; });
-  return found == heads.end() || found->TransNum != TransNum ? nullptr : &*found;
-}
-
 }  // namespace
 
 /// Reads a company's ledger into its KeptLedger, a step at a time.
@@ -42,21 +27,9 @@ class LedgerReader {
   bool step();  ///< false when there is no more to do
 
  private:
-  struct Head {  ///< the first row of a transaction, or of its receivable
-    int64_t TransNum;
-    std::optional<Date> day;
-    Money Amount;
-  };
   struct PaidBill {
     size_t row;  ///< among the ledger's
     int64_t payment;
-  };
-  struct PaidIncome {
-    KeptLedger::TextId category;
-    int64_t TransNum;
-    bool is_credit;
-    Money Amount;
-    size_t payments, payment_count;  ///< part of payments_
   };
   /// Rows of one transaction mostly bear the same text: the last one and its id.
   struct LastText {
@@ -70,7 +43,6 @@ class LedgerReader {
   void add_income(const store::Row& row, std::optional<Date> day);
   void finish();
   void date_paid_bills();
-  void share_out_income();
   void sort_by_day();
   KeptLedger::TextId keep(LastText& last, const store::Row& row, int column);
 
@@ -78,12 +50,9 @@ class LedgerReader {
   store::ChangeStamp begun_at_;
   int64_t read_to_ = 0;  ///< hidden key
   KeptLedger ledger_;
-  std::vector<Head> transactions_, receivables_;
+  HeadRows transactions_, receivables_;
   std::vector<PaidBill> paid_bills_;
-  std::vector<PaidIncome> paid_income_;
-  std::vector<int64_t> payments_;
-  std::string PaidBy_;  ///< of the payments at the end of payments_
-  size_t paid_from_ = 0;
+  IncomeShares paid_income_;
   LastText Account_, Name_, Class_;
 };
 
@@ -129,11 +98,10 @@ void LedgerReader::read(const store::Row& row) {
   read_to_ = row.integer(HiddenKey);
   const int64_t number = row.integer(TransNum);
   const std::optional<Date> day = row.date(Day);
-  if (transactions_.empty() || transactions_.back().TransNum != number)
-    transactions_.push_back({number, day, row.money(Amount)});
+  transactions_.add(number, day, row.money(Amount));
   if (row.text(Account) != Account_.text)
     Account_ = {std::string(row.text(Account)), ledger_.id_of(row.text(Account))};
-  if (same_text(Account_.text, accounts_receivable)) receivables_.push_back({number, day, row.money(Amount)});
+  if (same_text(Account_.text, accounts_receivable)) receivables_.add(number, day, row.money(Amount));
   if (Account_.id == KeptLedger::no_text || Account_.id > ledger_.categories_) return;
   if (day) add_row(row, *day);
   add_income(row, day);
@@ -155,14 +123,7 @@ void LedgerReader::add_income(const store::Row& row, std::optional<Date> day) {
     if (day) ledger_.income_.push_back({*day, Account_.id, is_credit ? amount : -amount});
     return;
   }
-  if (row.text(PaidBy) != PaidBy_) {
-    PaidBy_ = row.text(PaidBy);
-    paid_from_ = payments_.size();
-    for (int64_t payment : Payments_Of(PaidBy_)) payments_.push_back(payment);
-  }
-  if (const size_t count = payments_.size() - paid_from_)
-    paid_income_.push_back(
-        {Account_.id, row.integer(TransNum), is_credit, row.money(Amount), paid_from_, count});
+  paid_income_.add(Account_.id, row.integer(TransNum), row.text(PaidBy), is_credit, row.money(Amount));
 }
 
 KeptLedger::TextId LedgerReader::keep(LastText& last, const store::Row& row, int column) {
@@ -176,10 +137,12 @@ KeptLedger::TextId LedgerReader::keep(LastText& last, const store::Row& row, int
 }
 
 void LedgerReader::finish() {
-  Keep_First_Rows(transactions_);
-  Keep_First_Rows(receivables_);
+  transactions_.settle();
+  receivables_.settle();
   date_paid_bills();
-  share_out_income();
+  paid_income_.share_out(transactions_, receivables_, [this](const DatedAmount& part) {
+    ledger_.income_.push_back({part.date, static_cast<KeptLedger::TextId>(part.category), part.amount});
+  });
   sort_by_day();
   ledger_.read_at_ = begun_at_;
   db_.kept<KeptLedger>() = std::move(ledger_);
@@ -187,21 +150,8 @@ void LedgerReader::finish() {
 
 void LedgerReader::date_paid_bills() {
   for (const PaidBill& bill : paid_bills_)
-    if (const Head* payment = Find(transactions_, bill.payment); payment && payment->day)
+    if (auto* payment = transactions_.find(bill.payment); payment && payment->day)
       ledger_.rows_[bill.row].counts_from = *payment->day;
-}
-
-void LedgerReader::share_out_income() {
-  for (const PaidIncome& income : paid_income_) {
-    const Head* receivable = Find(receivables_, income.TransNum);
-    for (int64_t number : std::span(payments_).subspan(income.payments, income.payment_count)) {
-      const Head* payment = Find(transactions_, number);
-      if (!payment || !payment->day) continue;
-      const Money share =
-          Paid_Share(income.Amount, payment->Amount, receivable ? receivable->Amount : Money());
-      ledger_.income_.push_back({*payment->day, income.category, income.is_credit ? share : -share});
-    }
-  }
 }
 
 void LedgerReader::sort_by_day() {

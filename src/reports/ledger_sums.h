@@ -46,10 +46,6 @@ ColumnFigures Sum_Category_By_Name(store::Database& db, const CatIDs& categories
 ColumnFigures Sum_Category_By_Class(store::Database& db, const CatIDs& categories, const SumRange& range,
                                     const std::vector<std::string>& classes);
 
-/// What an invoice's row counts when a payment comes in: its share of a payment that is less than the whole
-/// receivable, else all of it.
-Money Paid_Share(Money Amount, Money payment, Money receivable);
-
 /// Part of a category's figure, and the day it counts on.
 struct DatedAmount {
   size_t category;  ///< its place in the list of categories asked for

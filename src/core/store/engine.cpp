@@ -155,10 +155,10 @@ int64_t Statement::integer(int column) const { return sqlite3_column_int64(slot_
 double Statement::number(int column) const { return sqlite3_column_double(slot_->handle, column); }
 
 std::string_view Statement::text(int column) const {
+  // as bytes, a number too: asked for text, the engine would copy it to end it with a zero
   auto data = static_cast<const char*>(sqlite3_column_blob(slot_->handle, column));
-  if (!data) return {};
-  if (!is_text(column)) data = reinterpret_cast<const char*>(sqlite3_column_text(slot_->handle, column));
-  return {data, static_cast<size_t>(sqlite3_column_bytes(slot_->handle, column))};
+  return data ? std::string_view(data, static_cast<size_t>(sqlite3_column_bytes(slot_->handle, column)))
+              : std::string_view();
 }
 
 std::string Statement::bytes(int column) const {
