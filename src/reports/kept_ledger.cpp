@@ -43,7 +43,7 @@ void KeptLedger::each_counted(const CatIDs& categories, const SumRange& range, F
   const auto places = places_in(categories);
   const auto [first, last] = In_Period(rows_, range.days);
   for (const Row* row = first; row != last; ++row) {
-    if (range.basis == Basis::Cash && row->counts_from > range.days.end) continue;
+    if (range.basis == Basis::Cash && (!row->counts || row->counts_from > range.days.end)) continue;
     if (const auto& place = places[row->category]; !place.empty()) fn(place.front(), *row);
   }
 }

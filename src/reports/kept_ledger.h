@@ -34,8 +34,9 @@ class KeptLedger {
   static constexpr TextId no_text = 0;
   struct Row {
     Date day;
-    Date counts_from;  ///< on cash basis: the first end of a period that takes it in
     TextId category, Name, Class;
+    bool counts;       ///< on cash basis, in periods that end
+    Date counts_from;  ///< on this day or later
     Money value;
   };
   struct Income {

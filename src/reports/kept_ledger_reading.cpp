@@ -15,7 +15,7 @@ constexpr std::string_view next_rows =
     " PaidBy FROM Transactions WHERE RowKey > ? ORDER BY RowKey LIMIT ?";
 enum Column { HiddenKey, TransNum, Type, Day, Name, Class, Account, Amount, Debit, Credit, Paid, PaidBy };
 
-constexpr Date always(100, 1, 1), never(9999, 12, 31);
+constexpr Date first_day(100, 1, 1);
 
 }  // namespace
 
@@ -112,8 +112,8 @@ void LedgerReader::add_row(const store::Row& row, Date day) {
   if (counts && same_text(row.text(Type), "Bill"))
     if (auto payments = Payments_Of(row.text(PaidBy)); !payments.empty())
       paid_bills_.push_back({ledger_.rows_.size(), payments.front()});
-  ledger_.rows_.push_back({day, counts ? always : never, Account_.id, keep(Name_, row, Name),
-                           keep(Class_, row, Class), Row_Value(row.money(Debit), row.money(Credit))});
+  ledger_.rows_.push_back({day, Account_.id, keep(Name_, row, Name), keep(Class_, row, Class), counts,
+                           first_day, Row_Value(row.money(Debit), row.money(Credit))});
 }
 
 void LedgerReader::add_income(const store::Row& row, std::optional<Date> day) {
