@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <fstream>
 #include <map>
+#include <regex>
 
 #include "core/store/error.h"
 #include "core/text.h"
@@ -45,6 +46,13 @@ std::string_view Cut(std::string_view text, size_t longest) {
   size_t end = longest;
   while (end > 0 && (text[end] & 0xC0) == 0x80) --end;
   return text.substr(0, end);
+}
+
+/// The format reads "_x0041_" as an "A"; a text that has it says so.
+std::string As_It_Stands(std::string_view text) {
+  if (text.find("_x") == std::string_view::npos) return std::string(text);
+  static const std::regex code("_(?=x[0-9A-Fa-f]{4}_)");
+  return std::regex_replace(std::string(text), code, "_x005F_");
 }
 
 /// For each text at most so many bytes; an "&" is written twice.
@@ -158,7 +166,7 @@ class Workbook {
 
   void write_text(lxw_row_t row, lxw_col_t column, const std::string& text, lxw_format* look) {
     if (!text.empty())
-      worksheet_write_string(sheet_, row, column, std::string(Cut(text, longest_text)).c_str(), look);
+      worksheet_write_string(sheet_, row, column, As_It_Stands(Cut(text, longest_text)).c_str(), look);
   }
 
   lxw_format* format(std::string_view style, std::string_view mask, Align align = Align::Left) {

@@ -131,9 +131,11 @@ TEST(Xlsx, GroupsStandInTheFirstRowCaptionsInTheSecondAndTheHeadingOnEveryPage) 
   plain.heading = {"Profit & Loss", "Acme", "2026", "Cash basis"};
   plain.columns = {{.caption = "Name"}, {.caption = "Qty"}};
   plain.add_row().text("Bolt").value(int64_t{7});
+  plain.add_row().text("Bolt _x0041_");
   const std::string sheet = sheet_of(plain);
-  for (auto expected : {"<mergeCell ref=\"A1:B1\"/>", "Profit &amp; Loss\nAcme\n2026", "<c r=\"B3\"><v>7</v>",
-                        "&amp;CProfit &amp;&amp; Loss   Acme   2026<", "&amp;LCash basis&amp;R"})
+  for (auto expected :
+       {"<mergeCell ref=\"A1:B1\"/>", "Profit &amp; Loss\nAcme\n2026", "<c r=\"B3\"><v>7</v>",
+        "&amp;CProfit &amp;&amp; Loss   Acme   2026<", "&amp;LCash basis&amp;R", ">Bolt _x005F_x0041_<"})
     EXPECT_NE(sheet.find(expected), std::string::npos) << expected << " in " << sheet;
   EXPECT_NE(sheet_of(Motley()).find("<mergeCell ref=\"C1:D1\"/>"), std::string::npos);
 
