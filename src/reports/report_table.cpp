@@ -1,6 +1,7 @@
 #include "reports/report_table.h"
 
 #include <algorithm>
+#include <bit>
 
 #include "core/format.h"
 
@@ -30,10 +31,17 @@ const std::string* ReportTable::keep(std::string_view text) {
 }
 
 ReportTable::Line ReportTable::add_row(std::string_view style, RowKey key) {
-  const size_t start = rows_.empty() ? 0 : rows_.back().first_cell;
-  while (cells_.size() > start && std::holds_alternative<std::monostate>(cells_.back())) cells_.pop_back();
-  rows_.push_back({cells_.size(), keep(style), keep(key.text), key.number});
+  rows_.push_back({cells_.size(), masks_.size(), keep(style), keep(key.text), key.number});
+  next_column_ = 0;
   return Line(*this);
+}
+
+void ReportTable::put(Cell content) {
+  const size_t column = next_column_++;
+  const size_t word = rows_.back().first_mask + column / 64;
+  if (word >= masks_.size()) masks_.resize(word + 1);
+  masks_[word] |= uint64_t{1} << column % 64;
+  cells_.push_back(content);
 }
 
 void ReportTable::set_cell_style(int row, int column, std::string_view style) {
@@ -41,28 +49,31 @@ void ReportTable::set_cell_style(int row, int column, std::string_view style) {
 }
 
 ReportTable::Line& ReportTable::Line::skip(int cells) {
-  table_.cells_.resize(table_.cells_.size() + static_cast<size_t>(cells));
+  table_.next_column_ += static_cast<size_t>(cells);
   return *this;
 }
 
 ReportTable::Line& ReportTable::Line::text(std::string_view text) {
   if (text.empty()) return skip();
-  table_.cells_.emplace_back(table_.keep(text));
+  table_.put(table_.keep(text));
   return *this;
 }
 
 ReportTable::Line& ReportTable::Line::money(Money amount) {
-  table_.cells_.emplace_back(amount);
+  table_.put(amount);
   return *this;
 }
 
 ReportTable::Line& ReportTable::Line::value(const store::Value& value) {
   std::visit(
       [this](const auto& content) {
-        if constexpr (std::is_same_v<std::decay_t<decltype(content)>, std::string>)
+        using Content = std::decay_t<decltype(content)>;
+        if constexpr (std::is_same_v<Content, std::string>)
           text(content);
+        else if constexpr (std::is_same_v<Content, std::monostate>)
+          skip();
         else
-          table_.cells_.emplace_back(content);
+          table_.put(content);
       },
       value.content());
   return *this;
@@ -73,10 +84,15 @@ ReportTable::Line& ReportTable::Line::value(const store::Value& value) {
 
 const ReportTable::Cell& ReportTable::cell(int row, int column) const {
   static const Cell nothing;
-  const size_t at = static_cast<size_t>(row);
-  const size_t end = at + 1 < rows_.size() ? rows_[at + 1].first_cell : cells_.size();
-  const size_t wanted = rows_[at].first_cell + static_cast<size_t>(column);
-  return wanted < end ? cells_[wanted] : nothing;
+  const size_t at = static_cast<size_t>(row), wanted = static_cast<size_t>(column);
+  const size_t end = at + 1 < rows_.size() ? rows_[at + 1].first_mask : masks_.size();
+  const size_t word = rows_[at].first_mask + wanted / 64;
+  const uint64_t bit = uint64_t{1} << wanted % 64;
+  if (word >= end || !(masks_[word] & bit)) return nothing;
+  size_t before = static_cast<size_t>(std::popcount(masks_[word] & (bit - 1)));
+  for (size_t earlier = rows_[at].first_mask; earlier < word; ++earlier)
+    before += static_cast<size_t>(std::popcount(masks_[earlier]));
+  return cells_[rows_[at].first_cell + before];
 }
 
 store::Value ReportTable::value(int row, int column) const {

@@ -103,17 +103,20 @@ class ReportTable {
   using Texts = std::unordered_set<std::string, TextHash, std::equal_to<>>;
   using Cell = std::variant<std::monostate, const std::string*, int64_t, double, Money, Date, bool>;
   struct Row {
-    size_t first_cell;
+    size_t first_cell, first_mask;
     const std::string* style;
     const std::string* key;
     int64_t number;
   };
   const std::string* keep(std::string_view text);
+  void put(Cell content);  ///< in the next column of the last row
   const Cell& cell(int row, int column) const;
 
   std::shared_ptr<Texts> texts_ = std::make_shared<Texts>();  // copies of a table share them
-  std::deque<Row> rows_;  // long reports grow without being copied
-  std::deque<Cell> cells_;
+  std::deque<Row> rows_;                                      // long reports grow without being copied
+  std::deque<Cell> cells_;                                    // the filled ones
+  std::deque<uint64_t> masks_;                                // which columns they stand in, 64 to a word
+  size_t next_column_ = 0;
   std::map<std::pair<int, int>, const std::string*> cell_styles_;
 };
 

@@ -173,6 +173,21 @@ TEST(ReportTable, KeepsValuesTextsAndLooksApart) {
   EXPECT_EQ(copy.text(0, 1), "Müller, \"Bob\"\r\nLine 2");
 }
 
+TEST(ReportTable, FindsItsCellsHoweverWideAndEmptyItsRowsAre) {
+  ReportTable table;
+  for (int row = 0; row < 130; ++row) {
+    auto line = table.add_row();
+    line.skip(row).value(int64_t{row}).skip(63).text("far").text("");
+  }
+  table.add_row();
+  for (int row = 0; row < 130; ++row)
+    for (int column = 0; column < 200; ++column) {
+      const std::string expected = column == row ? std::to_string(row) : column == row + 64 ? "far" : "";
+      ASSERT_EQ(table.text(row, column), expected) << row << ", " << column;
+    }
+  EXPECT_TRUE(table.value(130, 0).is_null());
+}
+
 TEST(ReportCommand, PrintsWhatTheBuilderBuilds) {
   testing::Books books;
   books.add("Sales", "Income");
