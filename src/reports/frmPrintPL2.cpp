@@ -1,5 +1,6 @@
 #include "reports/frmPrintPL2.h"
 
+#include <QApplication>
 #include <QPainter>
 #include <QPushButton>
 
@@ -16,6 +17,9 @@ frmPrintPL2::frmPrintPL2(Shell& shell_of_frame) : ReportForm(shell_of_frame, "fr
   add_button(cmdGraph);
   on(cmdGraph, "cmdGraph_AfterClick", [this] { cmdGraph_AfterClick(); });
   on(&idle_, &QTimer::timeout, "idle_Timer", [this] { read_ahead(); });
+  connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
+    if (now && isAncestorOf(now)) idle_.start(0);  // back from where the ledger may have changed
+  });
 }
 
 void frmPrintPL2::read_ahead() {

@@ -84,10 +84,17 @@ QWidget& Widget(QObject& control) {
   return *widget;
 }
 
+/// A list may have a thousand items; a report needs a few.
+std::string Some_Of(const QStringList& items) {
+  constexpr qsizetype most = 30;
+  std::string some = items.mid(0, most).join(QLatin1String(", ")).toStdString();
+  return items.size() > most ? some + " and " + std::to_string(items.size() - most) + " more" : some;
+}
+
 [[noreturn]] void Not_In_List(const QObject& control, const QString& text) {
   throw Failed{"no " + Shown(text.toStdString()) + " in " + control.objectName().toStdString(),
                {},
-               "items: " + Items_Of(control).join(QLatin1String(", ")).toStdString()};
+               "items: " + Some_Of(Items_Of(control))};
 }
 
 /// A name in a list, with or without the blanks that indent it.
