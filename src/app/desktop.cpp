@@ -65,6 +65,10 @@ bool is_file_work(const std::string& label) {
   return label == "Backup" || label == "Restore";
 }
 
+bool is_paper_work(const std::string& label) {
+  return label == "Print" || label == "Save PDF";
+}
+
 }  // namespace
 
 void DesktopPrompts::set_frame(Shell* shell, QWidget* frame) {
@@ -121,12 +125,21 @@ std::string DesktopPrompts::save_file(const std::string& filter, const std::stri
 bool DesktopPrompts::progress(const std::string& label, int64_t done, int64_t total) {
   if (!shell_) return true;
   if (!since_start_.isValid()) since_start_.start();
-  if (is_file_work(label)) return show_backup_progress(label, done, total);
+  if (is_file_work(label)) return show_stoppable(label, done, total);
+  if (!is_due()) return !progress_ || !progress_->stopped();
+  if (is_paper_work(label)) return show_stoppable(label, done, total);
   show_status(label, done, total);
   return true;
 }
 
-bool DesktopPrompts::show_backup_progress(const std::string& label, int64_t done, int64_t total) {
+bool DesktopPrompts::is_due() {
+  const bool painted_just_now = since_look_.isValid() && since_look_.elapsed() <= between_looks;
+  if (since_start_.elapsed() < quick || painted_just_now) return false;
+  since_look_.start();
+  return true;
+}
+
+bool DesktopPrompts::show_stoppable(const std::string& label, int64_t done, int64_t total) {
   if (!progress_) {
     progress_ = new frmProgress(*shell_);
     progress_->setParent(above(), Qt::Dialog | Qt::WindowTitleHint | Qt::CustomizeWindowHint);
@@ -139,9 +152,6 @@ bool DesktopPrompts::show_backup_progress(const std::string& label, int64_t done
 }
 
 void DesktopPrompts::show_status(const std::string& label, int64_t done, int64_t total) {
-  const bool due = !since_look_.isValid() || since_look_.elapsed() > between_looks;
-  if (since_start_.elapsed() < quick || !due) return;
-  since_look_.start();
   if (!status_) {
     status_ = new frmStatus(*shell_);
     status_->setParent(above(), Qt::Dialog | Qt::WindowTitleHint | Qt::CustomizeWindowHint);

@@ -27,23 +27,11 @@ std::string Without_Points(std::string text) {
   return text;
 }
 
-/// frmProgress while it lives.
-class ProgressBar {
- public:
-  ProgressBar(Prompts& prompts, std::string caption) : prompts_(prompts), caption_(std::move(caption)) {
-    prompts_.progress(caption_, 0, 100);
-  }
-  ~ProgressBar() { prompts_.progress_done(); }
-  ProgressBar(const ProgressBar&) = delete;
-  ProgressBar& operator=(const ProgressBar&) = delete;
-  Percent percent() {
-    return [this](int done) { return prompts_.progress(caption_, done, 100); };
-  }
-
- private:
-  Prompts& prompts_;
-  std::string caption_;
-};
+/// Hundredths, from the first on.
+Percent Told(ProgressBar& bar) {
+  bar.at(0, 100);
+  return [&bar](int done) { return bar.at(done, 100); };
+}
 
 /// What of the session a restore changes, to put it back.
 struct CompanyState {
@@ -177,7 +165,7 @@ bool Backup_Company(Session& session, const std::string& file_name) {
   if (!session.dbCompany) throw store::Error(store::errors::file_not_found, "No company is open.");
   {
     ProgressBar bar(session.prompts, "Backup");
-    if (!Write_Backup(*session.dbCompany, Backup_File_Name(file_name), bar.percent())) return false;
+    if (!Write_Backup(*session.dbCompany, Backup_File_Name(file_name), Told(bar))) return false;
   }
   session.prompts.box({"Backup Successful.", "Backup", Icon::Information});
   return true;
@@ -187,7 +175,7 @@ bool Restore_Company(Session& session, const fs::path& backup, const fs::path& t
                      const std::function<bool()>& let_go) {
   const FileAside expanded = [&] {
     ProgressBar bar(session.prompts, "Restore");
-    return FileAside::Adopt(Expand_Backup(backup, target, bar.percent()));
+    return FileAside::Adopt(Expand_Backup(backup, target, Told(bar)));
   }();
   if (expanded.path().empty() || (let_go && !let_go())) return false;
   const CompanyState before(session);

@@ -43,6 +43,22 @@ class Prompts {
   virtual void sound(const std::string& file) = 0;  ///< "ball_bounce.wav"
 };
 
+/// Shows how far long work is, while it lives.
+class ProgressBar {
+ public:
+  ProgressBar(Prompts& prompts, std::string label) : prompts_(prompts), label_(std::move(label)) {}
+  ~ProgressBar() { prompts_.progress_done(); }
+  ProgressBar(const ProgressBar&) = delete;
+  ProgressBar& operator=(const ProgressBar&) = delete;
+
+  /// false: the user asked to stop.
+  bool at(int64_t done, int64_t total) { return prompts_.progress(label_, done, total); }
+
+ private:
+  Prompts& prompts_;
+  std::string label_;
+};
+
 /// Turns the pointer into an hourglass while it lives.
 class Hourglass {
  public:

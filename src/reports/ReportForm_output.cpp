@@ -122,8 +122,9 @@ void ReportForm::export_pdf() {
   const std::string file = ask_file("PDF Files", "pdf");
   if (file.empty()) return;
   const Hourglass hourglass(session.prompts);
-  Write_Pdf(*pages_to_print()(page_to_print()), file, qt(table_.heading.title));
-  shell.say("Saved as " + file + ".");
+  ProgressBar bar(session.prompts, "Save PDF");
+  if (Write_Pdf(*pages_to_print()(page_to_print()), file, qt(table_.heading.title), Told_By(bar)))
+    shell.say("Saved as " + file + ".");
 }
 
 void ReportForm::export_sheet() {

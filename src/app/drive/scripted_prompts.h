@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "app/drive/expectations.h"
@@ -21,10 +22,12 @@ class ScriptedPrompts : public Prompts {
   std::optional<std::string> input(const std::string& title, const std::string& prompt) override;
   std::string open_file(const std::string& filter, const std::string& folder) override;
   std::string save_file(const std::string& filter, const std::string& name) override;
-  bool progress(const std::string&, int64_t, int64_t) override { return true; }
+  bool progress(const std::string&, int64_t, int64_t) override { return !std::exchange(stop_, false); }
   void progress_done() override {}
   void hourglass(bool) override {}
   void sound(const std::string& file) override { sounds_.push_back(file); }
+
+  void stop_next() { stop_ = true; }  ///< the next long work is stopped at its first step
 
   const std::vector<std::string>& sounds() const { return sounds_; }
 
@@ -34,6 +37,7 @@ class ScriptedPrompts : public Prompts {
   Expectations& expectations_;
   std::filesystem::path folder_;  ///< what a script's relative paths start from
   std::vector<std::string> sounds_;
+  bool stop_ = false;
 };
 
 }  // namespace tallymere::drive

@@ -41,6 +41,7 @@ class Stage {
   std::filesystem::path company() const { return company_; }
   const std::filesystem::path& folder() const { return folder_; }
   const std::vector<std::string>& sounds() const { return prompts_.sounds(); }
+  void stop_next_work() { prompts_.stop_next(); }
   std::vector<std::string> log_lines() const;
   void shot(QWidget& widget, const std::string& name) const;
   void remove_temporary_folder() const;

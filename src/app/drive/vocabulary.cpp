@@ -207,6 +207,15 @@ QJSValue List(Toolbox& tools, const std::vector<std::string>& texts) {
   return tools.engine.toScriptValue(list);
 }
 
+QJSValue Exists(Toolbox& tools, const Args& args) {
+  return std::filesystem::exists(tools.stage.folder() / utf8(args.text(0)));
+}
+
+QJSValue Stop(Toolbox& tools, const Args&) {
+  tools.stage.stop_next_work();
+  return {};
+}
+
 QJSValue Sounds(Toolbox& tools, const Args&) {
   return List(tools, tools.stage.sounds());
 }
@@ -258,6 +267,8 @@ const std::map<QString, Verb>& Verbs() {
                                              {"rows", Rows},
                                              {"other", Other},
                                              {"ledger", Ledger},
+                                             {"stop", Stop},
+                                             {"exists", Exists},
                                              {"sounds", Sounds},
                                              {"log", Log},
                                              {"shot", Shot},

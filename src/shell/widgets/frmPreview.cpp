@@ -203,10 +203,11 @@ void frmPreview::cmdPrint_AfterClick() {
   const int last = pages_->count() - 1;
   const bool all = printer.fromPage() == 0;
   const Hourglass hourglass(session.prompts);
-  if (Print_Pages(*pages_, printer, all ? 0 : printer.fromPage() - 1,
-                  all ? last : std::min(printer.toPage() - 1, last)))
-    finish(true);
-  else
+  ProgressBar bar(session.prompts, "Print");
+  const Printed printed = Print_Pages(*pages_, printer, all ? 0 : printer.fromPage() - 1,
+                                      all ? last : std::min(printer.toPage() - 1, last), Told_By(bar));
+  if (printed == Printed::Whole) return finish(true);
+  if (printed == Printed::Refused)
     session.prompts.box({"The printer did not take the pages.", "Print", Icon::Critical});
 }
 
@@ -214,8 +215,8 @@ void frmPreview::cmdPDF_AfterClick() {
   const std::string file = session.prompts.save_file("PDF Files (*.pdf)|*.pdf", utf8(title_) + ".pdf");
   if (file.empty()) return;
   const Hourglass hourglass(session.prompts);
-  Write_Pdf(*pages_, file, title_);
-  shell.say("Saved as " + file + ".");
+  ProgressBar bar(session.prompts, "Save PDF");
+  if (Write_Pdf(*pages_, file, title_, Told_By(bar))) shell.say("Saved as " + file + ".");
 }
 
 }  // namespace tallymere

@@ -3,8 +3,10 @@
 #include <QPagedPaintDevice>
 #include <QPainter>
 #include <QPdfWriter>
+#include <QPrinter>
 #include <QSaveFile>
 
+#include "core/prompts.h"
 #include "core/store/error.h"
 
 namespace tallymere {
@@ -32,29 +34,41 @@ void Paint_Page(const Pages& pages, int page, QPainter& painter, qreal dots_per_
   painter.restore();
 }
 
-bool Print_Pages(const Pages& pages, QPagedPaintDevice& device, int from, int to) {
-  QPainter painter;
-  if (!painter.begin(&device)) return false;
-  for (int page = from; page <= to; ++page) {
-    if (page > from && !device.newPage()) return false;
-    Paint_Page(pages, page, painter, device.logicalDpiX());
-  }
-  return painter.end();
+Keep_Going Told_By(ProgressBar& bar) {
+  return [&bar](int done, int total) { return bar.at(done, total); };
 }
 
-void Write_Pdf(const Pages& pages, const std::filesystem::path& file, const QString& title) {
+Printed Print_Pages(const Pages& pages, QPagedPaintDevice& device, int from, int to,
+                    const Keep_Going& keep_going) {
+  QPainter painter;
+  if (!painter.begin(&device)) return Printed::Refused;
+  for (int page = from; page <= to; ++page) {
+    if (keep_going && !keep_going(page - from, to - from + 1)) {
+      if (auto* printer = dynamic_cast<QPrinter*>(&device)) printer->abort();
+      return Printed::Stopped;
+    }
+    if (page > from && !device.newPage()) return Printed::Refused;
+    Paint_Page(pages, page, painter, device.logicalDpiX());
+  }
+  return painter.end() ? Printed::Whole : Printed::Refused;
+}
+
+bool Write_Pdf(const Pages& pages, const std::filesystem::path& file, const QString& title,
+               const Keep_Going& keep_going) {
   QSaveFile out(QString::fromStdString(file.string()));
-  bool written = out.open(QIODevice::WriteOnly);
-  if (written) {
+  auto printed = Printed::Refused;
+  if (out.open(QIODevice::WriteOnly)) {
     QPdfWriter writer(&out);
     writer.setPageLayout(pages.page());
     writer.setResolution(pdf_resolution);
     writer.setTitle(title);
     writer.setCreator(QStringLiteral("Tallymere"));
-    written = Print_Pages(pages, writer, 0, pages.count() - 1);
+    printed = Print_Pages(pages, writer, 0, pages.count() - 1, keep_going);
   }
-  if (!written || !out.commit())
+  if (printed == Printed::Stopped) return false;
+  if (printed == Printed::Refused || !out.commit())
     throw store::Error(store::errors::disk_full, "'" + file.string() + "' cannot be written.");
+  return true;
 }
 
 }  // namespace tallymere

@@ -11,6 +11,8 @@ class QPainter;
 
 namespace tallymere {
 
+class ProgressBar;
+
 /// Something laid out on pages. What it paints is the same on paper, in the preview and in a PDF: it is
 /// measured in twips (1440 to the inch) from the page's upper left corner and painted under that scale.
 class Pages {
@@ -41,10 +43,18 @@ QPageLayout Letter_Page(QPageLayout::Orientation orientation);
 /// Paints one page on a device of this resolution, whatever it is.
 void Paint_Page(const Pages& pages, int page, QPainter& painter, qreal dots_per_inch);
 
-/// Paints the pages `from` to `to` (from 0, both included) on a printer or PDF. false: it did not take them.
-bool Print_Pages(const Pages& pages, QPagedPaintDevice& device, int from, int to);
+/// Asked before each page; false: stop.
+using Keep_Going = std::function<bool(int done, int total)>;
 
-/// Throws store::Error 3026 when the file cannot be written.
-void Write_Pdf(const Pages& pages, const std::filesystem::path& file, const QString& title);
+Keep_Going Told_By(ProgressBar& bar);  ///< shows the pages on a bar that can be stopped
+
+enum class Printed { Whole, Stopped, Refused };
+/// Paints the pages `from` to `to` (from 0, both included) on a printer or PDF.
+Printed Print_Pages(const Pages& pages, QPagedPaintDevice& device, int from, int to,
+                    const Keep_Going& keep_going = {});
+
+/// false: stopped, and no file was written. Throws store::Error 3026 when it cannot be.
+bool Write_Pdf(const Pages& pages, const std::filesystem::path& file, const QString& title,
+               const Keep_Going& keep_going = {});
 
 }  // namespace tallymere

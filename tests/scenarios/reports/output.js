@@ -35,6 +35,13 @@ click(w.cmdExport);
 popup("mnuExportPDF");
 ok(/frmPrintPL2.*mnuExportPDF_Click/.test(log()[log().length - 1]), log()[log().length - 1]);
 
+// Long printing can be stopped; then there is no file.
+file(null, "stopped.pdf");
+stop();
+click(w.cmdExport);
+popup("mnuExportPDF");
+equal(["pl.pdf", "preview.pdf", "pl.xlsx", "pl.csv", "stopped.pdf"].map(exists), [true, true, true, true, false]);
+
 // The graph stands in the place of the grid, follows the dates and goes to paper like any report.
 click(w.cmdGraph);
 equal([w.grfPL.visible, w.grdPL.visible], [true, false]);
