@@ -117,7 +117,9 @@ std::string DesktopPrompts::save_file(const std::string& filter, const std::stri
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setDefaultSuffix(suffix_of(filter));  // so that the question about replacing names the right file
   dialog.selectFile(qt(name).replace(QLatin1Char('/'), QLatin1Char('-')));
-  return dialog.exec() == QDialog::Accepted ? utf8(dialog.selectedFiles().value(0)) : std::string();
+  if (dialog.exec() != QDialog::Accepted) return {};
+  QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);  // long work may follow: no ghost stays
+  return utf8(dialog.selectedFiles().value(0));
 }
 
 // --- progress ------------------------------------------------------------------------------------
@@ -139,11 +141,18 @@ bool DesktopPrompts::is_due() {
   return true;
 }
 
+/// In the middle of what it keeps from the user.
+void DesktopPrompts::put_above(QWidget& bar) const {
+  bar.setParent(above(), Qt::Dialog | Qt::WindowTitleHint | Qt::CustomizeWindowHint);
+  bar.setWindowModality(Qt::ApplicationModal);
+  bar.adjustSize();
+  if (above()) bar.move(above()->window()->geometry().center() - bar.rect().center());
+}
+
 bool DesktopPrompts::show_stoppable(const std::string& label, int64_t done, int64_t total) {
   if (!progress_) {
     progress_ = new frmProgress(*shell_);
-    progress_->setParent(above(), Qt::Dialog | Qt::WindowTitleHint | Qt::CustomizeWindowHint);
-    progress_->setWindowModality(Qt::ApplicationModal);
+    put_above(*progress_);
   }
   progress_->show_progress(label, done, total);
   progress_->show();
@@ -154,8 +163,7 @@ bool DesktopPrompts::show_stoppable(const std::string& label, int64_t done, int6
 void DesktopPrompts::show_status(const std::string& label, int64_t done, int64_t total) {
   if (!status_) {
     status_ = new frmStatus(*shell_);
-    status_->setParent(above(), Qt::Dialog | Qt::WindowTitleHint | Qt::CustomizeWindowHint);
-    status_->setWindowModality(Qt::ApplicationModal);
+    put_above(*status_);
   }
   status_->show_progress(label, done, total);
   status_->show();

@@ -35,6 +35,7 @@ class DesktopPrompts : public Prompts {
 
  private:
   QWidget* above() const;
+  void put_above(QWidget& bar) const;
   bool is_due();  ///< the work has taken long enough to be shown, and again since the bar was last painted
   bool show_stoppable(const std::string& label, int64_t done, int64_t total);
   void show_status(const std::string& label, int64_t done, int64_t total);

@@ -150,9 +150,7 @@ void Sum_CashIncome(store::Database& db, const CatIDs& categories, DateRange day
 Figures Sum_CashIncome(store::Database& db, const CatIDs& categories, DateRange days) {
   std::vector<Money> sums(categories.size());
   Sum_CashIncome(db, categories, days, [&](const DatedAmount& part) { sums[part.category] += part.amount; });
-  Figures figures;
-  for (size_t at = 0; at < sums.size(); ++at) figures[categories[at]] += sums[at];
-  return figures;
+  return By_Category(categories, sums);
 }
 
 }  // namespace tallymere

@@ -25,10 +25,7 @@ frmModSaveReport::frmModSaveReport(Shell& shell_of_frame, SavedReport report)
   add_field(form, QStringLiteral("Dates to Show:"), cmbDate);
   add_field(form, QStringLiteral("Class:"), cmbClass);
   add_field(form, QStringLiteral("Item:"), cmbItem);
-  auto* column = column_layout(this);
-  column->addLayout(form);
-  column->addSpacing(theme::gap);
-  column->addLayout(button_row({}, {cmdCancel, cmdOk}));
+  lay_out_dialog(this, form, {cmdCancel, cmdOk});
   setMinimumWidth(48 * theme::unit);
   on(cmdOk, "cmdOk_AfterClick", [this] { cmdOk_AfterClick(); });
   on(cmdCancel, "cmdCancel_AfterClick", [this] { finish(false); });

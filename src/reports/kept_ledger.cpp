@@ -51,9 +51,7 @@ void KeptLedger::each_counted(const CatIDs& categories, const SumRange& range, F
 Figures KeptLedger::Sum_Category(const CatIDs& categories, const SumRange& range) const {
   std::vector<Money> sums(categories.size());
   each_counted(categories, range, [&](size_t place, const Row& row) { sums[place] += row.value; });
-  Figures figures;
-  for (size_t at = 0; at < sums.size(); ++at) figures[categories[at]] += sums[at];
-  return figures;
+  return By_Category(categories, sums);
 }
 
 ColumnFigures KeptLedger::sum_columns(const CatIDs& categories, const SumRange& range,
@@ -63,9 +61,7 @@ ColumnFigures KeptLedger::sum_columns(const CatIDs& categories, const SumRange& 
   each_counted(categories, range, [&](size_t place, const Row& row) {
     for (size_t column : columns[row.*caption]) sums[place][column] += row.value;
   });
-  ColumnFigures figures;
-  for (size_t at = 0; at < sums.size(); ++at) figures[categories[at]] += sums[at];
-  return figures;
+  return By_Category(categories, sums);
 }
 
 ColumnFigures KeptLedger::Sum_Category_By_Name(const CatIDs& categories, const SumRange& range,

@@ -17,6 +17,14 @@ namespace tallymere {
 using CatIDs = std::vector<std::string>;
 using Figures = CaselessMap<Money>;
 
+/// Sums that stand in the order of a list of categories, by category.
+template <typename T>
+CaselessMap<T> By_Category(const CatIDs& categories, const std::vector<T>& sums) {
+  CaselessMap<T> figures;
+  for (size_t at = 0; at < sums.size(); ++at) figures[categories[at]] += sums[at];
+  return figures;
+}
+
 /// Several figures of one category, one for each column of a report.
 struct Amounts {
   std::vector<Money> columns;

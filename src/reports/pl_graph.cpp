@@ -41,8 +41,7 @@ void Add_Expenses(PL_Graph& graph, store::Database& db, const CategoryTree& tree
     graph.months[Month_At(graph, share.date)].expense -= share.amount;
     sums[share.category] -= share.amount;
   });
-  Figures own;
-  for (size_t at = 0; at < all.size(); ++at) own[all[at]] += sums[at];
+  const Figures own = By_Category(all, sums);
   for (const Category* category : Top_Level_By_Name(tree)) {
     if (!Is_Expense_Side(category->AccountType)) continue;
     Money amount = tree.sum_family(category->CatID, own);
