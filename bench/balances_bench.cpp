@@ -1,8 +1,8 @@
 #include <benchmark/benchmark.h>
 
-#include "core/balances.h"
-#include "core/ledger.h"
-#include "core/transaction_writer.h"
+#include "core/ledger/balances.h"
+#include "core/ledger/ledger.h"
+#include "core/ledger/transaction_writer.h"
 #include "support/test_company.h"
 
 // Balance passes and saves on a ledger of a million rows: ten years, 80 categories, 500 customers and

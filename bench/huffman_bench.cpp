@@ -3,7 +3,7 @@
 #include <cstdio>
 #include <random>
 
-#include "core/clsHuffman.h"
+#include "core/backup/clsHuffman.h"
 
 namespace {
 

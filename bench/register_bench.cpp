@@ -1,9 +1,9 @@
 #include <benchmark/benchmark.h>
 
-#include "core/company.h"
-#include "core/folder.h"
-#include "core/ledger.h"
-#include "entry/register.h"
+#include "core/company/company.h"
+#include "core/company/folder.h"
+#include "core/ledger/ledger.h"
+#include "entry/register/register.h"
 #include "support/silent_prompts.h"
 #include "support/temp_folder.h"
 

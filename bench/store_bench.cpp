@@ -7,12 +7,12 @@
 #include <filesystem>
 #include <map>
 
-#include "core/balances.h"
-#include "core/company.h"
-#include "core/folder.h"
-#include "core/program_folder.h"
+#include "core/ledger/balances.h"
+#include "core/company/company.h"
+#include "core/company/folder.h"
+#include "core/company/program_folder.h"
 #include "core/store/recordset.h"
-#include "core/transaction_writer.h"
+#include "core/ledger/transaction_writer.h"
 
 namespace {
 

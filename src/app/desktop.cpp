@@ -8,7 +8,7 @@
 
 #include "shell/frmProgress.h"
 #include "shell/frmStatus.h"
-#include "shell/widgets/arrow_pointer.h"
+#include "shell/widgets/grid/arrow_pointer.h"
 #include "shell/widgets/line_icon.h"
 #include "shell/widgets/sounds.h"
 #include "shell/widgets/theme.h"

@@ -4,7 +4,7 @@
 #include <QPointer>
 #include <filesystem>
 
-#include "core/prompts.h"
+#include "core/company/prompts.h"
 
 class QApplication;
 class QWidget;

@@ -6,11 +6,11 @@
 
 #include "app/desktop.h"
 #include "app/windows.h"
-#include "core/company.h"
-#include "core/folder.h"
-#include "core/program_folder.h"
+#include "core/company/company.h"
+#include "core/company/folder.h"
+#include "core/company/program_folder.h"
 #include "shell/frmMain.h"
-#include "shell/frmSplash.h"
+#include "shell/start/frmSplash.h"
 #include "shell/widgets/Form.h"
 #include "shell/widgets/window_memory.h"
 

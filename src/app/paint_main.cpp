@@ -5,8 +5,8 @@
 #include <fstream>
 #include <iostream>
 
-#include "reports/report_file.h"
-#include "reports/report_paint.h"
+#include "reports/frame/report_file.h"
+#include "reports/frame/report_paint.h"
 
 /// tallymere-paint TABLEFILE OUT.pdf: paints the pages of a report that another program built.
 int main(int argc, char** argv) {

@@ -1,15 +1,15 @@
 #include "app/windows.h"
 
-#include "entry/frmCheck.h"
-#include "entry/frmRegister.h"
+#include "entry/checks/frmCheck.h"
+#include "entry/register/frmRegister.h"
 #include "lists/frmAccounts.h"
 #include "lists/frmClass.h"
 #include "lists/frmModAccount.h"
 #include "lists/frmNewPayee.h"
 #include "lists/frmOtherNames.h"
-#include "reports/frmPrintCustom.h"
-#include "reports/frmPrintPL2.h"
-#include "reports/frmSavedReps.h"
+#include "reports/transactions/frmPrintCustom.h"
+#include "reports/profit/frmPrintPL2.h"
+#include "reports/saved/frmSavedReps.h"
 #include "shell/frmMain.h"
 
 namespace tallymere {

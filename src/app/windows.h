@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include "core/session.h"
+#include "core/company/session.h"
 #include "shell/window_table.h"
 
 namespace tallymere {

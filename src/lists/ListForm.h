@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "shell/widgets/Form.h"
-#include "shell/widgets/SSDBGrid.h"
+#include "shell/widgets/grid/SSDBGrid.h"
 
 class QPushButton;
 

@@ -2,7 +2,7 @@
 
 #include "lists/small_lists.h"
 #include "shell/widgets/Form.h"
-#include "shell/widgets/SSDBGrid.h"
+#include "shell/widgets/grid/SSDBGrid.h"
 
 class QPushButton;
 

@@ -2,10 +2,10 @@
 
 #include <algorithm>
 
-#include "core/category_tree.h"
-#include "core/ledger.h"
+#include "core/ledger/category_tree.h"
+#include "core/ledger/ledger.h"
 #include "core/store/recordset.h"
-#include "core/text.h"
+#include "core/values/text.h"
 
 namespace tallymere {
 namespace {

@@ -5,9 +5,9 @@
 #include <string_view>
 #include <vector>
 
-#include "core/category_list.h"
-#include "core/prompts.h"
-#include "core/session.h"
+#include "core/ledger/category_list.h"
+#include "core/company/prompts.h"
+#include "core/company/session.h"
 
 /// The list of categories and the form that makes or changes one.
 namespace tallymere {

@@ -3,9 +3,9 @@
 #include <QCheckBox>
 #include <map>
 
-#include "core/balances.h"
-#include "core/ledger.h"
-#include "core/text.h"
+#include "core/ledger/balances.h"
+#include "core/ledger/ledger.h"
+#include "core/values/text.h"
 
 namespace tallymere {
 
@@ -75,8 +75,7 @@ void frmAccounts::chosen(const std::string& item) {
   (this->*handlers.at(item))();
 }
 
-// --- mnuAccount
-// ----------------------------------------------------------------------------------------------
+// --- mnuAccount ----------------------------------------------------------------------------------
 
 void frmAccounts::cmdNew_Click() {
   shell.Ask_Window({.window = "frmModAccount", .key = {}, .number = static_cast<int64_t>(AccountMode::New)});

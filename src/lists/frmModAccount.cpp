@@ -6,7 +6,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 
-#include "shell/widgets/SSDBCombo.h"
+#include "shell/widgets/grid/SSDBCombo.h"
 #include "shell/widgets/theme.h"
 
 namespace tallymere {

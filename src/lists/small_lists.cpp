@@ -1,6 +1,6 @@
 #include "lists/small_lists.h"
 
-#include "core/ledger.h"
+#include "core/ledger/ledger.h"
 #include "core/store/recordset.h"
 #include "core/store/sql.h"
 

@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "core/session.h"
+#include "core/company/session.h"
 
 /// The one-column lists that feed the entry windows, and whether a typed payee is known.
 namespace tallymere {

@@ -1,10 +1,10 @@
 #include "reports/reports.h"
 
-#include "core/date_range.h"
-#include "core/text.h"
-#include "reports/pl_by_name.h"
-#include "reports/profit_and_loss.h"
-#include "reports/transaction_reports.h"
+#include "core/values/date_range.h"
+#include "core/values/text.h"
+#include "reports/profit/pl_by_name.h"
+#include "reports/profit/profit_and_loss.h"
+#include "reports/transactions/transaction_reports.h"
 
 namespace tallymere {
 namespace {

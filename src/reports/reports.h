@@ -6,8 +6,8 @@
 #include <string>
 #include <string_view>
 
-#include "core/session.h"
-#include "reports/report_table.h"
+#include "core/company/session.h"
+#include "reports/frame/report_table.h"
 
 /// The table of reports: everything a window or the command line needs to know of one.
 namespace tallymere {

@@ -1,7 +1,7 @@
 #include "shell/drop_downs.h"
 
-#include "core/category_list.h"
-#include "core/format.h"
+#include "core/ledger/category_list.h"
+#include "core/values/format.h"
 #include "lists/small_lists.h"
 
 namespace tallymere {

@@ -3,8 +3,8 @@
 #include <QObject>
 #include <string>
 
-#include "core/session.h"
-#include "shell/widgets/SSDBDropDown.h"
+#include "core/company/session.h"
+#include "shell/widgets/grid/SSDBDropDown.h"
 
 namespace tallymere {
 

@@ -15,12 +15,12 @@
 #include <QToolBar>
 #include <utility>
 
-#include "core/company.h"
-#include "core/error_box.h"
+#include "core/company/company.h"
+#include "core/company/error_box.h"
 #include "core/store/recordset.h"
 #include "shell/frmMenus.h"
 #include "shell/menus.h"
-#include "shell/start_panel.h"
+#include "shell/start/start_panel.h"
 #include "shell/widgets/Form.h"
 #include "shell/widgets/company_color.h"
 #include "shell/widgets/line_icon.h"

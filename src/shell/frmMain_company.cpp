@@ -4,14 +4,14 @@
 #include <QTimer>
 #include <QToolBar>
 
-#include "core/backup.h"
-#include "core/company.h"
-#include "core/rights.h"
+#include "core/backup/backup.h"
+#include "core/company/company.h"
+#include "core/company/rights.h"
 #include "core/store/recordset.h"
-#include "shell/frmLogin.h"
+#include "shell/start/frmLogin.h"
 #include "shell/frmMain.h"
 #include "shell/frmMenus.h"
-#include "shell/frmPassword.h"
+#include "shell/start/frmPassword.h"
 
 /// How a company comes up, changes and goes.
 namespace tallymere {

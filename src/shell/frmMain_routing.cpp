@@ -9,14 +9,14 @@
 #include <algorithm>
 
 #include "core/store/error.h"
-#include "entry/document.h"
-#include "shell/frmCreate.h"
+#include "entry/document/document.h"
+#include "shell/start/frmCreate.h"
 #include "shell/frmMain.h"
 #include "shell/frmMenus.h"
-#include "shell/frmStart.h"
+#include "shell/start/frmStart.h"
 #include "shell/menus.h"
 #include "shell/widgets/Form.h"
-#include "shell/widgets/arrow_pointer.h"
+#include "shell/widgets/grid/arrow_pointer.h"
 
 /// From a command to its window.
 namespace tallymere {

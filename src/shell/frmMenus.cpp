@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "core/error_box.h"
+#include "core/company/error_box.h"
 #include "shell/menus.h"
 #include "shell/widgets/Form.h"
 

@@ -8,8 +8,8 @@
 #include <string>
 #include <vector>
 
-#include "core/date_range.h"
-#include "core/session.h"
+#include "core/values/date_range.h"
+#include "core/company/session.h"
 
 namespace tallymere {
 

@@ -1,6 +1,6 @@
 #include "shell/shell.h"
 
-#include "reports/transaction_reports.h"
+#include "reports/transactions/transaction_reports.h"
 
 namespace tallymere {
 

@@ -3,7 +3,7 @@
 #include <functional>
 
 #include "core/store/recordset.h"
-#include "core/text.h"
+#include "core/values/text.h"
 #include "support/test_company.h"
 
 namespace tallymere {

@@ -1,6 +1,6 @@
 #include "lists/small_lists.h"
 
-#include "core/ledger.h"
+#include "core/ledger/ledger.h"
 #include "support/test_company.h"
 
 namespace tallymere {

@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "core/prompts.h"
+#include "core/company/prompts.h"
 
 namespace tallymere::testing {
 

@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "core/company.h"
-#include "core/folder.h"
+#include "core/company/company.h"
+#include "core/company/folder.h"
 #include "support/temp_folder.h"
 
 namespace tallymere::testing {

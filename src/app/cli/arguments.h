@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "core/date.h"
+#include "core/values/date.h"
 
 namespace tallymere::cli {
 

@@ -2,10 +2,10 @@
 
 #include <iostream>
 
-#include "core/company.h"
-#include "core/folder.h"
-#include "core/program_folder.h"
-#include "core/schema_doc.h"
+#include "core/company/company.h"
+#include "core/company/folder.h"
+#include "core/company/program_folder.h"
+#include "core/company/schema_doc.h"
 
 namespace tallymere::cli {
 namespace {

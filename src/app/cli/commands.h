@@ -5,7 +5,7 @@
 
 #include "app/cli/arguments.h"
 #include "app/cli/console.h"
-#include "core/session.h"
+#include "core/company/session.h"
 
 namespace tallymere::cli {
 

@@ -1,11 +1,11 @@
 #include <iostream>
 
 #include "app/cli/commands.h"
-#include "core/backup.h"
-#include "core/balances.h"
-#include "core/company.h"
-#include "core/format.h"
-#include "core/verify.h"
+#include "core/backup/backup.h"
+#include "core/ledger/balances.h"
+#include "core/company/company.h"
+#include "core/values/format.h"
+#include "core/ledger/verify.h"
 
 namespace tallymere::cli {
 

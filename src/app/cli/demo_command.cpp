@@ -1,9 +1,9 @@
 #include <iostream>
 
 #include "app/cli/commands.h"
-#include "core/balances.h"
-#include "core/company.h"
-#include "core/demo/demo.h"
+#include "core/ledger/balances.h"
+#include "core/company/company.h"
+#include "demo/demo.h"
 
 namespace tallymere::cli {
 

@@ -1,10 +1,10 @@
 #include <iostream>
 
 #include "app/cli/commands.h"
-#include "core/balances.h"
-#include "core/ledger.h"
-#include "core/text.h"
-#include "core/transaction_writer.h"
+#include "core/ledger/balances.h"
+#include "core/ledger/ledger.h"
+#include "core/values/text.h"
+#include "core/ledger/transaction_writer.h"
 
 namespace tallymere::cli {
 namespace {

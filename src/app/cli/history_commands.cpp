@@ -1,9 +1,9 @@
 #include <iostream>
 
 #include "app/cli/commands.h"
-#include "core/balances.h"
+#include "core/ledger/balances.h"
 #include "core/store/history.h"
-#include "core/undo.h"
+#include "core/ledger/undo.h"
 
 namespace tallymere::cli {
 namespace {

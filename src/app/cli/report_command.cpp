@@ -7,13 +7,13 @@
 #include <iostream>
 
 #include "app/cli/commands.h"
-#include "core/date_range.h"
-#include "core/program_folder.h"
+#include "core/values/date_range.h"
+#include "core/company/program_folder.h"
 #include "core/store/error.h"
-#include "core/text.h"
-#include "reports/renderers.h"
-#include "core/whole_file.h"
-#include "reports/report_file.h"
+#include "core/values/text.h"
+#include "reports/frame/renderers.h"
+#include "core/backup/whole_file.h"
+#include "reports/frame/report_file.h"
 #include "reports/reports.h"
 
 namespace tallymere::cli {

@@ -4,10 +4,10 @@
 #include <regex>
 
 #include "app/drive/failed.h"
-#include "core/folder.h"
+#include "core/company/folder.h"
 #include "core/store/database.h"
 #include "core/store/sql.h"
-#include "core/text.h"
+#include "core/values/text.h"
 #include "shell/widgets/Form.h"
 
 namespace tallymere::drive::books {

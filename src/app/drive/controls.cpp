@@ -19,7 +19,7 @@
 #include "app/drive/hands.h"
 #include "app/drive/lookup.h"
 #include "shell/widgets/Form.h"
-#include "shell/widgets/SSDBCombo.h"
+#include "shell/widgets/grid/SSDBCombo.h"
 
 namespace tallymere::drive::controls {
 

@@ -4,7 +4,7 @@
 #include <QJSValue>
 #include <QVariant>
 
-#include "shell/widgets/SSDBGrid.h"
+#include "shell/widgets/grid/SSDBGrid.h"
 
 /// What a script does with a grid: reads its cells, and works them as a person does.
 namespace tallymere::drive::grids {

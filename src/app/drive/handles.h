@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "shell/widgets/SSDBGrid.h"
+#include "shell/widgets/grid/SSDBGrid.h"
 
 namespace tallymere::drive {
 

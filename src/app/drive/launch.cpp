@@ -1,7 +1,7 @@
 #include "app/drive/launch.h"
 
 #include "app/windows.h"
-#include "core/company.h"
+#include "core/company/company.h"
 #include "shell/frmMain.h"
 
 namespace tallymere::drive {

@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include "core/session.h"
+#include "core/company/session.h"
 
 namespace tallymere::drive {
 

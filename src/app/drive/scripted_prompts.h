@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "app/drive/expectations.h"
-#include "core/prompts.h"
+#include "core/company/prompts.h"
 
 namespace tallymere::drive {
 

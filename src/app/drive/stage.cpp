@@ -11,7 +11,7 @@
 
 #include "app/drive/hands.h"
 #include "app/drive/lookup.h"
-#include "core/folder.h"
+#include "core/company/folder.h"
 #include "shell/widgets/Form.h"
 #include "shell/widgets/sounds.h"
 

@@ -10,7 +10,7 @@
 #include "app/drive/expectations.h"
 #include "app/drive/launch.h"
 #include "app/drive/scripted_prompts.h"
-#include "core/session.h"
+#include "core/company/session.h"
 
 namespace tallymere::drive {
 

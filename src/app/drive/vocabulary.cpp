@@ -20,8 +20,7 @@ namespace {
 
 using Kind = Expectations::Kind;
 
-// --- the program and its commands
-// ---------------------------------------------------------------------------
+// --- the program and its commands ----------------------------------------------------------------
 
 QJSValue Start(Toolbox& tools, const Args&) {
   tools.stage.start();
@@ -84,8 +83,7 @@ QJSValue Popup(Toolbox&, const Args& args) {
   return {};
 }
 
-// --- windows and controls
-// -----------------------------------------------------------------------------------
+// --- windows and controls ------------------------------------------------------------------------
 
 QJSValue Win(Toolbox& tools, const Args& args) {
   return tools.handles.number_of(lookup::Window(args.text(0)));
@@ -161,8 +159,7 @@ QJSValue Close(Toolbox&, const Args& args) {
   return {};
 }
 
-// --- what is expected
-// ---------------------------------------------------------------------------------------
+// --- what is expected ----------------------------------------------------------------------------
 
 QJSValue Expect_Box(Toolbox& tools, const Args& args) {
   tools.expectations.add({Kind::Box, args.maybe_text(0), args.maybe_text(1), args.maybe_text(2), {}});
@@ -186,8 +183,7 @@ QJSValue Expect_Modal(Toolbox& tools, const Args& args) {
   return {};
 }
 
-// --- what there is to see
-// -----------------------------------------------------------------------------------
+// --- what there is to see ------------------------------------------------------------------------
 
 QJSValue Rows(Toolbox& tools, const Args& args) {
   return books::Rows(tools.engine, tools.stage.company(), utf8(args.text(0)), args.from(1));

@@ -6,7 +6,7 @@
 
 #include "core/store/recordset.h"
 #include "core/store/sql.h"
-#include "core/text.h"
+#include "core/values/text.h"
 
 namespace tallymere::store {
 namespace {

@@ -2,7 +2,7 @@
 
 #include "core/store/error.h"
 #include "core/store/sql.h"
-#include "core/text.h"
+#include "core/values/text.h"
 
 namespace tallymere::store {
 namespace {

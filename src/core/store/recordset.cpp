@@ -4,7 +4,7 @@
 #include <unordered_set>
 
 #include "core/store/sql.h"
-#include "core/text.h"
+#include "core/values/text.h"
 
 namespace tallymere::store {
 namespace {

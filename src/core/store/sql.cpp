@@ -2,9 +2,9 @@
 
 #include <array>
 
-#include "core/date.h"
+#include "core/values/date.h"
 #include "core/store/error.h"
-#include "core/text.h"
+#include "core/values/text.h"
 
 namespace tallymere::store {
 namespace {

@@ -4,7 +4,7 @@
 #include <cmath>
 
 #include "core/store/error.h"
-#include "core/text.h"
+#include "core/values/text.h"
 
 namespace tallymere::store {
 namespace {

@@ -6,8 +6,8 @@
 #include <string_view>
 #include <variant>
 
-#include "core/date.h"
-#include "core/money.h"
+#include "core/values/date.h"
+#include "core/values/money.h"
 
 namespace tallymere::store {
 

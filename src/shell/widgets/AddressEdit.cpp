@@ -4,7 +4,7 @@
 #include <QFontMetrics>
 #include <QKeyEvent>
 
-#include "core/text.h"
+#include "core/values/text.h"
 #include "shell/widgets/theme.h"
 
 namespace tallymere {

@@ -14,7 +14,7 @@
 #include <QTabWidget>
 #include <QTextEdit>
 
-#include "core/error_box.h"
+#include "core/company/error_box.h"
 #include "shell/widgets/mnemonics.h"
 #include "shell/widgets/window_memory.h"
 

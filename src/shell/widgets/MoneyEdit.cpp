@@ -2,7 +2,7 @@
 
 #include <QFocusEvent>
 
-#include "core/format.h"
+#include "core/values/format.h"
 #include "shell/widgets/theme.h"
 
 namespace tallymere {

@@ -3,7 +3,7 @@
 #include <QLineEdit>
 #include <optional>
 
-#include "core/money.h"
+#include "core/values/money.h"
 
 namespace tallymere {
 

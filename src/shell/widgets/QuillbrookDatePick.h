@@ -4,8 +4,8 @@
 #include <optional>
 #include <string>
 
-#include "core/clock.h"
-#include "core/date.h"
+#include "core/values/clock.h"
+#include "core/values/date.h"
 
 namespace tallymere {
 

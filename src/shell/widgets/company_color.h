@@ -2,7 +2,7 @@
 
 #include <QColor>
 
-#include "core/session.h"
+#include "core/company/session.h"
 
 class QWidget;
 

@@ -3,7 +3,7 @@
 #include <QFrame>
 #include <functional>
 
-#include "core/date.h"
+#include "core/values/date.h"
 
 namespace tallymere {
 

@@ -6,7 +6,7 @@
 #include <QPrinter>
 #include <QSaveFile>
 
-#include "core/prompts.h"
+#include "core/company/prompts.h"
 #include "core/store/error.h"
 
 namespace tallymere {

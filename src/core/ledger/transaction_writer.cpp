@@ -1,0 +1,218 @@
+#include "core/ledger/transaction_writer.h"
+
+#include <cassert>
+
+#include "core/ledger/ledger.h"
+#include "core/store/sql.h"
+
+namespace tallymere {
+namespace {
+
+using store::Value;
+
+/// "Check 1042, Acme Supply"
+std::string Title(const std::string& type, const std::string& number, const std::string& name) {
+  std::string title = type.empty() ? "Transaction" : type;
+  if (!number.empty()) title += " " + number;
+  if (!name.empty()) title += ", " + name;
+  return title;
+}
+
+Value Text(const std::string& text) {
+  return text.empty() ? Value() : Value(text);
+}
+Value Text(const std::string& own, const std::string& head) {
+  return Text(own.empty() ? head : own);
+}
+
+struct Column {
+  std::string_view name;
+  Value (*value)(const TransactionHead& head, const LedgerRow& row);
+};
+using Head = const TransactionHead&;
+using Row = const LedgerRow&;
+constexpr Column columns[] = {
+    {"TransNum", [](Head head, Row) { return Value(head.TransNum); }},
+    {"Type", [](Head head, Row row) { return Text(row.Type, head.Type); }},
+    {"Date", [](Head head, Row) { return Value(head.Date); }},
+    {"Number", [](Head head, Row row) { return Text(row.Number, head.Number); }},
+    {"Name", [](Head head, Row row) { return Text(row.Name, head.Name); }},
+    {"Address", [](Head head, Row row) { return Text(row.Address, head.Address); }},
+    {"ShippingAddress", [](Head, Row row) { return Text(row.ShippingAddress); }},
+    {"Memo", [](Head, Row row) { return Text(row.Memo); }},
+    {"Account", [](Head, Row row) { return Text(row.Account); }},
+    {"Category", [](Head, Row row) { return Text(row.Category); }},
+    {"Debit", [](Head, Row row) { return Value(row.Debit); }},
+    {"Credit", [](Head, Row row) { return Value(row.Credit); }},
+    {"Amount", [](Head, Row row) { return Value(row.Amount); }},
+    {"Class", [](Head, Row row) { return Text(row.Class); }},
+    {"Cleared", [](Head head, Row row) { return Value(head.Cleared || row.Cleared); }},
+    {"Paid", [](Head, Row row) { return Value(row.Paid); }},
+    {"PaidBy", [](Head, Row row) { return Text(row.PaidBy); }},
+    {"AmountReceived", [](Head, Row row) { return Value(row.AmountReceived); }},
+    {"SourceName", [](Head, Row row) { return Text(row.SourceName); }},
+    {"Item", [](Head, Row row) { return Text(row.Item); }},
+    {"ItemDescription", [](Head, Row row) { return Text(row.ItemDescription); }},
+    {"Qty", [](Head, Row row) { return Value(row.Qty); }},
+    {"SalePrice", [](Head, Row row) { return Value(row.SalePrice); }},
+    {"Taxable", [](Head, Row row) { return Value(row.Taxable); }},
+    {"Terms", [](Head, Row row) { return Text(row.Terms); }},
+    {"DueDate", [](Head, Row row) { return Value(row.DueDate); }},
+    {"PONum", [](Head, Row row) { return Text(row.PONum); }},
+    {"ShipDate", [](Head, Row row) { return Value(row.ShipDate); }},
+    {"FOB", [](Head, Row row) { return Text(row.FOB); }},
+    {"Via", [](Head, Row row) { return Text(row.Via); }},
+    {"Rep", [](Head, Row row) { return Text(row.Rep); }},
+    {"PayMethod", [](Head, Row row) { return Text(row.PayMethod); }},
+    {"PaidThrough", [](Head, Row row) { return Value(row.PaidThrough); }},
+    {"SSNum", [](Head, Row row) { return Text(row.SSNum); }},
+    {"PayrollItem", [](Head, Row row) { return Text(row.PayrollItem); }},
+    {"PayPeriod", [](Head, Row row) { return Text(row.PayPeriod); }},
+    {"Hours", [](Head, Row row) { return Value(row.Hours); }},
+};
+
+std::string Insert_Statement() {
+  std::string names, marks;
+  for (const Column& column : columns) {
+    names += (names.empty() ? "" : ", ") + store::Quoted(column.name);
+    marks += marks.empty() ? "?" : ", ?";
+  }
+  return "INSERT INTO Transactions (" + names + ") VALUES (" + marks + ")";
+}
+
+bool Has_Rows(store::Database& db, int64_t number) {
+  return !db.value("SELECT RowKey FROM Transactions WHERE TransNum = ? LIMIT 1", {number}).is_null();
+}
+
+/// Rows that leave a year make its balances as stale as rows that come.
+void Set_Recalc_For_Rows(Session& session, int64_t number) {
+  session.dbCompany->each("SELECT DISTINCT Date FROM Transactions WHERE TransNum = ?", {number},
+                          [&](const store::Row& row) {
+                            if (auto date = row.date(0)) Set_Recalc_If_Other_Year(session, *date);
+                          });
+}
+
+void Delete_Rows(Session& session, int64_t number) {
+  Set_Recalc_For_Rows(session, number);
+  session.dbCompany->Execute("DELETE FROM Transactions WHERE TransNum = ?", {number});
+}
+
+std::string Title_Of_Rows(store::Database& db, int64_t number) {
+  auto row = db.OpenRecordset("SELECT * FROM Transactions WHERE TransNum = ? ORDER BY RowKey", {number});
+  if (!row.has_row()) return "transaction " + std::to_string(number);
+  return Title(row["Type"].text(), row["Number"].text(), row["Name"].text());
+}
+
+}  // namespace
+
+// --- Probe ---------------------------------------------------------------------------------------
+
+Probe::Probe(store::RowSet& row) {
+  if (!row.has_row()) return;
+  Remembered remembered{row.key(), {}};
+  for (size_t at = 0; at < row.Fields().size(); ++at) remembered.values.push_back(row[at].value());
+  rows_.push_back(std::move(remembered));
+}
+
+Probe Probe::Of(store::Database& db, int64_t TransNum) {
+  Probe probe;
+  probe.rows_ = read(db, "TransNum = ?", TransNum);
+  probe.whole_ = TransNum;
+  return probe;
+}
+
+std::vector<Probe::Remembered> Probe::read(store::Database& db, std::string_view condition, int64_t key) {
+  std::vector<Remembered> found;
+  auto rows = db.OpenRecordset(
+      "SELECT * FROM Transactions WHERE " + std::string(condition) + " ORDER BY RowKey", {key});
+  for (; !rows.Eof(); rows.MoveNext()) found.push_back(Probe(rows).rows_.front());
+  return found;
+}
+
+void Probe::check(store::Database& db) const {
+  if (is_new()) return;
+  bool unchanged = whole_ ? read(db, "TransNum = ?", *whole_) == rows_
+                          : read(db, "RowKey = ?", rows_.front().key) == rows_;
+  if (!unchanged)
+    throw store::Error(store::errors::data_changed, "The data has been changed; operation stopped.");
+}
+
+// --- Transaction_Writer --------------------------------------------------------------------------
+
+Transaction_Writer::Transaction_Writer(Session& session, TransactionHead head, const Probe& probe)
+    : db_(*session.dbCompany), head_(std::move(head)), tx_(db_, Title(head_.Type, head_.Number, head_.Name)) {
+  Set_Recalc_If_Other_Year(session, head_.Date);
+  if (probe.is_new()) {
+    if (head_.TransNum == 0 || Has_Rows(db_, head_.TransNum)) head_.TransNum = Next_TransNum(db_);
+  } else {
+    assert(head_.TransNum != 0);
+    probe.check(db_);
+    Delete_Rows(session, head_.TransNum);
+  }
+}
+
+void Transaction_Writer::add(const LedgerRow& row) {
+  static const std::string insert = Insert_Statement();
+  store::Database::Params values;
+  values.reserve(std::size(columns));
+  for (const Column& column : columns) values.push_back(column.value(head_, row));
+  db_.Execute(insert, values);
+}
+
+void Transaction_Writer::commit() {
+  Probe written = Probe::Of(db_, head_.TransNum);
+  tx_.commit();
+  written_ = std::move(written);
+}
+
+// --- without rewriting ---------------------------------------------------------------------------
+
+int64_t Delete_Transaction(Session& session, int64_t TransNum) {
+  store::Database& db = *session.dbCompany;
+  store::Transaction tx(db, "Deleted " + Title_Of_Rows(db, TransNum));
+  int64_t rows = db.value("SELECT COUNT(*) FROM Transactions WHERE TransNum = ?", {TransNum}).integer();
+  Delete_Rows(session, TransNum);
+  tx.commit();
+  return rows;
+}
+
+int64_t Rewrite_Fields(Session& session, int64_t TransNum, const FieldValues& fields) {
+  store::Database& db = *session.dbCompany;
+  const store::TableDef& table = *db.find_table("Transactions");
+  std::string assignments;
+  store::Database::Params values;
+  for (const auto& [name, value] : fields) {
+    const store::Field* field = table.find(name);
+    if (!field)
+      throw store::Error(store::errors::no_such_field,
+                         "Item not found in this collection: " + std::string(name) + ".");
+    assignments += (assignments.empty() ? "" : ", ") + store::Quoted(field->name) + " = ?";
+    values.push_back(value.as(field->type));
+    if (field->name == "Date") {
+      Set_Recalc_For_Rows(session, TransNum);
+      Set_Recalc_If_Other_Year(session, values.back().date());
+    }
+  }
+  values.emplace_back(TransNum);
+  store::Transaction tx(db, Title_Of_Rows(db, TransNum));
+  int64_t rows = db.Execute("UPDATE Transactions SET " + assignments + " WHERE TransNum = ?", values);
+  tx.commit();
+  return rows;
+}
+
+std::optional<Conflict> Conflict_Of(const store::Error& error) {
+  switch (error.number) {
+    case store::errors::data_changed:
+      return Conflict{
+          {"This Transaction has been modified by another user since you opened it. Transaction will not be "
+           "updated. Click Ok to see changes.",
+           "Data has changed", Icon::Information},
+          true};
+    case store::errors::locked:
+      return Conflict{{error.description() + " Try Again later.", "", Icon::None}, false};
+    default:
+      return std::nullopt;
+  }
+}
+
+}  // namespace tallymere

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <cstddef>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "core/values/text.h"
+
+namespace tallymere {
+
+/// Blanks before a name in a list, for each level below the top.
+inline constexpr int Blanks_Per_Level = 5;
+/// How deep a list shows its rows; also what ends a walk through rows that name each other as parents.
+inline constexpr int Deepest_Level = 100;
+
+inline std::string Indented(const std::string& name, int level) {
+  return std::string(static_cast<size_t>(level * Blanks_Per_Level), ' ') + name;
+}
+
+/// Arranges the rows of one reading as lists show them: each top row followed by what stands below it,
+/// children in the order of `rows`. `Row` has key(), parent() and a `level`, which is set here. A row whose
+/// parent is missing does not show.
+template <typename Row>
+class TreeList {
+ public:
+  explicit TreeList(const std::vector<Row>& rows) {
+    for (const Row& row : rows)
+      if (!row.parent().empty()) children_[lower(row.parent())].push_back(&row);
+  }
+
+  /// Adds a row at this level and all below it.
+  void add(const Row& row, int level = 0) {
+    list.push_back(row);
+    list.back().level = level;
+    if (level < Deepest_Level) SubList(row.key(), level + 1);
+  }
+
+  std::vector<Row> list;
+
+ private:
+  void SubList(const std::string& parent, int level) {
+    const auto found = children_.find(lower(parent));
+    if (found == children_.end()) return;
+    for (const Row* child : found->second) add(*child, level);
+  }
+
+  std::map<std::string, std::vector<const Row*>> children_;  ///< by the parent's key, in lower case
+};
+
+}  // namespace tallymere

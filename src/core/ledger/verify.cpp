@@ -1,0 +1,121 @@
+#include "core/ledger/verify.h"
+
+#include "core/company/schema.h"
+#include "core/store/sql.h"
+#include "core/values/text.h"
+
+namespace tallymere {
+namespace {
+
+using store::Database;
+using store::Row;
+
+constexpr int most_examples = 5;
+using Findings = std::vector<std::string>;
+
+/// A query's rows as findings, the first few in full and the rest as a count.
+Findings Examples(Database& db, const std::string& sql, const std::function<std::string(const Row&)>& words) {
+  Findings found;
+  int64_t more = 0;
+  db.each(sql, {}, [&](const Row& row) {
+    if (found.size() < most_examples)
+      found.push_back(words(row));
+    else
+      ++more;
+  });
+  if (more > 0) found.push_back("and " + std::to_string(more) + " more");
+  return found;
+}
+
+std::string Text(const Row& row, int column) { return std::string(row.text(column)); }
+
+Findings File_Is_Sound(Database& db) {
+  Findings found;
+  for (const std::string& fault : db.connection().integrity_faults()) found.push_back(fault);
+  return found;
+}
+
+/// The sale of an inventory part stands twice more in the ledger, on its cost and on its income, marked by SourceName.
+Findings Transactions_Balance(Database& db) {
+  return Examples(db,
+                  "SELECT TransNum, MAX(Type), SUM(IFNULL(Debit, 0)), SUM(IFNULL(Credit, 0)) FROM Transactions"
+                  " WHERE SourceName IS NULL OR SourceName <> 'Inventory Part' GROUP BY TransNum HAVING SUM(IFNULL(Debit, 0)) <> SUM(IFNULL(Credit, 0))",
+                  [](const Row& row) {
+                    return Text(row, 1) + " " + Text(row, 0) + ": debits " + row.money(2).to_text() + ", credits " +
+                           row.money(3).to_text();
+                  });
+}
+
+Findings One_Document_A_Number(Database& db) {
+  return Examples(db,
+                  "SELECT TransNum, MIN(Type), MAX(Type), MIN(Date), MAX(Date) FROM Transactions GROUP BY TransNum"
+                  " HAVING MIN(Type) <> MAX(Type) OR MIN(Date) <> MAX(Date)",
+                  [](const Row& row) {
+                    return "number " + Text(row, 0) + " holds " + Text(row, 1) + " of " + Text(row, 3) + " and " +
+                           Text(row, 2) + " of " + Text(row, 4);
+                  });
+}
+
+Findings Fixed_Categories_Stand(Database& db) {
+  Findings found;
+  for (const char* id : {"AR1", "AP1", "UF1", "RE1", "OE1"})
+    if (db.value("SELECT 1 FROM Accounts WHERE CatID = ?", {id}).is_null()) found.push_back(std::string("no category ") + id);
+  if (db.value("SELECT COUNT(*) FROM CompanyInfo").integer() != 1) found.push_back("CompanyInfo is not one row");
+  return found;
+}
+
+Findings Links_Resolve(Database& db, const Reference& link) {
+  std::string from = store::Quoted(link.from_table), field = "a." + store::Quoted(link.from_field);
+  std::string condition = link.condition.empty() ? "" : " AND (" + std::string(link.condition) + ")";
+  return Examples(db,
+                  "SELECT DISTINCT " + field + " FROM " + from + " AS a WHERE " + field + " IS NOT NULL AND " + field +
+                      " <> ''" + condition + " AND NOT EXISTS (SELECT 1 FROM " + store::Quoted(link.to_table) +
+                      " AS b WHERE b." + store::Quoted(link.to_field) + " = " + field + ")",
+                  [&](const Row& row) {
+                    return std::string(link.from_table) + "." + std::string(link.from_field) + " names \"" + Text(row, 0) +
+                           "\", which is not in " + std::string(link.to_table);
+                  });
+}
+
+Findings All_Links_Resolve(Database& db) {
+  Findings found;
+  for (const Reference& link : references()) {
+    if (!db.find_table(link.from_table)) continue;
+    for (std::string& fault : Links_Resolve(db, link)) found.push_back(std::move(fault));
+  }
+  return found;
+}
+
+Findings Payments_Exist(Database& db) {
+  Findings found;
+  db.each("SELECT DISTINCT PaidBy FROM Transactions WHERE PaidBy IS NOT NULL AND PaidBy <> ''", {}, [&](const Row& row) {
+    for (const std::string& number : split(row.text(0), ";")) {
+      if (number.empty()) continue;
+      if (db.value("SELECT 1 FROM Transactions WHERE TransNum = ? LIMIT 1", {number}).is_null())
+        found.push_back("PaidBy names transaction " + number + ", which does not exist");
+    }
+  });
+  return found;
+}
+
+struct Check {
+  const char* name;
+  Findings (*run)(Database&);
+};
+constexpr Check checks[] = {{"file", File_Is_Sound},
+                            {"balance", Transactions_Balance},
+                            {"documents", One_Document_A_Number},
+                            {"categories", Fixed_Categories_Stand},
+                            {"links", All_Links_Resolve},
+                            {"payments", Payments_Exist}};
+
+}  // namespace
+
+std::vector<Finding> Verify_Company(Database& company) {
+  std::vector<Finding> findings;
+  for (const Check& check : checks)
+    for (std::string& what : check.run(company)) findings.push_back({check.name, std::move(what)});
+  return findings;
+}
+
+}  // namespace tallymere

@@ -1,0 +1,106 @@
+#include "core/values/text.h"
+
+#include <algorithm>
+
+namespace tallymere {
+namespace {
+
+constexpr std::string_view blanks = " \t\r\n\f\v";
+
+// Not std::tolower: that depends on the locale and would break UTF-8 bytes in some.
+constexpr char lower_char(char c) {
+  return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c;
+}
+constexpr char upper_char(char c) {
+  return c >= 'a' && c <= 'z' ? static_cast<char>(c - ('a' - 'A')) : c;
+}
+
+template <class Fold>
+std::string folded(std::string_view text, Fold fold) {
+  std::string result(text);
+  std::transform(result.begin(), result.end(), result.begin(), fold);
+  return result;
+}
+
+bool is_digit(char c) {
+  return c >= '0' && c <= '9';
+}
+
+}  // namespace
+
+std::string lower(std::string_view text) {
+  return folded(text, lower_char);
+}
+std::string upper(std::string_view text) {
+  return folded(text, upper_char);
+}
+
+bool same_text(std::string_view a, std::string_view b) {
+  return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                    [](char x, char y) { return lower_char(x) == lower_char(y); });
+}
+
+bool starts_with_same_text(std::string_view text, std::string_view start) {
+  return same_text(text.substr(0, start.size()), start);
+}
+
+bool contains(std::string_view text, std::string_view part) {
+  return text.find(part) != text.npos;
+}
+
+std::string trim(std::string_view text) {
+  return ltrim(text.substr(0, text.find_last_not_of(blanks) + 1));
+}
+
+std::string ltrim(std::string_view text) {
+  return std::string(text.substr(std::min(text.find_first_not_of(blanks), text.size())));
+}
+
+std::vector<std::string> split(std::string_view text, std::string_view separator) {
+  std::vector<std::string> parts;
+  auto end = separator.empty() ? text.npos : text.find(separator);
+  for (; end != text.npos; end = text.find(separator)) {
+    parts.emplace_back(text.substr(0, end));
+    text.remove_prefix(end + separator.size());
+  }
+  parts.emplace_back(text);
+  return parts;
+}
+
+std::string join(const std::vector<std::string>& parts, std::string_view separator) {
+  std::string text;
+  for (const auto& part : parts) {
+    if (&part != &parts.front()) text += separator;
+    text += part;
+  }
+  return text;
+}
+
+std::string replace_all(std::string_view text, std::string_view from, std::string_view to) {
+  return join(split(text, from), to);
+}
+
+std::string doubled_quotes(std::string_view text) {
+  return replace_all(text, "'", "''");
+}
+
+bool is_numeric(std::string_view text) {
+  const std::string trimmed = trim(text);
+  bool sign = false, dollar = false, digit = false, point = false;
+  for (const char c : trimmed) {
+    if (is_digit(c)) {
+      digit = true;
+    } else if (c == '.' && !point) {
+      point = true;
+    } else if ((c == '+' || c == '-') && !sign && !digit && !point) {
+      sign = true;
+    } else if (c == '$' && !dollar && !digit && !point) {
+      dollar = true;
+    } else if (c != ',' || !digit || point) {
+      return false;
+    }
+  }
+  return digit;
+}
+
+}  // namespace tallymere

@@ -1,0 +1,133 @@
+#include <algorithm>
+#include <ostream>
+
+#include "core/values/text.h"
+#include "reports/frame/renderers.h"
+
+namespace tallymere {
+namespace {
+
+/// What a renderer without a page shows: every column but the margins.
+std::vector<int> Shown_Columns(const ReportTable& table) {
+  std::vector<int> shown;
+  for (int column = 0; column < static_cast<int>(table.columns.size()); ++column)
+    if (table.columns[static_cast<size_t>(column)].kind != ReportColumn::Kind::Margin)
+      shown.push_back(column);
+  return shown;
+}
+
+std::string Full_Caption(const ReportTable& table, int column) {
+  const std::string& own = table.columns[static_cast<size_t>(column)].caption;
+  for (const ReportGroup& group : table.groups)
+    if (column >= group.first && column < group.first + group.count) return trim(group.caption + " " + own);
+  return own;
+}
+
+std::string On_One_Line(std::string text) {
+  for (char& c : text)
+    if (c == '\t' || c == '\r' || c == '\n') c = ' ';
+  return text;
+}
+
+/// Characters on the screen, not bytes.
+size_t Width(std::string_view text) {
+  return static_cast<size_t>(
+      std::count_if(text.begin(), text.end(), [](char c) { return (c & 0xC0) != 0x80; }));
+}
+
+constexpr size_t widest = 40;
+
+std::string Cut(std::string text) {
+  if (Width(text) <= widest) return text;
+  size_t at = 0;
+  for (size_t characters = 0; characters < widest - 1; ++at)
+    if ((text[at + 1] & 0xC0) != 0x80) ++characters;
+  return text.substr(0, at) + "…";
+}
+
+/// Lines up the cells of a table: measures first, then writes.
+class Aligned {
+ public:
+  Aligned(const ReportTable& table, std::ostream& out)
+      : table_(table), out_(out), shown_(Shown_Columns(table)), widths_(shown_.size()) {
+    for (size_t at = 0; at < shown_.size(); ++at) {
+      widths_[at] = Width(Full_Caption(table_, shown_[at]));
+      for (int row = 0; row < table_.rows(); ++row) widths_[at] = std::max(widths_[at], Width(cell(row, at)));
+    }
+  }
+
+  void write() {
+    write_line([&](size_t at) { return Full_Caption(table_, shown_[at]); });
+    for (int row = 0; row < table_.rows(); ++row) write_line([&](size_t at) { return cell(row, at); });
+  }
+
+ private:
+  std::string cell(int row, size_t at) const { return Cut(On_One_Line(table_.for_the_eye(row, shown_[at]))); }
+
+  template <typename Text>
+  void write_line(Text&& text_at) {
+    std::string line;
+    for (size_t at = 0; at < shown_.size(); ++at) {
+      std::string text = text_at(at);
+      std::string blanks(widths_[at] - Width(text), ' ');
+      const ReportColumn& column = table_.columns[static_cast<size_t>(shown_[at])];
+      bool right = column.right || column.kind == ReportColumn::Kind::Money;
+      if (at > 0) line += "  ";
+      line += right ? blanks + text : text + blanks;
+    }
+    out_ << line.substr(0, line.find_last_not_of(' ') + 1) << "\n";
+  }
+
+  const ReportTable& table_;
+  std::ostream& out_;
+  std::vector<int> shown_;
+  std::vector<size_t> widths_;
+};
+
+std::string Csv_Field(const std::string& text) {
+  if (text.find_first_of(",\"\r\n") == std::string::npos) return text;
+  return "\"" + replace_all(text, "\"", "\"\"") + "\"";
+}
+
+}  // namespace
+
+void Write_Text(const ReportTable& table, std::ostream& out) {
+  const ReportHeading& heading = table.heading;
+  out << heading.title << "\n" << heading.company << "\n" << heading.period << "\n";
+  if (!heading.basis.empty()) out << heading.basis << "\n";
+  out << "\n";
+  Aligned(table, out).write();
+}
+
+void Write_Csv(const ReportTable& table, std::ostream& out) {
+  const std::vector<int> shown = Shown_Columns(table);
+  auto write_line = [&](auto&& text_at) {
+    for (size_t at = 0; at < shown.size(); ++at) out << (at > 0 ? "," : "") << Csv_Field(text_at(shown[at]));
+    out << "\r\n";
+  };
+  write_line([&](int column) { return Full_Caption(table, column); });
+  for (int row = 0; row < table.rows(); ++row)
+    write_line([&](int column) { return table.text(row, column); });
+}
+
+std::string Tab_Separated(const ReportTable& table, const std::vector<int>& rows) {
+  const std::vector<int> shown = Shown_Columns(table);
+  std::string text;
+  auto add_line = [&](auto&& text_at) {
+    for (size_t at = 0; at < shown.size(); ++at) {
+      if (at > 0) text += '\t';
+      text += On_One_Line(text_at(shown[at]));
+    }
+    text += "\r\n";
+  };
+  auto add_row = [&](int row) { add_line([&](int column) { return table.text(row, column); }); };
+  if (!rows.empty()) {
+    for (int row : rows) add_row(row);
+    return text;
+  }
+  add_line([&](int column) { return Full_Caption(table, column); });
+  for (int row = 0; row < table.rows(); ++row) add_row(row);
+  return text;
+}
+
+}  // namespace tallymere

@@ -1,0 +1,35 @@
+#include "shell/start/frmPassword.h"
+
+#include <QFormLayout>
+#include <QLineEdit>
+#include <QPushButton>
+
+#include "core/company/passwords.h"
+#include "core/store/recordset.h"
+#include "shell/widgets/theme.h"
+
+namespace tallymere {
+
+frmPassword::frmPassword(Shell& shell_of_frame) : Form(shell_of_frame, "frmPassword", Place::Above) {
+  setWindowTitle(QStringLiteral("Password Required"));
+  Text1 = named("Text1", new QLineEdit);
+  Text1->setEchoMode(QLineEdit::Password);
+  Text1->setMinimumWidth(26 * theme::unit);
+  cmdOk = named("cmdOk", new QPushButton(QStringLiteral("OK")));
+  cmdCancel = named("cmdCancel", new QPushButton(QStringLiteral("Cancel")));
+  auto* fields = form_layout();
+  add_field(fields, QStringLiteral("Enter Password"), Text1);
+  lay_out_dialog(this, fields, {cmdCancel, cmdOk});
+  on(cmdOk, "cmdOk_AfterClick", [this] { cmdOk_AfterClick(); });
+  on(cmdCancel, "cmdCancel_AfterClick", [this] { finish(false); });
+}
+
+void frmPassword::cmdOk_AfterClick() {
+  const auto info = session.dbCompany->OpenTable("CompanyInfo");
+  info->MoveFirst();
+  if (!Password_Matches((*info)["Password"].text(), utf8(Text1->text())))
+    return show_fault({{"Incorrect Password", "Password", Icon::Information}, "Text1"});
+  finish(true);
+}
+
+}  // namespace tallymere

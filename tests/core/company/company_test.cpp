@@ -1,0 +1,153 @@
+#include "core/company/company.h"
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+
+#include "core/company/passwords.h"
+#include "core/store/recordset.h"
+#include "support/test_company.h"
+
+namespace tallymere {
+namespace {
+
+namespace fs = std::filesystem;
+using tallymere::testing::ScriptedPrompts;
+using tallymere::testing::TempFolder;
+using tallymere::testing::TestCompany;
+
+TEST(Company, ANewOneHoldsTheModelsRowsAndNoOthers) {
+  TestCompany acme;
+  auto& sets = acme.session->sets;
+  for (auto id : {"AR1", "AP1", "UF1", "RE1", "OE1"}) {
+    ASSERT_TRUE(sets.Accounts->Seek("=", id)) << id;
+    EXPECT_EQ((*sets.Accounts)["OpeningDate"].date(), Date(2026, 6, 15));
+  }
+  EXPECT_TRUE(sets.GeneralPrefs->Seek("=", "DefaultBank"));
+  EXPECT_EQ(sets.PayrollItems->RecordCount(), 6);
+  sets.CompanyInfo->MoveFirst();
+  EXPECT_EQ((*sets.CompanyInfo)["Name"].text() + (*sets.CompanyInfo)["UserMode"].text(), "AcmeSingle");
+  for (auto table : {"Transactions", "Customers", "Terms", "Employees", "Items"})
+    EXPECT_EQ(acme.db().value("SELECT COUNT(*) FROM " + std::string(table)).integer(), 0) << table;
+  EXPECT_EQ(acme.db().QueryDefs().at(0).name, "VENandCustList");
+  EXPECT_EQ(sets.Threshold->RecordCount() > 10, true) << "the shared sets are open too";
+  EXPECT_EQ(Main_Title(*acme.session), "Acme - Main Display");
+}
+
+TEST(Company, EveryFieldCanBeNamedInAQueryAsItStands) {
+  TestCompany company;
+  for (const TableDef& table : company_tables()) {
+    if (!company.db().find_table(table.name)) continue;
+    for (const FieldDef& field : table.fields) {
+      std::string name(field.name), from(table.name);
+      auto rows = company.db().OpenRecordset("SELECT " + name + " FROM " + from + " WHERE " + name +
+                                             " IS NOT NULL AND " + name + " <> '' ORDER BY " + name);
+      EXPECT_TRUE(rows.has_field(name)) << from;
+      company.run("UPDATE " + from + " SET " + name + " = " + name + " WHERE " + from + "." + name + " = ?",
+                  {""});
+    }
+  }
+}
+
+TEST(Company, ATakenNameIsRefusedAndNothingReplaced) {
+  TestCompany acme;
+  New_Company(*acme.session, "Acme");
+  EXPECT_EQ(acme.session->LastCompanyError, 3204);
+  ASSERT_EQ(acme.prompts.boxes.size(), 1u);
+  EXPECT_EQ(acme.prompts.boxes[0].text, "Company name already exisits.");
+  EXPECT_EQ(acme.db().value("SELECT Name FROM CompanyInfo").text(), "Acme");
+  for (auto name : {"", "../up", "a/b", "con:", ".hidden"})
+    EXPECT_THROW(New_Company(*acme.session, name), store::Error) << name;
+}
+
+TEST(Company, AFailedOpeningLeavesTheCurrentCompanyCurrent) {
+  TestCompany acme;
+  std::ofstream(acme.folder / "bad.cmf") << "not a database at all, only text of some length";
+  EXPECT_THROW(Open_Company_File(*acme.session, acme.folder / "bad.cmf"), store::Error);
+  EXPECT_THROW(Open_Company_File(*acme.session, acme.folder / "Model.mdb"), store::Error);
+  EXPECT_EQ(acme.session->CompanyFile, "Acme.cmf");
+  EXPECT_TRUE(acme.session->sets.Accounts->Seek("AR1"));
+  Close_Sets(*acme.session);
+  Set_Recordsets(*acme.session);
+  Close_Company_File(*acme.session);
+  EXPECT_FALSE(acme.session->dbCompany);
+}
+
+/// An older file lacks a table, fields and indexes: all come on opening, and what was there stays.
+TEST(Company, AnOlderFileIsBroughtUpToDateOnOpening) {
+  TestCompany acme;
+  {
+    store::Transaction tx(acme.db(), "make it old");
+    acme.db().connection().execute(
+        "DROP VIEW Transactions_decimal; DROP TABLE SavedReports; DROP INDEX Transactions_Account; DROP VIEW VENandCustList;"
+        "ALTER TABLE Transactions DROP COLUMN Rep; PRAGMA user_version = 0;"
+        "INSERT INTO Transactions (TransNum, Amount) VALUES (7, 70000)");
+    tx.commit();
+  }
+  acme.open(*acme.session);
+  EXPECT_EQ(acme.db().version(), schema_version);
+  EXPECT_TRUE(acme.db().find_table("Transactions")->find("Rep"));
+  EXPECT_TRUE(acme.db().find_table("SavedReports"));
+  EXPECT_EQ(acme.db().QueryDefs().size(), 1u);
+  EXPECT_EQ(acme.db().value("SELECT Amount FROM Transactions WHERE TransNum = 7").money(), Money::dollars(7));
+  EXPECT_EQ(acme.db().value("SELECT COUNT(*) FROM pragma_index_info('Transactions_Account')").integer(), 7);
+  EXPECT_EQ(acme.db().value("SELECT At FROM History ORDER BY RowKey DESC").text().substr(0, 10),
+            "2026-06-15");
+}
+
+TEST(Company, StepsOfAnUpgradeRunOnceInOrderAndAllOrNothing) {
+  static std::string ran;
+  ran.clear();
+  TestCompany acme;
+  const UpgradeStep steps[] = {{1, [](store::Database&) { ran += "1"; }},
+                               {schema_version + 1, [](store::Database&) { ran += "a"; }},
+                               {schema_version + 2, [](store::Database& db) {
+                                  ran += "b";
+                                  db.Execute("DELETE FROM Accounts");
+                                  if (ran == "ab") throw store::Error(3026, "The disk is full.");
+                                }}};
+  auto upgrade = [&] { Upgrade(acme.db(), store::FileKind::Company, steps, schema_version + 2); };
+  EXPECT_THROW(upgrade(), store::Error);
+  EXPECT_EQ(acme.db().version(), schema_version);
+  EXPECT_GT(acme.session->sets.Accounts->RecordCount(), 0);
+  upgrade();
+  upgrade();
+  EXPECT_EQ(ran, "abab");
+}
+
+TEST(Company, TheProgramsFolderIsPreparedOnceAndAMissingShipmentIsSaidPlainly) {
+  TempFolder folder;
+  EXPECT_THROW(Prepare_Folder(folder.path(), folder / "nowhere"), store::Error);
+  EXPECT_TRUE(fs::is_empty(folder.path()));
+  Prepare_Folder(folder.path(), DATA_DIR);
+  auto made = fs::last_write_time(folder / "Model.mdb");
+  Prepare_Folder(folder.path(), DATA_DIR);
+  EXPECT_EQ(fs::last_write_time(folder / "Model.mdb"), made);
+}
+
+TEST(Company, ANewYearAsksForTheBalancesOnce) {
+  TestCompany acme;
+  auto checked_on = [&](Date updated) {
+    store::Transaction tx(*acme.session->dbAccounts, "set");
+    acme.session->dbAccounts->Execute("UPDATE Settings SET Updated = ?", {updated});
+    tx.commit();
+    Main(*acme.session);
+    return acme.session->RecalcAll;
+  };
+  EXPECT_TRUE(checked_on(Date(2025, 12, 31)));
+  EXPECT_FALSE(checked_on(Date(2026, 1, 1)));
+  EXPECT_TRUE(acme.prompts.boxes.empty()) << "without an update host nothing is said";
+}
+
+TEST(Passwords, AreSaltedHashesComparedExactly) {
+  std::string kept = Hash_Password("Secret");
+  EXPECT_EQ(kept.find("Secret"), std::string::npos);
+  EXPECT_NE(kept, Hash_Password("Secret"));
+  EXPECT_TRUE(Password_Matches(kept, "Secret"));
+  for (auto wrong : {"secret", "Secret ", "", "Secre"}) EXPECT_FALSE(Password_Matches(kept, wrong)) << wrong;
+  EXPECT_TRUE(Password_Matches(Hash_Password(""), ""));
+  EXPECT_FALSE(Password_Matches("", "x"));
+}
+
+}  // namespace
+}  // namespace tallymere
