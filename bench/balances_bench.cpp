@@ -86,9 +86,9 @@ void Save_A_Check(benchmark::State& state) {
   Probe probe;
   int64_t number = 0;
   for (auto _ : state) {
-    Transaction_Writer rows(
-        *company.session,
-        {.TransNum = number, .Type = "Check", .Date = company.session->today(), .Name = "Person 7"}, probe);
+    Transaction_Writer rows(*company.session,
+                            {.TransNum = number, .Type = "Check", .Date = company.session->today(), .Name = "Person 7"},
+                            probe);
     rows.add({.Account = "0SS", .Credit = Money::dollars(10)});
     rows.add({.Account = "9SS", .Debit = Money::dollars(10)});
     rows.commit();

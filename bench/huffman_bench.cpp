@@ -15,10 +15,8 @@ constexpr std::size_t kLength = std::size_t{32} << 20;
 /// room.
 Bytes Company_Bytes() {
   std::mt19937 random(1031);
-  const char* const names[] = {"Acme Supply", "Harbor Electric", "Quillbrook Paper", "City of Marlow",
-                               "Payroll"};
-  const char* const memos[] = {"", "Invoice", "Office supplies for the front desk", "Monthly rent",
-                               "Deposit"};
+  const char* const names[] = {"Acme Supply", "Harbor Electric", "Quillbrook Paper", "City of Marlow", "Payroll"};
+  const char* const memos[] = {"", "Invoice", "Office supplies for the front desk", "Monthly rent", "Deposit"};
   Bytes bytes;
   bytes.reserve(kLength + 4096);
   while (bytes.size() < kLength) {
@@ -27,10 +25,9 @@ Bytes Company_Bytes() {
     while (bytes.size() + 160 < page_end) {
       char row[160];
       const int used = std::snprintf(row, sizeof row, "20%02u-%02u-%02u%s%s %u", unsigned(random() % 25),
-                                     unsigned(random() % 12 + 1), unsigned(random() % 28 + 1),
-                                     names[random() % 5], memos[random() % 5], unsigned(random() % 100000));
-      for (int i = 0; i < 12; ++i)
-        bytes.push_back(static_cast<std::uint8_t>(random() % (i % 4 == 0 ? 256 : 8)));
+                                     unsigned(random() % 12 + 1), unsigned(random() % 28 + 1), names[random() % 5],
+                                     memos[random() % 5], unsigned(random() % 100000));
+      for (int i = 0; i < 12; ++i) bytes.push_back(static_cast<std::uint8_t>(random() % (i % 4 == 0 ? 256 : 8)));
       for (int i = 0; i < 4; ++i) bytes.push_back(static_cast<std::uint8_t>(random()));
       bytes.insert(bytes.end(), row, row + used);
     }

@@ -17,9 +17,7 @@ testing::TestCompany& Busy_Company() {
   return company;
 }
 
-void Change_A_Row() {
-  Busy_Company().run("UPDATE Transactions SET Paid = Paid WHERE RowKey = 1");
-}
+void Change_A_Row() { Busy_Company().run("UPDATE Transactions SET Paid = Paid WHERE RowKey = 1"); }
 
 void Read_Ahead() {
   while (KeptLedger::Read_Ahead(Busy_Company().db())) {
@@ -60,9 +58,8 @@ const bool registered = [] {
     for (Basis basis : {Basis::Accrual, Basis::Cash})
       for (bool all_time : {false, true})
         for (Ledger ledger : {Asked_Afresh, Kept}) {
-          const std::string name =
-              std::string("Report/") + key + (basis == Basis::Cash ? "/cash" : "/accrual") +
-              (all_time ? "/all_time" : "/last_year") + (ledger == Kept ? "/kept" : "/afresh");
+          const std::string name = std::string("Report/") + key + (basis == Basis::Cash ? "/cash" : "/accrual") +
+                                   (all_time ? "/all_time" : "/last_year") + (ledger == Kept ? "/kept" : "/afresh");
           benchmark::RegisterBenchmark(name.c_str(), Report, key, basis, all_time, ledger)
               ->Unit(benchmark::kMillisecond);
         }

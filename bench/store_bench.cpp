@@ -7,12 +7,12 @@
 #include <filesystem>
 #include <map>
 
-#include "core/ledger/balances.h"
 #include "core/company/company.h"
 #include "core/company/folder.h"
 #include "core/company/program_folder.h"
-#include "core/store/recordset.h"
+#include "core/ledger/balances.h"
 #include "core/ledger/transaction_writer.h"
+#include "core/store/recordset.h"
 
 namespace {
 
@@ -78,11 +78,16 @@ struct BenchCompany {
   Session session;
 };
 
-const TransactionHead head{.TransNum = 0, .Type = "Check", .Date = Date(2026, 6, 15), .Number = "Print", .Name = "Acme",
+const TransactionHead head{.TransNum = 0,
+                           .Type = "Check",
+                           .Date = Date(2026, 6, 15),
+                           .Number = "Print",
+                           .Name = "Acme",
                            .Address = "Acme\r\n1 Main Street"};
-const LedgerRow check_rows[] = {{.Account = "0SS", .Category = "<-Break Down->", .Credit = Money::dollars(100), .Amount = Money::dollars(100)},
-                                {.Account = "66SS", .Category = "0SS", .Debit = Money::dollars(60), .Amount = Money::dollars(60)},
-                                {.Account = "76SS", .Category = "0SS", .Debit = Money::dollars(40), .Amount = Money::dollars(40)}};
+const LedgerRow check_rows[] = {
+    {.Account = "0SS", .Category = "<-Break Down->", .Credit = Money::dollars(100), .Amount = Money::dollars(100)},
+    {.Account = "66SS", .Category = "0SS", .Debit = Money::dollars(60), .Amount = Money::dollars(60)},
+    {.Account = "76SS", .Category = "0SS", .Debit = Money::dollars(40), .Amount = Money::dollars(40)}};
 
 void Save_Document(benchmark::State& state) {
   auto& company = BenchCompany::of(state.range(0));

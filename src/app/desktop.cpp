@@ -34,8 +34,7 @@ QMessageBox::Icon icon_of(Icon icon) {
   return QMessageBox::NoIcon;
 }
 
-int run_box(QWidget* above, const Box& box, QMessageBox::StandardButtons buttons,
-            QMessageBox::StandardButton usual) {
+int run_box(QWidget* above, const Box& box, QMessageBox::StandardButtons buttons, QMessageBox::StandardButton usual) {
   const ArrowPointer arrow;
   QString text = qt(box.text);
   text.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
@@ -57,17 +56,11 @@ QString filter_of(const std::string& filter) {
 }
 
 /// "cbk" of "Backup Files (*.cbk)|*.cbk".
-QString suffix_of(const std::string& filter) {
-  return qt(filter).section(QStringLiteral("*."), -1);
-}
+QString suffix_of(const std::string& filter) { return qt(filter).section(QStringLiteral("*."), -1); }
 
-bool is_file_work(const std::string& label) {
-  return label == "Backup" || label == "Restore";
-}
+bool is_file_work(const std::string& label) { return label == "Backup" || label == "Restore"; }
 
-bool is_paper_work(const std::string& label) {
-  return label == "Print" || label == "Save PDF";
-}
+bool is_paper_work(const std::string& label) { return label == "Print" || label == "Save PDF"; }
 
 }  // namespace
 
@@ -82,9 +75,7 @@ QWidget* DesktopPrompts::above() const {
   return active ? active : frame_.data();
 }
 
-void DesktopPrompts::box(const Box& box) {
-  run_box(above(), box, QMessageBox::Ok, QMessageBox::Ok);
-}
+void DesktopPrompts::box(const Box& box) { run_box(above(), box, QMessageBox::Ok, QMessageBox::Ok); }
 
 bool DesktopPrompts::ask(const Box& box, Buttons buttons) {
   const auto usual = buttons == Buttons::YesNoDefaultNo ? QMessageBox::No : QMessageBox::Yes;
@@ -92,16 +83,14 @@ bool DesktopPrompts::ask(const Box& box, Buttons buttons) {
 }
 
 std::optional<bool> DesktopPrompts::ask_or_stay(const Box& box) {
-  const int answer =
-      run_box(above(), box, QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, QMessageBox::Yes);
+  const int answer = run_box(above(), box, QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, QMessageBox::Yes);
   return answer == QMessageBox::Cancel ? std::nullopt : std::optional(answer == QMessageBox::Yes);
 }
 
 std::optional<std::string> DesktopPrompts::input(const std::string& title, const std::string& prompt) {
   const ArrowPointer arrow;
   bool answered = false;
-  const QString answer =
-      QInputDialog::getText(above(), qt(title), qt(prompt), QLineEdit::Normal, QString(), &answered);
+  const QString answer = QInputDialog::getText(above(), qt(title), qt(prompt), QLineEdit::Normal, QString(), &answered);
   return answered ? std::optional(utf8(answer)) : std::nullopt;
 }
 
@@ -181,9 +170,7 @@ void DesktopPrompts::hourglass(bool on) {
   on ? QApplication::setOverrideCursor(Qt::WaitCursor) : QApplication::restoreOverrideCursor();
 }
 
-void DesktopPrompts::sound(const std::string& file) {
-  Play_Sound(sounds_, file);
-}
+void DesktopPrompts::sound(const std::string& file) { Play_Sound(sounds_, file); }
 
 // --- the program ---------------------------------------------------------------------------------
 

@@ -37,13 +37,11 @@ Arguments read_arguments(const QApplication& app) {
   const QCommandLineOption screenshot(QStringLiteral("screenshot"),
                                       QStringLiteral("Draw the main window into FILE (.png) and exit."),
                                       QStringLiteral("FILE"));
-  const QCommandLineOption folder(QStringLiteral("folder"),
-                                  QStringLiteral("Keep databases, log and new companies in DIR."),
-                                  QStringLiteral("DIR"));
+  const QCommandLineOption folder(
+      QStringLiteral("folder"), QStringLiteral("Keep databases, log and new companies in DIR."), QStringLiteral("DIR"));
   parser.addOptions({screenshot, folder});
   parser.process(app);
-  return {utf8(parser.positionalArguments().value(0)), utf8(parser.value(screenshot)),
-          utf8(parser.value(folder))};
+  return {utf8(parser.positionalArguments().value(0)), utf8(parser.value(screenshot)), utf8(parser.value(folder))};
 }
 
 /// Draws the frame once it has settled. Nobody is there to answer what comes up on the way.

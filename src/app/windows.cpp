@@ -7,9 +7,9 @@
 #include "lists/frmModAccount.h"
 #include "lists/frmNewPayee.h"
 #include "lists/frmOtherNames.h"
-#include "reports/transactions/frmPrintCustom.h"
 #include "reports/profit/frmPrintPL2.h"
 #include "reports/saved/frmSavedReps.h"
+#include "reports/transactions/frmPrintCustom.h"
 #include "shell/frmMain.h"
 
 namespace tallymere {
@@ -28,8 +28,6 @@ const WindowTable& Windows() {
   return windows;
 }
 
-std::unique_ptr<frmMain> Make_Frame(Session& session) {
-  return std::make_unique<frmMain>(session, Windows());
-}
+std::unique_ptr<frmMain> Make_Frame(Session& session) { return std::make_unique<frmMain>(session, Windows()); }
 
 }  // namespace tallymere

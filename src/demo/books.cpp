@@ -30,9 +30,8 @@ Document& Books::Open_Check(std::string_view type, std::string_view payee, std::
   Document& check = Open(type);
   check.name = payee;
   check.address = address;
-  check.reference = days_between(day, plan.last_workday) < days_in_print_queue
-                        ? std::string(to_print)
-                        : std::to_string(next_check_++);
+  check.reference = days_between(day, plan.last_workday) < days_in_print_queue ? std::string(to_print)
+                                                                               : std::to_string(next_check_++);
   return check;
 }
 
@@ -44,8 +43,8 @@ void Books::Close(Document& document) {
   }
 }
 
-Document& Books::Entry(std::string_view debited, std::string_view credited, Money amount,
-                       std::string_view memo, std::string_view name) {
+Document& Books::Entry(std::string_view debited, std::string_view credited, Money amount, std::string_view memo,
+                       std::string_view name) {
   Document& entry = Open("Ledger Entry");
   entry.memo = memo;
   entry.name = name;

@@ -21,9 +21,7 @@ int Scaled(int64_t transactions, int small, int large) {
 }
 
 /// The larger the later: business grows by about a tenth a year.
-int64_t Weight(Date day, int index) {
-  return Is_Workday(day) ? season[day.month() - 1] * int64_t{3650 + index} : 0;
-}
+int64_t Weight(Date day, int index) { return Is_Workday(day) ? season[day.month() - 1] * int64_t{3650 + index} : 0; }
 
 }  // namespace
 

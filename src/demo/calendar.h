@@ -20,8 +20,7 @@ struct Plan {
   int employees = 0;
   int parts = 0;
   int days = 0;
-  bool bulk =
-      false;  ///< many small jobs and a busy desk, instead of few large ones; worth setting the indexes aside
+  bool bulk = false;  ///< many small jobs and a busy desk, instead of few large ones; worth setting the indexes aside
 
   int day_index(Date day) const { return days_between(first, day); }
   /// The number of transactions due by the end of a day, rising with the seasons and the years.

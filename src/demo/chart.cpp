@@ -27,11 +27,9 @@ constexpr std::array roles = {
     Role{&Chart::federal_withheld, "Federal Withholding Payable", "Current Liability", "Payroll Liabilities"},
     Role{&Chart::social_security, "Social Security Payable", "Current Liability", "Payroll Liabilities"},
     Role{&Chart::medicare, "Medicare Payable", "Current Liability", "Payroll Liabilities"},
-    Role{&Chart::federal_unemployment, "Federal Unemployment Payable", "Current Liability",
-         "Payroll Liabilities"},
+    Role{&Chart::federal_unemployment, "Federal Unemployment Payable", "Current Liability", "Payroll Liabilities"},
     Role{&Chart::state_withheld, "State Withholding Payable", "Current Liability", "Payroll Liabilities"},
-    Role{&Chart::state_unemployment, "State Unemployment Payable", "Current Liability",
-         "Payroll Liabilities"},
+    Role{&Chart::state_unemployment, "State Unemployment Payable", "Current Liability", "Payroll Liabilities"},
     Role{&Chart::deductions, "Employee Deductions Payable", "Current Liability", "Payroll Liabilities"},
     Role{&Chart::investment, "Owner's Investment", "Equity"},
     Role{&Chart::draw, "Owner's Draw", "Equity"},
@@ -86,10 +84,9 @@ std::string Free_CatID(store::Database& db) {
   }
 }
 
-std::string Find_Or_Add(store::Database& db, std::string_view name, std::string_view type,
-                        std::string_view parent, Date opening) {
-  const auto found =
-      db.value("SELECT CatID FROM Accounts WHERE AccountName = ? AND AccountType = ?", {name, type});
+std::string Find_Or_Add(store::Database& db, std::string_view name, std::string_view type, std::string_view parent,
+                        Date opening) {
+  const auto found = db.value("SELECT CatID FROM Accounts WHERE AccountName = ? AND AccountType = ?", {name, type});
   if (!found.blank()) return found.text();
   std::string id = Free_CatID(db);
   Add_Row(db, "Accounts",
@@ -108,8 +105,7 @@ std::string Find_Or_Add(store::Database& db, std::string_view name, std::string_
 
 Chart::Chart(store::Database& db, Date opening) {
   for (const Role& role : roles) {
-    const std::string parent =
-        role.parent.empty() ? "" : Find_Or_Add(db, role.parent, role.type, "", opening);
+    const std::string parent = role.parent.empty() ? "" : Find_Or_Add(db, role.parent, role.type, "", opening);
     this->*role.id = Find_Or_Add(db, role.name, role.type, parent, opening);
   }
 }

@@ -3,8 +3,8 @@
 #include <string>
 #include <string_view>
 
-#include "core/values/date.h"
 #include "core/store/database.h"
+#include "core/values/date.h"
 
 namespace tallymere::demo {
 
@@ -16,16 +16,14 @@ struct Chart {
   std::string checking, savings, card;
   std::string inventory, equipment, vehicles, depreciated;
   std::string sales_tax, credit_line, vehicle_loan;
-  std::string federal_withheld, social_security, medicare, federal_unemployment, state_withheld,
-      state_unemployment, deductions;
+  std::string federal_withheld, social_security, medicare, federal_unemployment, state_withheld, state_unemployment,
+      deductions;
   std::string investment, draw;
   std::string sales, services, design, installation, upkeep, shipping, finance, discounts, interest;
   std::string cost_of_goods, freight, materials, subcontractors;
   std::string advertising, fuel, repairs, vehicle_insurance, bank_charges, computer, depreciation, dues;
-  std::string liability_insurance, property_insurance, workers_insurance, loan_interest, adjustments,
-      licenses, meals;
-  std::string office, wages, payroll_taxes, benefits, postage, accounting, rent, maintenance, tools,
-      telephone;
+  std::string liability_insurance, property_insurance, workers_insurance, loan_interest, adjustments, licenses, meals;
+  std::string office, wages, payroll_taxes, benefits, postage, accounting, rent, maintenance, tools, telephone;
   std::string travel, electricity, heating, water;
 };
 

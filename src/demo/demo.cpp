@@ -18,8 +18,7 @@ constexpr int waiting_for_deposit = 4;  // days: the last payments still lie in 
 /// The people of the company and what each does on a day.
 class Year {
  public:
-  explicit Year(Books& books)
-      : books_(books), sales_(books), purchases_(books), payroll_(books), general_(books) {}
+  explicit Year(Books& books) : books_(books), sales_(books), purchases_(books), payroll_(books), general_(books) {}
 
   void Run();
 

@@ -56,10 +56,7 @@ void General::Pay_Loan() {
   const std::string_view bank = chart.checking;
   Document& check = books_.Open_Check("Check", vendor.name, vendor.address);
   check.add({.account = bank, .category = break_down, .credit = loan_payment, .memo = "Vehicle loan"});
-  check.add({.account = chart.vehicle_loan,
-             .category = bank,
-             .debit = loan_payment - interest,
-             .memo = "Principal"});
+  check.add({.account = chart.vehicle_loan, .category = bank, .debit = loan_payment - interest, .memo = "Principal"});
   check.add({.account = chart.loan_interest, .category = bank, .debit = interest, .memo = "Interest"});
   loan_ -= loan_payment - interest;
   books_.Close(check);

@@ -18,8 +18,7 @@ constexpr std::array services = {
     Work{"Design", "", &Chart::design, 95, "Garden design, per hour"},
     Work{"Consultation", "", &Chart::services, 80, "Consultation on site, per hour"},
     Work{"Installation", "", &Chart::installation, 65, "Installation crew, per hour"},
-    Work{"Lighting Installation", "Installation", &Chart::installation, 72,
-         "Lighting installation, per hour"},
+    Work{"Lighting Installation", "Installation", &Chart::installation, 72, "Lighting installation, per hour"},
     Work{"Paving", "Installation", &Chart::installation, 78, "Paving crew, per hour"},
     Work{"Maintenance", "", &Chart::upkeep, 58, "Maintenance visit, per hour"},
     Work{"Mowing", "Maintenance", &Chart::upkeep, 52, "Mowing and edging, per hour"},
@@ -54,9 +53,7 @@ constexpr std::array wares = {
     Ware{"Fertilizer", 3275, 1760, "Lawn fertilizer, 40 pounds"},
 };
 
-Money Cents(int64_t cents) {
-  return Money::from_units(cents * 100);
-}
+Money Cents(int64_t cents) { return Money::from_units(cents * 100); }
 
 }  // namespace
 
@@ -72,9 +69,7 @@ Item& ItemList::Add(std::string_view name, std::string_view type, std::string_vi
   return item;
 }
 
-Item* ItemList::find(std::string_view name) {
-  return &*std::ranges::find(all, name, &Item::name);
-}
+Item* ItemList::find(std::string_view name) { return &*std::ranges::find(all, name, &Item::name); }
 
 ItemList::ItemList(const Plan& plan, const Chart& chart, const Parties& parties, Random& random) {
   all.reserve(services.size() + goods.size() + static_cast<size_t>(plan.parts) + 10);
@@ -83,17 +78,14 @@ ItemList::ItemList(const Plan& plan, const Chart& chart, const Parties& parties,
     all.back().parent = work.parent;
   }
   for (const Work& work : demo::goods)
-    Add(work.name, "Non-Inventory Part", chart.*work.category, Money::dollars(work.price), work.description,
-        true);
+    Add(work.name, "Non-Inventory Part", chart.*work.category, Money::dollars(work.price), work.description, true);
   Make_Parts(plan.parts, chart, parties, random);
   Add("Delivery", "Other Charge", chart.shipping, Money::dollars(45), "Delivery to the site");
-  Add("Loyalty Discount", "Discount", chart.discounts, Money::dollars(-25), "For long-standing customers",
-      true);
+  Add("Loyalty Discount", "Discount", chart.discounts, Money::dollars(-25), "For long-standing customers", true);
   Add("Subtotal", "Subtotal", "", Money(), "Subtotal");
   Add("Path Lighting Package", "Group", "", Money(), "Six path lights, installed");
   Add("Payment on Account", "Payment", "", Money(), "Payment received with the order");
-  Add("State Sales Tax", "Sales Tax", chart.sales_tax, Money::from_units(625),
-      "Sales tax, State of Illinois");
+  Add("State Sales Tax", "Sales Tax", chart.sales_tax, Money::from_units(625), "Sales tax, State of Illinois");
   Add("City Sales Tax", "Sales Tax", chart.sales_tax, Money::from_units(100), "Sales tax, City of Rockford");
   for (Item& item : all) {
     if (item.type == "Service") services.push_back(&item);
@@ -101,8 +93,7 @@ ItemList::ItemList(const Plan& plan, const Chart& chart, const Parties& parties,
     if (item.is_part()) parts.push_back(&item);
   }
   delivery = find("Delivery"), discount = find("Loyalty Discount"), subtotal = find("Subtotal");
-  group = find("Path Lighting Package"), state_tax = find("State Sales Tax"),
-  city_tax = find("City Sales Tax");
+  group = find("Path Lighting Package"), state_tax = find("State Sales Tax"), city_tax = find("City Sales Tax");
   light = find("Path Light"), lighting_work = find("Lighting Installation");
 }
 
@@ -111,8 +102,7 @@ void ItemList::Make_Parts(int count, const Chart& chart, const Parties& parties,
     const Ware& ware = wares[static_cast<size_t>(index) % wares.size()];
     const int model = index / static_cast<int>(wares.size());
     const std::string name = std::string(ware.name) + (model ? " " + std::to_string(model + 1) : "");
-    Item& part =
-        Add(name, "Inventory Part", chart.sales, Cents(ware.price + model * 175), ware.description, true);
+    Item& part = Add(name, "Inventory Part", chart.sales, Cents(ware.price + model * 175), ware.description, true);
     part.cost = Cents(ware.cost + model * 95);
     part.purchase_description = ware.description;
     part.cost_category = chart.cost_of_goods;
@@ -169,10 +159,7 @@ void ItemList::Write(store::Database& db, Date opening) const {
   }
   for (const auto& [member, qty] : {std::pair{light, lights_in_group}, {lighting_work, hours_in_group}})
     Add_Row(db, "ItemGroups",
-            {{"GroupName", group->name},
-             {"Item", member->name},
-             {"Description", member->description},
-             {"Qty", qty}});
+            {{"GroupName", group->name}, {"Item", member->name}, {"Description", member->description}, {"Qty", qty}});
   Add_Row(db, "ItemGroups",
           {{"GroupName", group->name}, {"Item", subtotal->name}, {"Description", subtotal->description}});
 }

@@ -153,9 +153,8 @@ void Loader::Write_Row(const Document& document, const Posting& row) {
   set.text_or(SourceName, row.source_name, document.source_name);
   set.flag(Cleared, Is_Cleared(document, row));
   if (document.keeps_received)
-    statement.bind(AmountReceived, document.received.is_zero()
-                                       ? Money()
-                                       : row.amount().share(document.received, document.total.abs()));
+    statement.bind(AmountReceived,
+                   document.received.is_zero() ? Money() : row.amount().share(document.received, document.total.abs()));
   statement.run();
 }
 

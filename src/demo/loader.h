@@ -3,8 +3,8 @@
 #include <deque>
 #include <memory>
 
-#include "demo/document.h"
 #include "core/store/database.h"
+#include "demo/document.h"
 
 namespace tallymere::demo {
 

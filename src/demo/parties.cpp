@@ -10,8 +10,8 @@ namespace tallymere::demo {
 namespace {
 
 constexpr auto standing_vendors = std::to_array<std::string_view>(
-    {treasury, state_revenue, state_employment, city_hall, retirement_plan, health_plan, landlord, bank_name,
-     card_bank, electric_company, gas_company, water_company, telephone_company, insurer, bookkeeper});
+    {treasury, state_revenue, state_employment, city_hall, retirement_plan, health_plan, landlord, bank_name, card_bank,
+     electric_company, gas_company, water_company, telephone_company, insurer, bookkeeper});
 
 constexpr int least_suppliers = 6;
 
@@ -29,8 +29,7 @@ std::string Unique(std::set<std::string>& taken, const std::string& name, Random
   if (taken.insert(name).second) return name;
   const std::string in_town = name + " of " + std::string(random.pick(words::places).city);
   std::string candidate = in_town;
-  for (int count = 2; !taken.insert(candidate).second; ++count)
-    candidate = in_town + " " + std::to_string(count);
+  for (int count = 2; !taken.insert(candidate).second; ++count) candidate = in_town + " " + std::to_string(count);
   return candidate;
 }
 
@@ -54,8 +53,7 @@ Form1099 Form_Of(const Parties& parties, const Vendor& vendor, const Chart& char
 
 std::string Street_And_Place(Random& random) {
   const auto& place = random.pick(words::places);
-  std::string street =
-      std::to_string(random.between(10, 4900)) + " " + std::string(random.pick(words::streets));
+  std::string street = std::to_string(random.between(10, 4900)) + " " + std::string(random.pick(words::streets));
   return street + "\r\n" + std::string(place.city) + ", IL " + std::string(place.zip);
 }
 
@@ -72,8 +70,7 @@ void Parties::Make_Customers(int count, Random& random) {
       const Customer& parent = random.pick(customers);
       customer.parent = parent.name;
       customer.address = parent.address;
-      customer.name =
-          Unique(names_, parent.name + " - " + std::string(random.pick(words::job_names)), random);
+      customer.name = Unique(names_, parent.name + " - " + std::string(random.pick(words::job_names)), random);
     } else {
       customer.name = Unique(names_, random.chance(55) ? Firm(random) : Person(random), random);
       customer.address = customer.name + "\r\n" + Street_And_Place(random);
@@ -100,16 +97,13 @@ void Parties::Make_Vendors(int count, Random& random) {
   for (int index = 0; index < made; ++index) {
     const bool supplier = index % 3 != 2;
     std::string name(random.pick(words::last_names));
-    name += " " + std::string(supplier ? random.pick(words::supplier_kinds)
-                                       : random.pick(words::subcontractor_kinds));
+    name += " " + std::string(supplier ? random.pick(words::supplier_kinds) : random.pick(words::subcontractor_kinds));
     Vendor& vendor = add(Unique(names_, name, random), random.pick(words::terms));
     (supplier ? suppliers : subcontractors).push_back(&vendor);
   }
 }
 
-const Vendor& Parties::vendor(std::string_view name) const {
-  return *std::ranges::find(vendors, name, &Vendor::name);
-}
+const Vendor& Parties::vendor(std::string_view name) const { return *std::ranges::find(vendors, name, &Vendor::name); }
 
 void Parties::Write(store::Database& db, const Chart& chart) const {
   for (const Customer& customer : customers)
@@ -145,8 +139,7 @@ void Parties::Write(store::Database& db, const Chart& chart) const {
 void Write_Small_Lists(store::Database& db) {
   auto fill = [&db](std::string_view table, std::string_view field, const auto& names) {
     for (std::string_view name : names)
-      if (db.value("SELECT 1 FROM " + std::string(table) + " WHERE " + std::string(field) + " = ?", {name})
-              .is_null())
+      if (db.value("SELECT 1 FROM " + std::string(table) + " WHERE " + std::string(field) + " = ?", {name}).is_null())
         Add_Row(db, table, {{field, name}});
   };
   fill("Class", "Class", words::classes);

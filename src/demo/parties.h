@@ -4,11 +4,11 @@
 #include <string>
 #include <vector>
 
+#include "core/store/database.h"
 #include "demo/calendar.h"
 #include "demo/chart.h"
 #include "demo/document.h"
 #include "demo/random.h"
-#include "core/store/database.h"
 
 namespace tallymere::demo {
 

@@ -15,9 +15,7 @@ constexpr Money social_limit = Money::dollars(184500);
 constexpr Money federal_unemployment_limit = Money::dollars(7000);
 constexpr Money state_unemployment_limit = Money::dollars(14250);
 
-Money Cents_Of(Money base, double rate) {
-  return base.times(rate).rounded_to_cents();
-}
+Money Cents_Of(Money base, double rate) { return base.times(rate).rounded_to_cents(); }
 
 std::string Padded(Date day) {
   char text[16];
@@ -154,8 +152,7 @@ void Payroll::Set_Up_Year() {
   for (Employee& person : staff_.employees) {
     const Money earned =
         (person.salaried ? person.rate.times(1.0 / pay_periods) : person.rate.times(80)).times(periods);
-    const Money gross = earned.rounded_to_cents(), social = Cents_Of(gross, 0.062),
-                medicare = Cents_Of(gross, 0.0145);
+    const Money gross = earned.rounded_to_cents(), social = Cents_Of(gross, 0.062), medicare = Cents_Of(gross, 0.0145);
     Document& set_up = books_.Open("YTD Adjust");
     set_up.name = person.name;
     set_up.ss_num = person.ss_num;
@@ -174,9 +171,7 @@ void Payroll::Set_Up_Year() {
 
 // --- liabilities ---------------------------------------------------------------------------------
 
-void Payroll::Month_Has_Ended() {
-  due_ = owed_;
-}
+void Payroll::Month_Has_Ended() { due_ = owed_; }
 
 void Payroll::Pay_Agencies(bool quarter) {
   std::vector<std::string> agencies;
@@ -222,10 +217,8 @@ void Payroll::Correct_Rate() {
   const Money amount = books_.between(20, 60);
   Document& adjustment = books_.Open("Liability Adjust");
   adjustment.memo = "Payroll Liability Adjustment";
-  adjustment.add(
-      {.account = item.liability, .category = break_down, .debit = amount, .payroll_item = item.name});
-  adjustment.add(
-      {.account = item.expense, .category = break_down, .credit = amount, .payroll_item = item.name});
+  adjustment.add({.account = item.liability, .category = break_down, .debit = amount, .payroll_item = item.name});
+  adjustment.add({.account = item.expense, .category = break_down, .credit = amount, .payroll_item = item.name});
   books_.Close(adjustment);
   books_.On(books_.day.plus_days(24), [this, &item, amount] {
     Document& refund = books_.Open("Liability Adjust");

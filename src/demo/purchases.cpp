@@ -43,10 +43,9 @@ constexpr std::array counter_purchases = {
     Small_Expense{&Chart::repairs, 90, 640},     Small_Expense{&Chart::postage, 12, 60},
     Small_Expense{&Chart::maintenance, 60, 350}, Small_Expense{&Chart::licenses, 35, 150},
     Small_Expense{&Chart::advertising, 80, 420}};
-constexpr std::array card_purchases = {
-    Small_Expense{&Chart::fuel, 35, 140}, Small_Expense{&Chart::meals, 14, 85},
-    Small_Expense{&Chart::computer, 20, 160}, Small_Expense{&Chart::travel, 60, 480},
-    Small_Expense{&Chart::dues, 25, 120}};
+constexpr std::array card_purchases = {Small_Expense{&Chart::fuel, 35, 140}, Small_Expense{&Chart::meals, 14, 85},
+                                       Small_Expense{&Chart::computer, 20, 160}, Small_Expense{&Chart::travel, 60, 480},
+                                       Small_Expense{&Chart::dues, 25, 120}};
 
 constexpr int look_ahead = 7;  // days
 
@@ -62,9 +61,7 @@ std::string Bill_Number(Random& random) {
 
 }  // namespace
 
-std::string_view Purchases::class_name() {
-  return books_.random.chance(60) ? books_.random.pick(words::classes) : "";
-}
+std::string_view Purchases::class_name() { return books_.random.chance(60) ? books_.random.pick(words::classes) : ""; }
 
 // --- bills ---------------------------------------------------------------------------------------
 
@@ -102,21 +99,15 @@ void Purchases::Monthly_Overhead() {
       const std::string_view bank = books_.chart.checking;
       Document& check = books_.Open_Check("Check", vendor.name, vendor.address);
       check.add({.account = bank, .category = category, .credit = amount, .memo = overhead.memo});
-      check.add({.account = category,
-                 .category = bank,
-                 .debit = amount,
-                 .memo = overhead.memo,
-                 .class_name = "Office"});
+      check.add(
+          {.account = category, .category = bank, .debit = amount, .memo = overhead.memo, .class_name = "Office"});
       check_template_ = check.number, check_amount_ = amount;
       books_.Close(check);
       continue;
     }
     Document& bill = Open_Bill("Bill", vendor);
-    bill.add({.account = category,
-              .category = payable,
-              .debit = amount,
-              .memo = overhead.memo,
-              .class_name = "Office"});
+    bill.add(
+        {.account = category, .category = payable, .debit = amount, .memo = overhead.memo, .class_name = "Office"});
     Close_Bill(bill, overhead.memo);
     if (overhead.category == &Chart::telephone) bill_template_ = bill.number, bill_amount_ = amount;
   }
@@ -138,10 +129,8 @@ void Purchases::Supplier_Bill() {
               .source_name = random.chance(50) ? std::string_view(job.name) : ""});
   }
   if (!labor && random.chance(35))
-    bill.add({.account = books_.chart.freight,
-              .category = payable,
-              .debit = books_.between(18, 85),
-              .memo = "Freight"});
+    bill.add(
+        {.account = books_.chart.freight, .category = payable, .debit = books_.between(18, 85), .memo = "Freight"});
   Close_Bill(bill);
 }
 
@@ -163,9 +152,7 @@ void Purchases::Reorder_Stock() {
     if (part->stock < part->reorder && orders++ < orders_a_day) Order_Part(*part);
 }
 
-void Purchases::Order_Ahead() {
-  Order_Part(**std::ranges::min_element(books_.items.parts, {}, &Item::stock));
-}
+void Purchases::Order_Ahead() { Order_Part(**std::ranges::min_element(books_.items.parts, {}, &Item::stock)); }
 
 /// The order; some days later the goods, and with them or soon after the bill under the receipt's number.
 void Purchases::Order_Part(Item& part) {
@@ -213,8 +200,7 @@ std::vector<Purchases::Due> Purchases::Due_Bills(Date until) {
   std::vector<Due> due;
   for (Document* bill : unpaid_) {
     if (bill->due > until) continue;
-    auto found =
-        std::ranges::find(due, bill->name, [](const Due& d) { return std::string_view(d.vendor->name); });
+    auto found = std::ranges::find(due, bill->name, [](const Due& d) { return std::string_view(d.vendor->name); });
     if (found == due.end()) found = due.insert(due.end(), {&books_.parties.vendor(bill->name), {}});
     found->bills.push_back(bill);
   }
@@ -271,10 +257,8 @@ void Purchases::Expense_Check() {
   for (int line = 0; line < lines; ++line) {
     const Small_Expense& expense = random.pick(counter_purchases);
     const Money amount = books_.between(expense.low, expense.high);
-    check.add({.account = books_.chart.*expense.category,
-               .category = bank,
-               .debit = amount,
-               .class_name = class_name()});
+    check.add(
+        {.account = books_.chart.*expense.category, .category = bank, .debit = amount, .class_name = class_name()});
     check.total += amount;
   }
   check.rows[0].credit = check.total;
@@ -301,8 +285,7 @@ void Purchases::Item_Check() {
   books_.Close(check);
 }
 
-void Purchases::Card_Entry(std::string_view category, Money amount, std::string_view name,
-                           std::string_view memo) {
+void Purchases::Card_Entry(std::string_view category, Money amount, std::string_view name, std::string_view memo) {
   Document& charge = books_.Open("Ledger Entry");
   charge.name = name;
   charge.memo = memo;

@@ -8,9 +8,7 @@
 namespace tallymere::demo {
 namespace {
 
-Line Line_Of(const Item& item, double qty) {
-  return {&item, qty, item.price.times(qty), item.taxable};
-}
+Line Line_Of(const Item& item, double qty) { return {&item, qty, item.price.times(qty), item.taxable}; }
 
 /// Rounded to cents with a nudge of a tenth of a cent, as the invoice reckons its tax lines.
 Money Tax_On(Money taxable, Money rate) {
@@ -48,8 +46,7 @@ std::vector<Line> Sales::Make_Lines() {
 
 void Sales::Add_Service(std::vector<Line>& lines) {
   const Item& item = *books_.random.pick(books_.items.services);
-  lines.push_back(
-      Line_Of(item, books_.plan.bulk ? books_.random.between(1, 5) : books_.random.between(4, 20)));
+  lines.push_back(Line_Of(item, books_.plan.bulk ? books_.random.between(1, 5) : books_.random.between(4, 20)));
 }
 
 void Sales::Add_Goods(std::vector<Line>& lines) {
@@ -157,13 +154,11 @@ void Sales::Plan_Payment(Customer& customer, Document& invoice) {
   const int days = std::clamp(customer.days + customer.habit + books_.random.between(-3, 3), 0, 100);
   const bool in_parts = invoice.total > Money::dollars(200) && books_.random.chance(10);
   if (!in_parts) {
-    books_.On(books_.day.plus_days(days),
-              [this, &customer, &invoice] { Receive(customer, invoice, invoice.open()); });
+    books_.On(books_.day.plus_days(days), [this, &customer, &invoice] { Receive(customer, invoice, invoice.open()); });
     return;
   }
   const Money half = invoice.total.times(0.4).rounded_to_cents();
-  books_.On(books_.day.plus_days(days),
-            [this, &customer, &invoice, half] { Receive(customer, invoice, half); });
+  books_.On(books_.day.plus_days(days), [this, &customer, &invoice, half] { Receive(customer, invoice, half); });
   books_.On(books_.day.plus_days(days + 18),
             [this, &customer, &invoice] { Receive(customer, invoice, invoice.open()); });
 }
@@ -228,10 +223,8 @@ void Sales::Write_Deposit(std::span<Document* const> payments) {
                .name = single ? payments.front()->name : std::string_view()});
   for (Document* payment : payments) {
     payment->paid = true;
-    deposit.add({.account = undeposited,
-                 .category = books_.chart.checking,
-                 .credit = payment->total,
-                 .name = payment->name});
+    deposit.add(
+        {.account = undeposited, .category = books_.chart.checking, .credit = payment->total, .name = payment->name});
   }
   books_.Close(deposit);
 }

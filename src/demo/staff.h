@@ -9,19 +9,14 @@ namespace tallymere::demo {
 
 /// Payroll items that the company adds to the federal ones it came with.
 namespace pay_items {
-inline constexpr std::string_view hourly = "Hourly Wage", salary = "Salary", overtime = "Overtime",
-                                  sick = "Sick Pay", vacation = "Vacation Pay", bonus = "Bonus",
-                                  commission = "Sales Commission", retirement = "401(k) Deduction",
-                                  match = "401(k) Match", health = "Health Insurance",
-                                  state_tax = "Illinois Withholding",
-                                  state_unemployment = "Illinois Unemployment",
+inline constexpr std::string_view hourly = "Hourly Wage", salary = "Salary", overtime = "Overtime", sick = "Sick Pay",
+                                  vacation = "Vacation Pay", bonus = "Bonus", commission = "Sales Commission",
+                                  retirement = "401(k) Deduction", match = "401(k) Match", health = "Health Insurance",
+                                  state_tax = "Illinois Withholding", state_unemployment = "Illinois Unemployment",
                                   training = "Workforce Training Tax";
-inline constexpr std::string_view federal = "Federal Withholding",
-                                  social_employee = "Social Security Employee",
-                                  social_company = "Social Security Company",
-                                  medicare_employee = "Medicare Employee",
-                                  medicare_company = "Medicare Company",
-                                  federal_unemployment = "Federal Unemployment";
+inline constexpr std::string_view federal = "Federal Withholding", social_employee = "Social Security Employee",
+                                  social_company = "Social Security Company", medicare_employee = "Medicare Employee",
+                                  medicare_company = "Medicare Company", federal_unemployment = "Federal Unemployment";
 }  // namespace pay_items
 
 inline constexpr double retirement_rate = 0.04, match_rate = 0.02;

@@ -27,9 +27,8 @@ void Write_Budget(Books& books) {
                {"Amount", books.sized(Money::dollars(planned.monthly)).rounded_to_cents()}});
 }
 
-void Write_Repeat(Books& books, std::string_view name, std::string_view type, int64_t number,
-                  std::string_view category, Money amount, std::string_view frequency,
-                  store::Value remaining) {
+void Write_Repeat(Books& books, std::string_view name, std::string_view type, int64_t number, std::string_view category,
+                  Money amount, std::string_view frequency, store::Value remaining) {
   if (number == 0) return;
   Add_Row(books.db, "RepeatTrans",
           {{"Name", name},
@@ -74,12 +73,11 @@ void Write_Company_Info(store::Database& db, const std::string& name) {
 }
 
 void Write_Standing_Work(Books& books, const Sales& sales, const Purchases& purchases) {
-  Write_Repeat(books, "Rent", "Check", purchases.check_template(), books.chart.checking,
-               purchases.check_amount(), "Monthly", {});
-  Write_Repeat(books, "Telephone", "Bill", purchases.bill_template(), payable, purchases.bill_amount(),
+  Write_Repeat(books, "Rent", "Check", purchases.check_template(), books.chart.checking, purchases.check_amount(),
                "Monthly", {});
-  Write_Repeat(books, "Maintenance contract", "Invoice", sales.repeat_template(), receivable,
-               sales.repeat_amount(), "Monthly", 6);
+  Write_Repeat(books, "Telephone", "Bill", purchases.bill_template(), payable, purchases.bill_amount(), "Monthly", {});
+  Write_Repeat(books, "Maintenance contract", "Invoice", sales.repeat_template(), receivable, sales.repeat_amount(),
+               "Monthly", 6);
   Write_Saved_Reports(books.db);
   Write_Budget(books);
 }

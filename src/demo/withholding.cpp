@@ -10,9 +10,7 @@ struct Bracket {
   Money over, base;  // a year
   double rate;
 };
-constexpr Money D(int dollars) {
-  return Money::dollars(dollars);
-}
+constexpr Money D(int dollars) { return Money::dollars(dollars); }
 constexpr std::array<Bracket, 5> single = {{{D(7500), D(0), 0.10},
                                             {D(19900), D(1240), 0.12},
                                             {D(57900), D(5800), 0.22},
@@ -24,9 +22,7 @@ constexpr std::array<Bracket, 5> joint = {{{D(19300), D(0), 0.10},
                                            {D(230700), D(35932), 0.24},
                                            {D(422850), D(82048), 0.32}}};
 
-Money Per_Period(Money a_year) {
-  return a_year.share(Money::dollars(1), Money::dollars(pay_periods));
-}
+Money Per_Period(Money a_year) { return a_year.share(Money::dollars(1), Money::dollars(pay_periods)); }
 
 }  // namespace
 
@@ -44,8 +40,6 @@ Money Illinois_Withholding(Money taxable, int allowances) {
   return std::max(over, Money()).times(0.0495).rounded_to_cents();
 }
 
-Money Under_Limit(Money gross, Money year_gross, Money limit) {
-  return std::clamp(limit - year_gross, Money(), gross);
-}
+Money Under_Limit(Money gross, Money year_gross, Money limit) { return std::clamp(limit - year_gross, Money(), gross); }
 
 }  // namespace tallymere::demo

@@ -15,13 +15,12 @@ inline constexpr auto first_names = std::to_array<Text>(
      "Edward", "Françoise", "George",   "Helen",  "Ivan",   "Judith", "Kevin", "Laura",   "Miguel", "Nora"});
 
 inline constexpr auto last_names = std::to_array<Text>(
-    {"Abbott",  "Becker",   "Castillo", "Dvořák",    "Ellis",   "Fischer",  "Gallagher", "Hoffman",
-     "Ibáñez",  "Jensen",   "Kowalski", "Lindqvist", "Muñoz",   "Nakamura", "O'Brien",   "Petersen",
-     "Quigley", "Ramírez",  "Schmidt",  "Thornton",  "Ueda",    "Vance",    "Whitaker",  "Xiong",
-     "Yates",   "Zimmer",   "Åkesson",  "D'Angelo",  "Léger",   "Brennan",  "Crawford",  "Duncan",
-     "Eriksen", "Fontaine", "Greene",   "Holloway",  "Iverson", "Juárez",   "Kemp",      "Larkin",
-     "Mercer",  "Novak",    "O'Malley", "Prescott",  "Reyes",   "Sandoval", "Tillman",   "Underhill",
-     "Vasquez", "Wexler"});
+    {"Abbott",   "Becker",   "Castillo",  "Dvořák",   "Ellis",    "Fischer", "Gallagher", "Hoffman",  "Ibáñez",
+     "Jensen",   "Kowalski", "Lindqvist", "Muñoz",    "Nakamura", "O'Brien", "Petersen",  "Quigley",  "Ramírez",
+     "Schmidt",  "Thornton", "Ueda",      "Vance",    "Whitaker", "Xiong",   "Yates",     "Zimmer",   "Åkesson",
+     "D'Angelo", "Léger",    "Brennan",   "Crawford", "Duncan",   "Eriksen", "Fontaine",  "Greene",   "Holloway",
+     "Iverson",  "Juárez",   "Kemp",      "Larkin",   "Mercer",   "Novak",   "O'Malley",  "Prescott", "Reyes",
+     "Sandoval", "Tillman",  "Underhill", "Vasquez",  "Wexler"});
 
 inline constexpr auto business_kinds = std::to_array<Text>({"Dental Group",
                                                             "Properties",
@@ -50,14 +49,13 @@ inline constexpr auto business_kinds = std::to_array<Text>({"Dental Group",
                                                             "Hotel",
                                                             "Insurance Agency"});
 
-inline constexpr auto job_names =
-    std::to_array<Text>({"North Lot", "Front Entrance", "Courtyard", "Parking Lot", "Rear Garden",
-                         "Irrigation", "East Wing", "Patio"});
+inline constexpr auto job_names = std::to_array<Text>(
+    {"North Lot", "Front Entrance", "Courtyard", "Parking Lot", "Rear Garden", "Irrigation", "East Wing", "Patio"});
 
-inline constexpr auto streets = std::to_array<Text>(
-    {"Main Street", "Oak Avenue", "Prairie Road", "River Drive", "Church Street", "Lincoln Highway",
-     "Elm Street", "State Street", "Mill Road", "Harrison Avenue", "Spring Creek Road", "Jefferson Street",
-     "Rural Route 2", "Charles Street", "Orchard Lane", "Sunset Boulevard"});
+inline constexpr auto streets =
+    std::to_array<Text>({"Main Street", "Oak Avenue", "Prairie Road", "River Drive", "Church Street", "Lincoln Highway",
+                         "Elm Street", "State Street", "Mill Road", "Harrison Avenue", "Spring Creek Road",
+                         "Jefferson Street", "Rural Route 2", "Charles Street", "Orchard Lane", "Sunset Boulevard"});
 
 struct Place {
   Text city, zip;
@@ -73,9 +71,9 @@ inline constexpr auto places = std::to_array<Place>({{"Rockford", "61101"},
                                                      {"Dixon", "61021"},
                                                      {"Rochelle", "61068"}});
 
-inline constexpr auto supplier_kinds = std::to_array<Text>(
-    {"Nursery", "Stone & Gravel", "Irrigation Supply", "Turf Farm", "Garden Wholesale", "Lumber",
-     "Lighting Supply", "Equipment", "Tool Company", "Packaging", "Hardware", "Seed Company"});
+inline constexpr auto supplier_kinds =
+    std::to_array<Text>({"Nursery", "Stone & Gravel", "Irrigation Supply", "Turf Farm", "Garden Wholesale", "Lumber",
+                         "Lighting Supply", "Equipment", "Tool Company", "Packaging", "Hardware", "Seed Company"});
 
 inline constexpr auto subcontractor_kinds =
     std::to_array<Text>({"Excavating", "Concrete", "Electric", "Tree Service", "Masonry", "Fencing"});
@@ -83,26 +81,23 @@ inline constexpr auto subcontractor_kinds =
 inline constexpr auto check_memos = std::to_array<Text>(
     {"Supplies for the yard", "Job site", "Weekly run", "Counter purchase", "Replacement", "For the office"});
 
-inline constexpr auto messages =
-    std::to_array<Text>({"Thank you for your business.", "We appreciate your prompt payment.",
-                         "It's been a pleasure working with you!", "Please remit to the address above.",
-                         "Ask us about spring clean-up."});
+inline constexpr auto messages = std::to_array<Text>(
+    {"Thank you for your business.", "We appreciate your prompt payment.", "It's been a pleasure working with you!",
+     "Please remit to the address above.", "Ask us about spring clean-up."});
 
-inline constexpr auto payment_methods =
-    std::to_array<Text>({"Check", "Cash", "Credit Card", "Bank Transfer"});
+inline constexpr auto payment_methods = std::to_array<Text>({"Check", "Cash", "Credit Card", "Bank Transfer"});
 inline constexpr auto shipping_methods =
     std::to_array<Text>({"Our Truck", "Customer Pick-up", "Freight Line", "Parcel Service"});
 inline constexpr auto classes = std::to_array<Text>({"Design/Build", "Maintenance", "Retail", "Office"});
 inline constexpr auto reps = std::to_array<Text>({"AB", "CR", "MÓ"});
 inline constexpr Text owner = "José Núñez (owner)";
-inline constexpr auto other_names =
-    std::to_array<Text>({"Cash", "Petty Cash Custodian", "County Clerk", owner});
+inline constexpr auto other_names = std::to_array<Text>({"Cash", "Petty Cash Custodian", "County Clerk", owner});
 
 struct Term {
   Text name;
   int days;
 };
-inline constexpr auto terms = std::to_array<Term>(
-    {{"Due on Receipt", 0}, {"Net 10", 10}, {"Net 15", 15}, {"Net 30", 30}, {"Net 45", 45}});
+inline constexpr auto terms =
+    std::to_array<Term>({{"Due on Receipt", 0}, {"Net 10", 10}, {"Net 15", 15}, {"Net 30", 30}, {"Net 45", 45}});
 
 }  // namespace tallymere::demo::words

@@ -12,23 +12,20 @@ enum { Name, Key };
 
 }  // namespace
 
-SmallListForm::SmallListForm(Shell& shell_of_frame, const char* name, const char* grid_name,
-                             const SmallList& list)
+SmallListForm::SmallListForm(Shell& shell_of_frame, const char* name, const char* grid_name, const SmallList& list)
     : Form(shell_of_frame, name), list_(list) {
   grid_ = named(grid_name, new SSDBGrid);
   cmdAction = named("cmdAction", new QPushButton(QStringLiteral("&Delete")));
   cmdClose = named("cmdClose", new QPushButton(QStringLiteral("&Close")));
   build();
   on(grid_, &SSDBGrid::AfterUpdate, "Grid_AfterUpdate", [this](int row) { row_left(row); });
-  on(grid_, &SSDBGrid::BeforeDelete, "Grid_BeforeDelete",
-     [this](int row, bool& cancel) { row_goes(row, cancel); });
+  on(grid_, &SSDBGrid::BeforeDelete, "Grid_BeforeDelete", [this](int row, bool& cancel) { row_goes(row, cancel); });
   on(cmdAction, "cmdAction_Click", [this] { cmdAction_Click(); });
   on(cmdClose, "cmdClose_Click", [this] { finish(false); });
 }
 
 void SmallListForm::build() {
-  grid_->set_columns(
-      {{.name = QStringLiteral("Name")}, {.name = QStringLiteral("Key"), .kind = Kind::hidden}});
+  grid_->set_columns({{.name = QStringLiteral("Name")}, {.name = QStringLiteral("Key"), .kind = Kind::hidden}});
   grid_->set_read_only(false);
   grid_->set_new_line(true);
   grid_->set_delete(true);
@@ -51,9 +48,7 @@ void SmallListForm::read_list() {
   for (const SmallListRow& row : Small_List_Rows(session, list_)) grid_->AddValues({row.text, row.key});
 }
 
-SmallListRow SmallListForm::row_at(int row) const {
-  return {grid_->value(row, Key).integer(), grid_->text(row, Name)};
-}
+SmallListRow SmallListForm::row_at(int row) const { return {grid_->value(row, Key).integer(), grid_->text(row, Name)}; }
 
 void SmallListForm::row_left(int row) {
   SmallListRow typed = row_at(row);
@@ -80,8 +75,6 @@ void SmallListForm::cmdAction_Click() {
 }
 
 /// What is being typed is written, as leaving its row does.
-bool SmallListForm::may_close() {
-  return grid_->commit();
-}
+bool SmallListForm::may_close() { return grid_->commit(); }
 
 }  // namespace tallymere

@@ -12,13 +12,9 @@ namespace {
 
 /// What the commands of a row go by. "..." in front of a type: any type that contains it.
 constexpr std::string_view reconciled_types[] = {"Bank", "Credit Card"};
-constexpr std::string_view register_types[] = {"Bank",
-                                               "Credit Card",
-                                               "Current Liability",
-                                               "Long Term Liability",
-                                               "Accounts Receivable",
-                                               "Accounts Payable",
-                                               "...Asset"};
+constexpr std::string_view register_types[] = {
+    "Bank",    "Credit Card", "Current Liability", "Long Term Liability", "Accounts Receivable", "Accounts Payable",
+    "...Asset"};
 constexpr std::string_view double_click_types[] = {"Accounts Payable",    "Credit Card",  "Bank",
                                                    "Accounts Receivable", "...Liability", "...Asset"};
 constexpr std::string_view kept_ids[] = {"RE1", "OE1"};
@@ -80,9 +76,7 @@ AccountCommands Account_Commands(const AccountRow& row) {
           .mnuDelete = !Names(kept_ids, row.CatID) && !Names(kept_names, ltrim(row.Name))};
 }
 
-bool Opens_Register(std::string_view AccountType) {
-  return Names(double_click_types, AccountType);
-}
+bool Opens_Register(std::string_view AccountType) { return Names(double_click_types, AccountType); }
 
 bool Delete_Category(Session& session, const AccountRow& row) {
   const std::string name = ltrim(row.Name);
@@ -101,9 +95,7 @@ bool Delete_Category(Session& session, const AccountRow& row) {
 
 // --- frmModAccount ---------------------------------------------------------------------------------------
 
-CategoryForm New_Category(AccountMode mode, const std::string& name) {
-  return {.mode = mode, .txtName = name};
-}
+CategoryForm New_Category(AccountMode mode, const std::string& name) { return {.mode = mode, .txtName = name}; }
 
 CategoryForm Edit_Category(Session& session, const std::string& CatID) {
   auto row = Row_Of(session, CatID);
@@ -136,8 +128,7 @@ std::vector<ParentChoice> Parent_Choices(Session& session, const CategoryForm& f
   left_out.push_back(tree.find(form.CatID));
   std::vector<ParentChoice> choices;
   for (const Category& category : tree.all())
-    if (same_text(category.AccountType, form.cmbType) &&
-        std::ranges::find(left_out, &category) == left_out.end())
+    if (same_text(category.AccountType, form.cmbType) && std::ranges::find(left_out, &category) == left_out.end())
       choices.push_back({category.AccountName, category.CatID});
   return choices;
 }

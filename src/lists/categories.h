@@ -5,9 +5,9 @@
 #include <string_view>
 #include <vector>
 
-#include "core/ledger/category_list.h"
 #include "core/company/prompts.h"
 #include "core/company/session.h"
+#include "core/ledger/category_list.h"
 
 /// The list of categories and the form that makes or changes one.
 namespace tallymere {

@@ -86,8 +86,7 @@ void frmAccounts::mnuEdit_Click() {
     make_list_again();
     return shell.say("Another user has deleted this category.");
   }
-  shell.Ask_Window(
-      {.window = "frmModAccount", .key = row().CatID, .number = static_cast<int64_t>(AccountMode::Edit)});
+  shell.Ask_Window({.window = "frmModAccount", .key = row().CatID, .number = static_cast<int64_t>(AccountMode::Edit)});
 }
 
 void frmAccounts::mnuDelete_Click() {

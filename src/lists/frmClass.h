@@ -9,8 +9,7 @@ class frmClass : public SmallListForm {
   Q_OBJECT
 
  public:
-  explicit frmClass(Shell& shell_of_frame)
-      : SmallListForm(shell_of_frame, "frmClass", "grdClass", Class_List) {
+  explicit frmClass(Shell& shell_of_frame) : SmallListForm(shell_of_frame, "frmClass", "grdClass", Class_List) {
     setWindowTitle(QStringLiteral("Class"));
   }
 };

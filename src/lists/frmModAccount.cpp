@@ -108,9 +108,7 @@ void frmModAccount::cmbType_Change() {
   if (Check1->isChecked()) fill_parents();
 }
 
-void frmModAccount::cmbSubCat_Change() {
-  lblParentID->setText(qt(cmbSubCat->id()));
-}
+void frmModAccount::cmbSubCat_Change() { lblParentID->setText(qt(cmbSubCat->id())); }
 
 /// A parent that is in no list is none; the box says so.
 void frmModAccount::cmbSubCat_LostFocus() {

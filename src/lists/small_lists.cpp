@@ -7,12 +7,8 @@
 namespace tallymere {
 namespace {
 
-std::string Table(const SmallList& list) {
-  return store::Quoted(list.table);
-}
-std::string Field(const SmallList& list) {
-  return store::Quoted(list.field);
-}
+std::string Table(const SmallList& list) { return store::Quoted(list.table); }
+std::string Field(const SmallList& list) { return store::Quoted(list.field); }
 
 int64_t Add(Session& session, const SmallList& list, const std::string& text) {
   store::Transaction tx(*session.dbCompany, "New in " + std::string(list.table) + ": " + text);

@@ -20,44 +20,37 @@ constexpr ReportDef reports[] = {
      Build_PLYTD},
     {"PLPrev", "frmPrintPL2", "PLPrev", "Profit And Loss Previous Year Comparioson", Start::OfYear, true, "",
      Build_PLPrev},
-    {"PLCus", "frmPrintPL2", "PLCus", "Profit And Loss Previous by Customer", Start::OfYear, true, "",
-     Build_PLCus},
-    {"PLClass", "frmPrintPL2", "PLClass", "Profit And Loss Previous by Class", Start::OfYear, true, "",
-     Build_PLClass},
+    {"PLCus", "frmPrintPL2", "PLCus", "Profit And Loss Previous by Customer", Start::OfYear, true, "", Build_PLCus},
+    {"PLClass", "frmPrintPL2", "PLClass", "Profit And Loss Previous by Class", Start::OfYear, true, "", Build_PLClass},
     {"PLDetail", "frmPrintPL2", "PLDetail", "Profit And Loss", Start::OfYear, true, "", Build_PLDetail},
-    {"PLCusSum", "frmPrintPLName", "PLCusSum", "Customer Income Summary", Start::OfYear, true, "",
-     Build_PLCusSum},
-    {"PLVenSum", "frmPrintPLName", "PLVenSum", "Vendor Expenses Summary", Start::OfYear, true, "",
-     Build_PLVenSum},
+    {"PLCusSum", "frmPrintPLName", "PLCusSum", "Customer Income Summary", Start::OfYear, true, "", Build_PLCusSum},
+    {"PLVenSum", "frmPrintPLName", "PLVenSum", "Vendor Expenses Summary", Start::OfYear, true, "", Build_PLVenSum},
     {"PLCusDetail", "frmPrintPLName", "PLCusDetail", "Customer Income Detail", Start::OfYear, true, "",
      Build_PLCusDetail},
     {"PLVenDetail", "frmPrintPLName", "PLVenDetail", "Vendor Expenses Detail", Start::OfYear, true, "",
      Build_PLVenDetail},
     {"Date", "frmPrintCustom", "Date", "Detailed Transactions by Date", Start::OfMonth, false, "fields",
      Build_Date_Report},
-    {"Customer", "frmPrintCustom", "Customer", "Detailed Transactions by Customer", Start::OfMonth, false,
-     "fields", Build_Customer_Report},
+    {"Customer", "frmPrintCustom", "Customer", "Detailed Transactions by Customer", Start::OfMonth, false, "fields",
+     Build_Customer_Report},
     {"Vendor", "frmPrintCustom", "Vendor", "Detailed Transactions by Vendor", Start::OfMonth, false, "fields",
      Build_Vendor_Report},
     {"AcctRep", "frmPrintCustom", "AcctRep", category_title, Start::OfMonth, false, "category fields",
      Build_Category_Report},
-    {"PrintAcctRep", "frmPrintCustom", "PrintAcctRep", category_title, Start::OfYear, false,
-     "category fields", Build_Category_Report},
-    {"PrintAcctBal", "frmPrintCustom", "PrintAcctBal", category_title, Start::OfYear, false,
-     "category fields", Build_Category_Report},
+    {"PrintAcctRep", "frmPrintCustom", "PrintAcctRep", category_title, Start::OfYear, false, "category fields",
+     Build_Category_Report},
+    {"PrintAcctBal", "frmPrintCustom", "PrintAcctBal", category_title, Start::OfYear, false, "category fields",
+     Build_Category_Report},
     {"VendorRep", "frmPrintCustom", "VendorRep", "Vendor Report: ", Start::OfMonth, false, "name fields",
      Build_One_Vendor_Report},
-    {"ItemRep", "frmPrintCustom", "ItemRep", "Item Report: ", Start::OfYear, false, "item fields",
-     Build_Item_Report},
+    {"ItemRep", "frmPrintCustom", "ItemRep", "Item Report: ", Start::OfYear, false, "item fields", Build_Item_Report},
     {"PayItem", "frmPrintCustom", "PayItem", "Payroll Item Report", Start::OfYear, false, "fields",
      Build_PayItem_Report},
 };
 
 }  // namespace
 
-std::span<const ReportDef> Reports() {
-  return reports;
-}
+std::span<const ReportDef> Reports() { return reports; }
 
 const ReportDef* Find_Report(std::string_view key) {
   for (const ReportDef& report : reports)
@@ -90,26 +83,22 @@ ReportRequest Default_Request(const Session& session, std::string_view key) {
   if (!report) return request;
   if (report->start == Start::OfMonth) request.from = today.first_of_month();
   if (report->start == Start::OfYear) request.from = Date(today.year(), 1, 1);
-  if (auto columns = Custom_Report_Columns(report->key);
-      !columns.empty() && report->takes(report_option::fields))
+  if (auto columns = Custom_Report_Columns(report->key); !columns.empty() && report->takes(report_option::fields))
     request.options.emplace(report_option::fields, columns);
   return request;
 }
 
 ReportTable Build_Report(Session& session, const ReportRequest& request) {
   const ReportDef* report = Find_Report(request.key);
-  if (!report)
-    throw store::Error(store::errors::no_such_field, "There is no report \"" + request.key + "\".");
+  if (!report) throw store::Error(store::errors::no_such_field, "There is no report \"" + request.key + "\".");
   const store::Snapshot moment(*session.dbCompany);
   return report->build(session, request);
 }
 
-std::optional<ReportRequest> Go_To_Request(const ReportTable& table, int row,
-                                           const ReportRequest& opened_from) {
+std::optional<ReportRequest> Go_To_Request(const ReportTable& table, int row, const ReportRequest& opened_from) {
   const RowKey key = table.key(row);
   if (table.go_to != ReportTable::GoTo::Category || key.text.empty()) return std::nullopt;
-  ReportRequest request{
-      .key = table.go_to_report, .from = Date(opened_from.to.year(), 1, 1), .to = opened_from.to};
+  ReportRequest request{.key = table.go_to_report, .from = Date(opened_from.to.year(), 1, 1), .to = opened_from.to};
   request.options.emplace(report_option::fields, Custom_Report_Columns(table.go_to_report));
   request.options.emplace(report_option::category, key.text);
   return request;
@@ -119,17 +108,14 @@ std::string Company_Name(Session& session) {
   return session.dbCompany->value("SELECT Name FROM CompanyInfo ORDER BY RowKey LIMIT 1").text();
 }
 
-std::string Period_Text(Date start, Date end) {
-  return start.to_text() + " - " + end.to_text();
-}
+std::string Period_Text(Date start, Date end) { return start.to_text() + " - " + end.to_text(); }
 
 ReportHeading Make_Heading(Session& session, const ReportRequest& request, std::string_view subject) {
   const ReportDef* report = Find_Report(request.key);
   std::string own = std::string(report ? report->title : "") + std::string(subject);
   ReportHeading heading{request.title.empty() ? own : request.title, Company_Name(session),
                         Period_Text(request.from, request.to)};
-  if (report && report->has_basis)
-    heading.basis = request.basis == Basis::Cash ? "Cash basis" : "Accrual basis";
+  if (report && report->has_basis) heading.basis = request.basis == Basis::Cash ? "Cash basis" : "Accrual basis";
   return heading;
 }
 

@@ -63,8 +63,7 @@ ReportTable Build_Report(Session& session, const ReportRequest& request);
 
 /// The report that "Go to" on a row opens from a table whose go_to is Category: that category from the first
 /// of the year to the end of the report it is opened from. Nothing for a row without a category.
-std::optional<ReportRequest> Go_To_Request(const ReportTable& table, int row,
-                                           const ReportRequest& opened_from);
+std::optional<ReportRequest> Go_To_Request(const ReportTable& table, int row, const ReportRequest& opened_from);
 
 /// Field `Name` of CompanyInfo.
 std::string Company_Name(Session& session);

@@ -37,8 +37,7 @@ void DropDowns::fill() {
 }
 
 void DropDowns::changed(const std::string& table) {
-  const bool payees =
-      table == "Vendors" || table == "Customers" || table == "Employees" || table == "OtherNames";
+  const bool payees = table == "Vendors" || table == "Customers" || table == "Employees" || table == "OtherNames";
   if (table == "Accounts") fill_categories();
   if (table == "Items") fill_items();
   if (payees) fill_payees();
@@ -55,15 +54,12 @@ void DropDowns::fill_categories() {
 void DropDowns::fill_items() {
   std::vector<SSDBDropDown::Item> items;
   for (const ItemRow& row : Make_Item_List(*session_.dbCompany))
-    items.push_back({Indented(row.ItemName, row.level) + "\t" + row.Description + "\t" +
-                         Format(row.PriceRate, "#,##0.00"),
-                     {}});
+    items.push_back(
+        {Indented(row.ItemName, row.level) + "\t" + row.Description + "\t" + Format(row.PriceRate, "#,##0.00"), {}});
   drpItems->set_items(items);
 }
 
-void DropDowns::fill_payees() {
-  drpCustomers->set_items(plain_items(VENandCustList(session_)));
-}
+void DropDowns::fill_payees() { drpCustomers->set_items(plain_items(VENandCustList(session_))); }
 
 void DropDowns::fill_classes() {
   std::vector<std::string> names;

@@ -30,9 +30,7 @@ namespace tallymere {
 
 namespace {
 
-QString text_of(std::string_view text) {
-  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
+QString text_of(std::string_view text) { return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())); }
 
 /// "Company &Info...." as a sentence names it.
 QString plain(std::string_view caption) {
@@ -59,14 +57,11 @@ bool is_submenu(std::string_view name) {
   return name == "mnuWindow" || name == "mnuHelp";
 }
 
-constexpr std::string_view company_menus[] = {"mnuAction",  "mnuOptions", "mnuWindow",
-                                              "mnuReports", "mnuBackup",  "mnuRestore",
-                                              "mnuCompany", "mnuImport",  "mnuFile"};
+constexpr std::string_view company_menus[] = {"mnuAction",  "mnuOptions", "mnuWindow", "mnuReports", "mnuBackup",
+                                              "mnuRestore", "mnuCompany", "mnuImport", "mnuFile"};
 constexpr std::string_view single_user_menus[] = {"mnuRestore", "mnuCompany"};
 
-bool is_single_user_menu(std::string_view name) {
-  return name == single_user_menus[0] || name == single_user_menus[1];
-}
+bool is_single_user_menu(std::string_view name) { return name == single_user_menus[0] || name == single_user_menus[1]; }
 
 const QString geometry_key = QStringLiteral("windows/frmMain/geometry");
 
@@ -182,8 +177,7 @@ void frmMain::fill_window_menu() {
   int number = 0;
   for (Form* form : forms_) {
     const QString mnemonic = ++number < 10 ? QStringLiteral("&%1 ").arg(number) : QString();
-    QAction* action =
-        menu->addAction(mnemonic + form->caption().replace(QLatin1Char('&'), QStringLiteral("&&")));
+    QAction* action = menu->addAction(mnemonic + form->caption().replace(QLatin1Char('&'), QStringLiteral("&&")));
     action->setCheckable(true);
     action->setChecked(form->isActiveWindow() || form->parentWidget() == mdi_->activeSubWindow());
     group->addAction(action);
@@ -236,8 +230,7 @@ void frmMain::refresh_command(const std::string& name, QAction* action) {
     there = tool->window.empty() || has_window(std::string(tool->window));
     wants_company = true;
   }
-  const QString missing =
-      QStringLiteral("%1 is not part of this version yet.").arg(plain(utf8(action->text())));
+  const QString missing = QStringLiteral("%1 is not part of this version yet.").arg(plain(utf8(action->text())));
   action->setStatusTip(there ? QString() : missing);
   action->setToolTip(there ? QString(action->text()).remove(QLatin1Char('&')) : missing);
   action->setVisible(!hidden_[name]);
@@ -310,9 +303,7 @@ void frmMain::changed(const std::string& table) {
   }
 }
 
-void frmMain::say(const std::string& text) {
-  statusBar()->showMessage(qt(text), 6000);
-}
+void frmMain::say(const std::string& text) { statusBar()->showMessage(qt(text), 6000); }
 
 bool frmMain::eventFilter(QObject* watched, QEvent* event) {
   if (watched == mdi_->viewport() && event->type() == QEvent::Resize) panel_->centre();

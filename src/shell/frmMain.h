@@ -62,8 +62,7 @@ class frmMain : public QMainWindow, public Shell, public CompanyCommands {
   bool Restore_Company_At_Start() override;
   bool Create_Company(const std::string& name) override;
 
-  QAction* command(
-      std::string_view name) const;  ///< a menu, a command or a button by its name; nullptr: none
+  QAction* command(std::string_view name) const;   ///< a menu, a command or a button by its name; nullptr: none
   bool is_available(std::string_view name) const;  ///< shown and enabled, with all menus above it
 
  protected:

@@ -8,9 +8,9 @@
 #include "core/company/company.h"
 #include "core/company/rights.h"
 #include "core/store/recordset.h"
-#include "shell/start/frmLogin.h"
 #include "shell/frmMain.h"
 #include "shell/frmMenus.h"
+#include "shell/start/frmLogin.h"
 #include "shell/start/frmPassword.h"
 
 /// How a company comes up, changes and goes.
@@ -47,9 +47,7 @@ bool frmMain::Start_With(const std::string& path) {
   return opened;
 }
 
-void frmMain::show_start() {
-  Show_Window({.window = "frmStart", .key = {}});
-}
+void frmMain::show_start() { Show_Window({.window = "frmStart", .key = {}}); }
 
 void frmMain::company_came_up() {
   show_title();
@@ -119,11 +117,10 @@ void frmMain::Apply_User_Rights() {
     users->Index("UserName");
     flags = {false, false, false, false, false};
     if (users->Seek(session.CurrentUser))
-      flags = {(*users)["AR"].flag(), (*users)["AP"].flag(), (*users)["BankCC"].flag(),
-               (*users)["Inventory"].flag(), (*users)["Payroll"].flag()};
+      flags = {(*users)["AR"].flag(), (*users)["AP"].flag(), (*users)["BankCC"].flag(), (*users)["Inventory"].flag(),
+               (*users)["Payroll"].flag()};
   }
-  for (const CommandRight& right :
-       tallymere::Apply_User_Rights(session.MultiUser, session.CurrentUser, flags)) {
+  for (const CommandRight& right : tallymere::Apply_User_Rights(session.MultiUser, session.CurrentUser, flags)) {
     Q_ASSERT(command(right.name));
     auto& refused = right.property == CommandRight::Property::Visible ? hidden_ : disabled_;
     refused[std::string(right.name)] = !right.granted;
@@ -142,8 +139,7 @@ void frmMain::mnuSwitchMode_Click() {
     return session.prompts.box(
         {"Only \"Admin\" User can switch Compnay file to Single-User Mode", "Access Denied", Icon::Critical});
   const bool multi = !session.MultiUser;
-  store::Transaction tx(*session.dbCompany,
-                        multi ? "Switch to Multi-User Mode" : "Switch to Single-User Mode");
+  store::Transaction tx(*session.dbCompany, multi ? "Switch to Multi-User Mode" : "Switch to Single-User Mode");
   auto& info = *session.sets.CompanyInfo;
   info.MoveFirst();
   info.Edit();
@@ -165,9 +161,7 @@ void frmMain::mnuNewCompany_Click() {
   if (Hide_All()) Create_Company_At_Start();
 }
 
-void frmMain::Create_Company_At_Start() {
-  Show_Window({.window = "frmCreate", .key = {}});
-}
+void frmMain::Create_Company_At_Start() { Show_Window({.window = "frmCreate", .key = {}}); }
 
 bool frmMain::Create_Company(const std::string& name) {
   Hourglass hourglass(session.prompts);
@@ -187,18 +181,14 @@ bool frmMain::Create_Company(const std::string& name) {
 
 bool frmMain::Backup() {
   if (!session.dbCompany) throw store::Error(store::errors::file_not_found, "No company is open.");
-  const std::string file =
-      session.prompts.save_file(Backup_Filter, field_of_company(*session.dbCompany, "Name"));
+  const std::string file = session.prompts.save_file(Backup_Filter, field_of_company(*session.dbCompany, "Name"));
   return !file.empty() && Backup_Company(session, file);
 }
 
-void frmMain::mnuBackup_Click() {
-  Backup();
-}
+void frmMain::mnuBackup_Click() { Backup(); }
 
 bool frmMain::Restore_Company_At_Start() {
-  const auto name =
-      session.prompts.input("Restore Name", "Please Enter the File Name for the Company to restore to.");
+  const auto name = session.prompts.input("Restore Name", "Please Enter the File Name for the Company to restore to.");
   if (!name || name->empty()) return false;
   const auto target = Company_Path(session, *name);
   const std::string file = session.prompts.open_file(Backup_Filter, session.folder.string());
@@ -228,14 +218,12 @@ void frmMain::mnuTaxCheck_Click() {
 
 // --- exit ----------------------------------------------------------------------------------------
 
-void frmMain::mnuExit_Click() {
-  close();
-}
+void frmMain::mnuExit_Click() { close(); }
 
 void frmMain::closeEvent(QCloseEvent* event) {
   if (!Hide_All()) return event->ignore();
-  const bool asked = session.company_open() &&
-                     session.prompts.ask({"Do you want to Back up your data?", "Back Up", Icon::Question});
+  const bool asked =
+      session.company_open() && session.prompts.ask({"Do you want to Back up your data?", "Back Up", Icon::Question});
   // Who asked for a backup and did not get it is not sent away without one.
   if (asked && !guard("MDIForm_Unload", [this] { Backup(); })) return event->ignore();
   Timer1->stop();

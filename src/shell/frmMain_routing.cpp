@@ -10,11 +10,11 @@
 
 #include "core/store/error.h"
 #include "entry/document/document.h"
-#include "shell/start/frmCreate.h"
 #include "shell/frmMain.h"
 #include "shell/frmMenus.h"
-#include "shell/start/frmStart.h"
 #include "shell/menus.h"
+#include "shell/start/frmCreate.h"
+#include "shell/start/frmStart.h"
 #include "shell/widgets/Form.h"
 #include "shell/widgets/grid/arrow_pointer.h"
 
@@ -24,41 +24,34 @@ namespace tallymere {
 namespace {
 
 /// Windows that belong to the frame itself and need no company.
-bool is_own(const std::string& name) {
-  return name == "frmStart" || name == "frmCreate";
-}
+bool is_own(const std::string& name) { return name == "frmStart" || name == "frmCreate"; }
 
 /// Whole in the room there is.
 void fit_in(QMdiSubWindow& frame, QSize wanted, QSize room) {
   frame.resize(wanted.boundedTo(room));
-  frame.move(std::min(frame.x(), room.width() - frame.width()),
-             std::min(frame.y(), room.height() - frame.height()));
+  frame.move(std::min(frame.x(), room.width() - frame.width()), std::min(frame.y(), room.height() - frame.height()));
 }
 
-QMdiSubWindow* frame_of(const Form& form) {
-  return qobject_cast<QMdiSubWindow*>(form.parentWidget());
-}
+QMdiSubWindow* frame_of(const Form& form) { return qobject_cast<QMdiSubWindow*>(form.parentWidget()); }
 
 }  // namespace
 
 void frmMain::run_command(const std::string& name) {
   using Handler = void (frmMain::*)();
-  static const std::map<std::string_view, Handler> handlers = {
-      {"mnuNewCompany", &frmMain::mnuNewCompany_Click},
-      {"mnuOpenCommpany", &frmMain::mnuOpenCompany_Click},
-      {"mnuSwitchMode", &frmMain::mnuSwitchMode_Click},
-      {"mnuBackup", &frmMain::mnuBackup_Click},
-      {"mnuRestore", &frmMain::mnuRestore_Click},
-      {"mnuTaxCheck", &frmMain::mnuTaxCheck_Click},
-      {"mnuExit", &frmMain::mnuExit_Click},
-      {"mnuDepositFunds", &frmMain::mnuDepositFunds_Click},
-      {"btnHelp", &frmMain::btnHelp_Click},
-      {"frmStart", &frmMain::show_start}};
+  static const std::map<std::string_view, Handler> handlers = {{"mnuNewCompany", &frmMain::mnuNewCompany_Click},
+                                                               {"mnuOpenCommpany", &frmMain::mnuOpenCompany_Click},
+                                                               {"mnuSwitchMode", &frmMain::mnuSwitchMode_Click},
+                                                               {"mnuBackup", &frmMain::mnuBackup_Click},
+                                                               {"mnuRestore", &frmMain::mnuRestore_Click},
+                                                               {"mnuTaxCheck", &frmMain::mnuTaxCheck_Click},
+                                                               {"mnuExit", &frmMain::mnuExit_Click},
+                                                               {"mnuDepositFunds", &frmMain::mnuDepositFunds_Click},
+                                                               {"btnHelp", &frmMain::btnHelp_Click},
+                                                               {"frmStart", &frmMain::show_start}};
   for (const ToolRow& tool : Toolbar_Table())
     if (tool.name == name) {
       if (!tool.command.empty() && tool.command != name) return run_command(std::string(tool.command));
-      if (!tool.window.empty())
-        return route({.parent = "", .name = tool.name, .caption = "", .window = tool.window});
+      if (!tool.window.empty()) return route({.parent = "", .name = tool.name, .caption = "", .window = tool.window});
     }
   if (const auto handler = handlers.find(name); handler != handlers.end()) {
     guard(name + "_Click", [&] { (this->*handler->second)(); });
@@ -90,8 +83,7 @@ void frmMain::mnuDepositFunds_Click() {
 }
 
 void frmMain::btnHelp_Click() {
-  session.prompts.box(
-      {"Please Contact Quillbrook Software for Help or Tech Support.", "Help", Icon::Information});
+  session.prompts.box({"Please Contact Quillbrook Software for Help or Tech Support.", "Help", Icon::Information});
 }
 
 void frmMain::Go_To_Transaction(const std::string& type, int64_t number) {
@@ -127,8 +119,7 @@ Form* frmMain::Show_Window(const Request& request) {
   if (!form) form = open_form(request.window);
   if (!form) return nullptr;
   form->guard("Form_Load", [&] { form->take(request); });
-  if (std::find(forms_.begin(), forms_.end(), form) == forms_.end())
-    return nullptr;  // it closed itself again
+  if (std::find(forms_.begin(), forms_.end(), form) == forms_.end()) return nullptr;  // it closed itself again
   bring_up(*form);
   return form;
 }
@@ -157,8 +148,7 @@ void frmMain::stand_inside(Form& form) {
 }
 
 void frmMain::stand_above(Form& form) {
-  form.setParent(this,
-                 Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint | Qt::WindowSystemMenuHint);
+  form.setParent(this, Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint | Qt::WindowSystemMenuHint);
 }
 
 void frmMain::bring_up(Form& form) {

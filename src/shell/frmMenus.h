@@ -8,8 +8,8 @@
 #include <string>
 #include <vector>
 
-#include "core/values/date_range.h"
 #include "core/company/session.h"
+#include "core/values/date_range.h"
 
 namespace tallymere {
 
@@ -23,8 +23,7 @@ class frmMenus : public QWidget {
   explicit frmMenus(Session& running);
 
   /// Pops a menu; `chosen` gets the name of the item that was picked, if any.
-  void Popup(const std::string& menu, const QPoint& at, const std::vector<std::string>& disabled,
-             Chosen chosen);
+  void Popup(const std::string& menu, const QPoint& at, const std::vector<std::string>& disabled, Chosen chosen);
 
   tallymere::DateRange Get_Date_Range(const std::string& name) const {
     return tallymere::Get_Date_Range(name, session_.today());

@@ -221,14 +221,8 @@ constexpr ContextRow context_rows[] = {
 
 }  // namespace
 
-std::span<const MenuRow> Menu_Table() {
-  return menu_rows;
-}
-std::span<const ToolRow> Toolbar_Table() {
-  return tool_rows;
-}
-std::span<const ContextRow> Context_Table() {
-  return context_rows;
-}
+std::span<const MenuRow> Menu_Table() { return menu_rows; }
+std::span<const ToolRow> Toolbar_Table() { return tool_rows; }
+std::span<const ContextRow> Context_Table() { return context_rows; }
 
 }  // namespace tallymere

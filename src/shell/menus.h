@@ -38,8 +38,7 @@ struct ContextRow {
 std::span<const ContextRow> Context_Table();
 
 /// The keys under which frmBills is asked for.
-inline constexpr std::string_view Bills_Items = "Items";  ///< with the item tab selected
-inline constexpr std::string_view Bills_Item_Receipt =
-    "Item Receipt";  ///< the same, with the item-receipt box set
+inline constexpr std::string_view Bills_Items = "Items";                ///< with the item tab selected
+inline constexpr std::string_view Bills_Item_Receipt = "Item Receipt";  ///< the same, with the item-receipt box set
 
 }  // namespace tallymere

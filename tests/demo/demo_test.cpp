@@ -4,8 +4,8 @@
 #include <set>
 
 #include "core/ledger/balances.h"
-#include "core/values/text.h"
 #include "core/ledger/verify.h"
+#include "core/values/text.h"
 #include "support/test_company.h"
 
 namespace tallymere {
@@ -16,9 +16,7 @@ using testing::TestCompany;
 
 const Date today(2026, 6, 15);
 
-std::string Text(const Row& row, int column) {
-  return std::string(row.text(column));
-}
+std::string Text(const Row& row, int column) { return std::string(row.text(column)); }
 
 /// Every cell of a query's result, for comparing two companies.
 std::string Dump(store::Database& db, std::string_view sql) {
@@ -39,20 +37,16 @@ std::unique_ptr<TestCompany> Demo(DemoOptions options) {
 /// One year of a small business, written once and only read by the tests.
 class DemoCompany : public ::testing::Test {
  protected:
-  static void SetUpTestSuite() {
-    company_ = Demo({.name = "O'Hara & Søn", .years = 1, .today = today}).release();
-  }
+  static void SetUpTestSuite() { company_ = Demo({.name = "O'Hara & Søn", .years = 1, .today = today}).release(); }
   static void TearDownTestSuite() { delete company_; }
 
   static store::Database& db() { return company_->db(); }
-  static void each(std::string_view sql, const std::function<void(const Row&)>& fn) {
-    db().each(sql, {}, fn);
-  }
+  static void each(std::string_view sql, const std::function<void(const Row&)>& fn) { db().each(sql, {}, fn); }
   static std::string value(std::string_view sql) { return db().value(sql).text(); }
   static Money sum(std::string_view expression, std::string_view where) {
-    return Money::from_units(db().value("SELECT SUM(" + std::string(expression) +
-                                        ") + 0 FROM Transactions WHERE " + std::string(where))
-                                 .integer());
+    return Money::from_units(
+        db().value("SELECT SUM(" + std::string(expression) + ") + 0 FROM Transactions WHERE " + std::string(where))
+            .integer());
   }
   inline static TestCompany* company_ = nullptr;
 };
@@ -60,19 +54,16 @@ class DemoCompany : public ::testing::Test {
 TEST_F(DemoCompany, EveryKindOfTransactionAppears) {
   std::set<std::string> kinds;
   each("SELECT DISTINCT Type FROM Transactions", [&](const Row& row) { kinds.insert(Text(row, 0)); });
-  EXPECT_EQ(kinds,
-            (std::set<std::string>{"Check", "Billcheck", "Paycheck", "Liabilitycheck", "Bill", "Credit",
-                                   "Item Receipt", "Invoice", "Payment", "Deposit", "Ledger Entry",
-                                   "Inv Adjust", "Liability Adjust", "YTD Adjust", "Statement"}));
+  EXPECT_EQ(kinds, (std::set<std::string>{"Check", "Billcheck", "Paycheck", "Liabilitycheck", "Bill", "Credit",
+                                          "Item Receipt", "Invoice", "Payment", "Deposit", "Ledger Entry", "Inv Adjust",
+                                          "Liability Adjust", "YTD Adjust", "Statement"}));
 }
 
 TEST_F(DemoCompany, RowsKeepTheConventionsOfTheLedger) {
-  EXPECT_EQ(
-      value("SELECT COUNT(*) FROM Transactions WHERE Debit < 0 OR Credit < 0 OR (Debit <> 0 AND Credit <> 0)"
-            " OR Amount <> Debit + Credit"),
-      "0");
-  EXPECT_EQ(value("SELECT COUNT(*) FROM Transactions WHERE Date > '2026-06-15' OR Date <= '2025-06-15'"),
+  EXPECT_EQ(value("SELECT COUNT(*) FROM Transactions WHERE Debit < 0 OR Credit < 0 OR (Debit <> 0 AND Credit <> 0)"
+                  " OR Amount <> Debit + Credit"),
             "0");
+  EXPECT_EQ(value("SELECT COUNT(*) FROM Transactions WHERE Date > '2026-06-15' OR Date <= '2025-06-15'"), "0");
   // An inventory part repeats the sale on two more categories; all else has two equal sides.
   each(
       "SELECT TransNum, MAX(Type), SUM(Debit) - SUM(Credit) FROM Transactions"
@@ -111,9 +102,7 @@ TEST_F(DemoCompany, CategoryNamesTheOtherSide) {
       "NOT EXISTS"
       " (SELECT 1 FROM Transactions AS o WHERE o.TransNum = t.TransNum AND o.Account = t.Category)"
       " AND t.Type <> 'YTD Adjust'",
-      [](const Row& row) {
-        ADD_FAILURE() << Text(row, 1) << " " << Text(row, 0) << " names " << Text(row, 2);
-      });
+      [](const Row& row) { ADD_FAILURE() << Text(row, 1) << " " << Text(row, 0) << " names " << Text(row, 2); });
   EXPECT_EQ(value("SELECT COUNT(*) FROM Transactions WHERE Category IS NULL"), "0");
 }
 
@@ -130,8 +119,7 @@ TEST_F(DemoCompany, PaymentsAndWhatTheyPayAgree) {
         for (const std::string& number : split(row.text(5), ";")) {
           if (number.empty()) continue;
           EXPECT_EQ(
-              db().value("SELECT Name FROM Transactions WHERE TransNum = ? AND Type = 'Payment'", {number})
-                  .text(),
+              db().value("SELECT Name FROM Transactions WHERE TransNum = ? AND Type = 'Payment'", {number}).text(),
               Text(row, 1));
         }
       });
@@ -156,16 +144,12 @@ TEST_F(DemoCompany, BillPaymentsAddUpToTheirBills) {
       " FROM Transactions AS p WHERE p.Account = 'AP1' AND p.Debit <> 0 AND p.Type IN ('Billcheck', 'Ledger "
       "Entry')",
       [](const Row& row) { EXPECT_EQ(row.money(1), row.money(2)) << Text(row, 0); });
-  EXPECT_EQ(
-      value("SELECT COUNT(*) FROM Transactions WHERE Type = 'Bill' AND (Paid = -1) <> (PaidBy IS NOT NULL)"),
-      "0");
-  EXPECT_EQ(
-      value("SELECT COUNT(DISTINCT TransNum) FROM Transactions WHERE Type = 'Bill' AND PaidBy LIKE '*;*;'"),
-      "1");
-  EXPECT_EQ(
-      value("SELECT COUNT(*) FROM Transactions WHERE Type = 'Billcheck' AND NOT EXISTS (SELECT 1 FROM Vendors"
-            " WHERE Vendors.Name = Transactions.Name AND Vendors.ShippingAddress = Transactions.Address)"),
-      "0");
+  EXPECT_EQ(value("SELECT COUNT(*) FROM Transactions WHERE Type = 'Bill' AND (Paid = -1) <> (PaidBy IS NOT NULL)"),
+            "0");
+  EXPECT_EQ(value("SELECT COUNT(DISTINCT TransNum) FROM Transactions WHERE Type = 'Bill' AND PaidBy LIKE '*;*;'"), "1");
+  EXPECT_EQ(value("SELECT COUNT(*) FROM Transactions WHERE Type = 'Billcheck' AND NOT EXISTS (SELECT 1 FROM Vendors"
+                  " WHERE Vendors.Name = Transactions.Name AND Vendors.ShippingAddress = Transactions.Address)"),
+            "0");
 }
 
 TEST_F(DemoCompany, ControlCategoriesEqualTheirPapers) {
@@ -176,9 +160,8 @@ TEST_F(DemoCompany, ControlCategoriesEqualTheirPapers) {
                          "Account = 'AR1' AND Type IN ('Invoice', 'Statement')");
   EXPECT_GT(open, Money());
   EXPECT_EQ(sum("Debit - Credit", "Account = 'AR1'"), open);
-  EXPECT_EQ(
-      sum("Credit - Debit", "Account = 'AP1'"),
-      sum("Credit - Debit", "Account = 'AP1' AND Paid = 0 AND Type IN ('Bill', 'Item Receipt', 'Credit')"));
+  EXPECT_EQ(sum("Credit - Debit", "Account = 'AP1'"),
+            sum("Credit - Debit", "Account = 'AP1' AND Paid = 0 AND Type IN ('Bill', 'Item Receipt', 'Credit')"));
   // A payment deposited is on exactly one deposit.
   EXPECT_EQ(sum("Debit", "Account = 'UF1' AND Type = 'Payment' AND Paid = -1"),
             sum("Credit", "Account = 'UF1' AND Type = 'Ledger Entry'"));
@@ -217,11 +200,9 @@ TEST_F(DemoCompany, PaychecksWithholdByLaw) {
     EXPECT_EQ(row.integer(6), 1);
   });
   EXPECT_GT(checks, 60);
-  EXPECT_EQ(
-      value(
-          "SELECT COUNT(*) FROM Transactions WHERE Type = 'Paycheck' AND NOT EXISTS (SELECT 1 FROM PayHistory"
-          " WHERE Employee = Transactions.Name AND PayCheckDate = Transactions.Date AND Paid = 'Yes')"),
-      "0");
+  EXPECT_EQ(value("SELECT COUNT(*) FROM Transactions WHERE Type = 'Paycheck' AND NOT EXISTS (SELECT 1 FROM PayHistory"
+                  " WHERE Employee = Transactions.Name AND PayCheckDate = Transactions.Date AND Paid = 'Yes')"),
+            "0");
 }
 
 /// What stands open as of PaidThrough, counted as the liability windows count, is nothing once a check is
@@ -233,16 +214,14 @@ TEST_F(DemoCompany, LiabilityChecksPayWhatIsOwed) {
       " (o.PaidThrough IS NOT NULL OR o.Date <= c.PaidThrough) AND ";
   int checks = 0;
   for (const std::string item : {"PayrollItem", "Item"})
-    each("SELECT c.TransNum, c." + item + ", " + owed + "o." + item + " = c." + item +
-             ") FROM Transactions AS c" + " WHERE c.Type = 'Liabilitycheck' AND c." + item + " IS NOT NULL",
+    each("SELECT c.TransNum, c." + item + ", " + owed + "o." + item + " = c." + item + ") FROM Transactions AS c" +
+             " WHERE c.Type = 'Liabilitycheck' AND c." + item + " IS NOT NULL",
          [&](const Row& row) {
            ++checks;
-           EXPECT_TRUE(row.money(2).is_zero())
-               << Text(row, 0) << " " << Text(row, 1) << ": " << row.money(2).to_text();
+           EXPECT_TRUE(row.money(2).is_zero()) << Text(row, 0) << " " << Text(row, 1) << ": " << row.money(2).to_text();
          });
   EXPECT_GT(checks, 80);
-  EXPECT_NE(value("SELECT COUNT(*) FROM Transactions WHERE Type = 'Liabilitycheck' AND Item IS NOT NULL"),
-            "0");
+  EXPECT_NE(value("SELECT COUNT(*) FROM Transactions WHERE Type = 'Liabilitycheck' AND Item IS NOT NULL"), "0");
 }
 
 TEST_F(DemoCompany, StandsWhereABusinessStandsMidMonth) {
@@ -297,8 +276,7 @@ TEST(Demo, WritesAsManyTransactionsAsAskedForAndLeavesTheIndexes) {
   const std::string before = Dump(fresh.db(), indexes);
   for (int64_t wanted : {5'000, 21'000}) {
     auto company = Demo({.years = 2, .transactions = wanted, .today = today});
-    EXPECT_NEAR(static_cast<double>(
-                    company->db().value("SELECT COUNT(DISTINCT TransNum) FROM Transactions").integer()),
+    EXPECT_NEAR(static_cast<double>(company->db().value("SELECT COUNT(DISTINCT TransNum) FROM Transactions").integer()),
                 static_cast<double>(wanted), 10);
     EXPECT_EQ(Dump(company->db(), indexes), before);
   }

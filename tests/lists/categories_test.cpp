@@ -113,8 +113,7 @@ TEST(Categories, ANewCategoryTakesTheLowestFreeNumber) {
 
 TEST(Categories, AnEditKeepsWhatTheFormDoesNotShow) {
   TestCompany company;
-  company.run("UPDATE Accounts SET LastYearEndBal = ?, AccountNum = '6120' WHERE CatID = '42SS'",
-              {Money::dollars(9)});
+  company.run("UPDATE Accounts SET LastYearEndBal = ?, AccountNum = '6120' WHERE CatID = '42SS'", {Money::dollars(9)});
   CategoryForm form = Edit_Category(*company.session, "42SS");
   EXPECT_TRUE(form.Check1);
   EXPECT_EQ(form.cmbSubCat + form.lblParentID + form.txtAcctNum, "Automobile41SS6120");

@@ -28,8 +28,8 @@ TEST(SmallLists, TheGridEditsTheTableDirectly) {
 
 TEST(SmallLists, AValueTypedTwiceIsAddedOnce) {
   TestCompany company;
-  for (const SmallList& list : {Class_List, OtherNames_List, Terms_List, PaymentMethod_List, VIA_List,
-                                RepNames_List, CustomerMessages_List}) {
+  for (const SmallList& list :
+       {Class_List, OtherNames_List, Terms_List, PaymentMethod_List, VIA_List, RepNames_List, CustomerMessages_List}) {
     for (const char* typed : {"New value", "new VALUE", ""}) Add_If_New(*company.session, list, typed);
     EXPECT_EQ(Texts(*company.session, list), "New value;") << list.table;
   }
@@ -49,9 +49,7 @@ TEST(SmallLists, APayeeOfAnyOfTheFourListsIsKnown) {
   EXPECT_EQ(VENandCustList(session), (std::vector<std::string>{"Acme", "Ann O'Neill", "Jones", "Landlord"}));
   // A payee made this way must show in lists that leave out what is dormant.
   for (const char* table : {"Vendors", "Customers"})
-    EXPECT_EQ(
-        company.db().value("SELECT COUNT(*) FROM " + std::string(table) + " WHERE Dormant = False").integer(),
-        1);
+    EXPECT_EQ(company.db().value("SELECT COUNT(*) FROM " + std::string(table) + " WHERE Dormant = False").integer(), 1);
 }
 
 TEST(SmallLists, TheRegisterAsksForCategoriesItDoesNotKnow) {

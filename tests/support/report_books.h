@@ -8,9 +8,7 @@
 
 namespace tallymere::testing {
 
-inline Money D(int64_t dollars) {
-  return Money::dollars(dollars);
-}
+inline Money D(int64_t dollars) { return Money::dollars(dollars); }
 
 /// A row of the ledger as a test writes it; what is left out stays null.
 struct Posting {
@@ -47,8 +45,8 @@ struct Books : TestCompany {
         "Class,"
         " Category, Memo) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)",
         {row.TransNum, row.Type, row.day, row.Account, amount(row.Debit), amount(row.Credit),
-         row.Amount.value_or(row.Debit.is_zero() ? row.Credit : row.Debit), text(row.Name), text(row.PaidBy),
-         row.Paid, text(row.Class), text(row.Category), text(row.Memo)});
+         row.Amount.value_or(row.Debit.is_zero() ? row.Credit : row.Debit), text(row.Name), text(row.PaidBy), row.Paid,
+         text(row.Class), text(row.Category), text(row.Memo)});
   }
 
   ReportRequest request(const std::string& key, Date from, Date to, Basis basis = Basis::Accrual) {

@@ -37,18 +37,20 @@ constexpr Command commands[] = {
     {"new", "new NAME [--folder DIR]", "makes a new company in the program's folder", New},
     {"demo", "demo NAME [--years N] [--transactions N] [--seed N] [--today m/d/yyyy]",
      "makes a company with years of business in it, as small or large as told", Demo},
-    {"enter", "enter --company FILE --name PAYEE --from BANK --to CATEGORY=AMOUNT[,...] [--number N] [--date m/d/yyyy]"
+    {"enter",
+     "enter --company FILE --name PAYEE --from BANK --to CATEGORY=AMOUNT[,...] [--number N] [--date m/d/yyyy]"
      " [--memo TEXT] [--times N]",
      "writes a check, or the same one several times; each number is told once it is safely kept", Enter},
-    {"verify", "verify --company FILE", "checks the whole of the books and the file; exit 1 with what is wrong", Verify},
+    {"verify", "verify --company FILE", "checks the whole of the books and the file; exit 1 with what is wrong",
+     Verify},
     {"figures", "figures --company FILE", "the balances of the company's categories", Figures},
     {"report",
      "report [KEY --company FILE [--range NAME] [--from m/d/yyyy] [--to m/d/yyyy] [--basis cash|accrual] [--title TEXT]"
      " [--fields LIST] [--category ID] [--name NAME] [--item NAME] [--format text|csv|xlsx|pdf] [--out FILE]]",
      "a report of the company's books; without a key, the keys there are", Report},
     {"backup", "backup --company FILE --out FILE.cbk", "writes a backup of the company as it stands", Back_Up},
-    {"restore", "restore --backup FILE.cbk --company FILE", "puts a backup in a company's place, once it has proved sound",
-     Restore},
+    {"restore", "restore --backup FILE.cbk --company FILE",
+     "puts a backup in a company's place, once it has proved sound", Restore},
     {"history", "history [NUMBER] --company FILE [--limit N]",
      "who did what and when, newest first; with a number its rows before and after", History},
     {"undo", "undo NUMBER --company FILE", "takes an action back whole, or says what later work stands on it", Undo},
@@ -59,8 +61,7 @@ constexpr Command commands[] = {
 
 std::span<const Command> Commands() { return commands; }
 
-CliSession::CliSession(Arguments& arguments)
-    : session(Prepared(Folder_Of(arguments)), Clock_Of(arguments), console) {
+CliSession::CliSession(Arguments& arguments) : session(Prepared(Folder_Of(arguments)), Clock_Of(arguments), console) {
   Main(session);
 }
 

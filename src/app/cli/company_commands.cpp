@@ -2,10 +2,10 @@
 
 #include "app/cli/commands.h"
 #include "core/backup/backup.h"
-#include "core/ledger/balances.h"
 #include "core/company/company.h"
-#include "core/values/format.h"
+#include "core/ledger/balances.h"
 #include "core/ledger/verify.h"
+#include "core/values/format.h"
 
 namespace tallymere::cli {
 
@@ -50,13 +50,14 @@ int Figures(Arguments& arguments) {
   auto& db = *cli.session.dbCompany;
   std::cout << cli.session.CompanyFile << ", " << cli.session.today().to_text() << "\n"
             << db.value("SELECT COUNT(DISTINCT TransNum) FROM Transactions").integer() << " transactions\n\n";
-  db.each("SELECT AccountType, AccountName, Balance FROM Accounts WHERE Balance <> 0 AND Dormant = False"
-          " ORDER BY AccountType, AccountName",
-          {}, [](const store::Row& row) {
-            std::string amount = Format(row.money(2), "###,###,##0.00");
-            std::cout << amount.insert(0, amount.size() < 16 ? 16 - amount.size() : 0, ' ') << "  " << row.text(1) << " ("
-                      << row.text(0) << ")\n";
-          });
+  db.each(
+      "SELECT AccountType, AccountName, Balance FROM Accounts WHERE Balance <> 0 AND Dormant = False"
+      " ORDER BY AccountType, AccountName",
+      {}, [](const store::Row& row) {
+        std::string amount = Format(row.money(2), "###,###,##0.00");
+        std::cout << amount.insert(0, amount.size() < 16 ? 16 - amount.size() : 0, ' ') << "  " << row.text(1) << " ("
+                  << row.text(0) << ")\n";
+      });
   return 0;
 }
 

@@ -1,8 +1,8 @@
 #include <iostream>
 
 #include "app/cli/commands.h"
-#include "core/ledger/balances.h"
 #include "core/company/company.h"
+#include "core/ledger/balances.h"
 #include "demo/demo.h"
 
 namespace tallymere::cli {

@@ -3,8 +3,8 @@
 #include "app/cli/commands.h"
 #include "core/ledger/balances.h"
 #include "core/ledger/ledger.h"
-#include "core/values/text.h"
 #include "core/ledger/transaction_writer.h"
+#include "core/values/text.h"
 
 namespace tallymere::cli {
 namespace {
@@ -16,8 +16,8 @@ struct Line {
 
 /// A category by its id or by its name.
 std::string Category_Of(Session& session, const std::string& named) {
-  auto id = session.dbCompany->value("SELECT CatID FROM Accounts WHERE CatID = ? OR AccountName = ? ORDER BY CatID = ? DESC",
-                                     {named, named, named});
+  auto id = session.dbCompany->value(
+      "SELECT CatID FROM Accounts WHERE CatID = ? OR AccountName = ? ORDER BY CatID = ? DESC", {named, named, named});
   if (id.blank()) throw std::runtime_error("there is no category \"" + named + "\"");
   return id.text();
 }
@@ -35,8 +35,8 @@ std::vector<Line> Lines_Of(Session& session, const std::string& text) {
   return lines;
 }
 
-int64_t Enter_One(Session& session, const TransactionHead& head, const std::string& bank, const std::vector<Line>& lines,
-                  const std::string& memo) {
+int64_t Enter_One(Session& session, const TransactionHead& head, const std::string& bank,
+                  const std::vector<Line>& lines, const std::string& memo) {
   Transaction_Writer rows(session, head);
   Money total;
   for (const Line& line : lines) total += line.amount;

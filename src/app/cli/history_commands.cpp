@@ -2,17 +2,20 @@
 
 #include "app/cli/commands.h"
 #include "core/ledger/balances.h"
-#include "core/store/history.h"
 #include "core/ledger/undo.h"
+#include "core/store/history.h"
 
 namespace tallymere::cli {
 namespace {
 
 const char* Word_For(store::RowChange::Kind kind) {
   switch (kind) {
-    case store::RowChange::Kind::Added: return "added";
-    case store::RowChange::Kind::Changed: return "changed";
-    case store::RowChange::Kind::Deleted: return "deleted";
+    case store::RowChange::Kind::Added:
+      return "added";
+    case store::RowChange::Kind::Changed:
+      return "changed";
+    case store::RowChange::Kind::Deleted:
+      return "deleted";
   }
   return "";
 }

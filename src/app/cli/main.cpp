@@ -12,8 +12,7 @@ using namespace tallymere::cli;
 
 int Help(std::ostream& out) {
   out << "tallymere-cli COMMAND ...\n\n";
-  for (const Command& command : Commands())
-    out << "  " << command.usage << "\n      " << command.what << "\n";
+  for (const Command& command : Commands()) out << "  " << command.usage << "\n      " << command.what << "\n";
   out << "\n--folder DIR names the program's folder (databases, log, new companies); normally it is found.\n"
          "--today m/d/yyyy is the day the program stands on; normally it is today.\n";
   return &out == &std::cerr ? 2 : 0;
@@ -28,8 +27,8 @@ int Run(const Command& command, const std::vector<std::string>& words) {
     Arguments arguments(words);
     return command.run(arguments);
   } catch (const Usage& fault) {
-    std::cerr << "tallymere-cli " << command.name << ": " << fault.what() << "\nusage: tallymere-cli "
-              << command.usage << "\n";
+    std::cerr << "tallymere-cli " << command.name << ": " << fault.what() << "\nusage: tallymere-cli " << command.usage
+              << "\n";
     return 2;
   } catch (const tallymere::store::Error& fault) {
     std::cerr << "error " << fault.number << ": " << fault.what() << "\n";

@@ -7,12 +7,12 @@
 #include <iostream>
 
 #include "app/cli/commands.h"
-#include "core/values/date_range.h"
+#include "core/backup/whole_file.h"
 #include "core/company/program_folder.h"
 #include "core/store/error.h"
+#include "core/values/date_range.h"
 #include "core/values/text.h"
 #include "reports/frame/renderers.h"
-#include "core/backup/whole_file.h"
 #include "reports/frame/report_file.h"
 #include "reports/reports.h"
 
@@ -22,8 +22,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::string_view option_names[] = {report_option::fields, report_option::category,
-                                             report_option::name, report_option::item};
+constexpr std::string_view option_names[] = {report_option::fields, report_option::category, report_option::name,
+                                             report_option::item};
 
 int List_Reports() {
   for (const ReportDef& report : Reports()) {
@@ -71,8 +71,7 @@ void Take_Basis(Arguments& arguments, const ReportDef& report, ReportRequest& re
   request.basis = basis == "cash" ? Basis::Cash : Basis::Accrual;
 }
 
-void Take_Options(Arguments& arguments, const ReportDef& report, store::Database& db,
-                  ReportRequest& request) {
+void Take_Options(Arguments& arguments, const ReportDef& report, store::Database& db, ReportRequest& request) {
   for (std::string_view known : option_names) {
     std::string name(known);
     if (!report.takes(name)) continue;
@@ -85,8 +84,7 @@ void Take_Options(Arguments& arguments, const ReportDef& report, store::Database
 /// Hands the table to the program that paints pages: this one links nothing that could.
 void Write_Pdf(const ReportTable& table, const fs::path& out) {
   fs::path painter = Program_File().parent_path() / "tallymere-paint";
-  if (!fs::exists(painter))
-    throw std::runtime_error("tallymere-paint, which paints pages, is not installed here");
+  if (!fs::exists(painter)) throw std::runtime_error("tallymere-paint, which paints pages, is not installed here");
   fs::path handed = out;
   handed += ".report";
   {
@@ -128,8 +126,7 @@ std::string Format_Of(Arguments& arguments, const std::string& out) {
   constexpr std::string_view known[] = {"text", "csv", "table", "xlsx", "pdf"};
   if (std::find(std::begin(known), std::end(known), format) == std::end(known))
     throw Usage("--format takes text, csv, xlsx or pdf");
-  if (out.empty() && (format == "xlsx" || format == "pdf"))
-    throw Usage("--format " + format + " needs --out FILE");
+  if (out.empty() && (format == "xlsx" || format == "pdf")) throw Usage("--format " + format + " needs --out FILE");
   return format;
 }
 

@@ -58,9 +58,7 @@ Database::Params Params(const std::vector<QJSValue>& params) {
 }
 
 /// Sums of decimals carry the dust of binary fractions; amounts end at the fourth decimal.
-double Without_Dust(double sum) {
-  return std::round(sum * 1e6) / 1e6;
-}
+double Without_Dust(double sum) { return std::round(sum * 1e6) / 1e6; }
 
 struct To_Script {
   QJSEngine& engine;
@@ -87,8 +85,7 @@ QJSValue Row(QJSEngine& engine, const Statement& statement, bool with_empty) {
     const std::string name = statement.column_name(column);
     if (name == store::hidden_key) continue;
     const Value value = Cell(statement, column);
-    if (with_empty || !value.is_null())
-      row.setProperty(qt(name), std::visit(To_Script{engine}, value.content()));
+    if (with_empty || !value.is_null()) row.setProperty(qt(name), std::visit(To_Script{engine}, value.content()));
   }
   return row;
 }
@@ -99,8 +96,7 @@ QJSValue Read(QJSEngine& engine, const std::filesystem::path& company, const std
   Show_Decimals(*db);
   QJSValue rows = engine.newArray();
   Statement statement = db->query(sql, params);
-  for (quint32 count = 0; statement.step(); ++count)
-    rows.setProperty(count, Row(engine, statement, with_empty));
+  for (quint32 count = 0; statement.step(); ++count) rows.setProperty(count, Row(engine, statement, with_empty));
   return rows;
 }
 
@@ -114,8 +110,7 @@ std::vector<std::string> Columns_Of_Params(const std::string& sql) {
     for (const std::string& name : split(list[1].str(), ",")) columns.push_back(trim(name));
     return columns;
   }
-  for (std::sregex_iterator at(sql.begin(), sql.end(), marks), end; at != end; ++at)
-    columns.push_back((*at)[1].str());
+  for (std::sregex_iterator at(sql.begin(), sql.end(), marks), end; at != end; ++at) columns.push_back((*at)[1].str());
   return columns;
 }
 
@@ -132,8 +127,7 @@ QJSValue Rows(QJSEngine& engine, const std::filesystem::path& company, const std
   return Read(engine, company, sql, Params(params), true);
 }
 
-int Change(const std::filesystem::path& company, const std::string& sql,
-           const std::vector<QJSValue>& params) {
+int Change(const std::filesystem::path& company, const std::string& sql, const std::vector<QJSValue>& params) {
   const std::unique_ptr<Database> db = Open(company);
   Database::Params values = Params(params);
   const std::vector<std::string> columns = Columns_Of_Params(sql);
@@ -149,8 +143,7 @@ int Change(const std::filesystem::path& company, const std::string& sql,
 }
 
 QJSValue Ledger(QJSEngine& engine, const std::filesystem::path& company, const QJSValue& number) {
-  return Read(engine, company, "SELECT * FROM Transactions WHERE TransNum = ? ORDER BY RowKey",
-              {Param(number)}, false);
+  return Read(engine, company, "SELECT * FROM Transactions WHERE TransNum = ? ORDER BY RowKey", {Param(number)}, false);
 }
 
 }  // namespace tallymere::drive::books

@@ -34,52 +34,27 @@ QString Read_As(const QObject& object) {
   return control ? Read(*control) : QString();
 }
 
-QString Button_Text(const QAbstractButton& button) {
-  return button.text();
-}
-QString Combo_Text(const QComboBox& combo) {
-  return combo.currentText();
-}
-QString Group_Text(const QGroupBox& group) {
-  return group.title();
-}
-QString Label_Text(const QLabel& label) {
-  return label.text();
-}
-QString Line_Text(const QLineEdit& line) {
-  return line.text();
-}
-QString List_Text(const QListWidget& list) {
-  return list.currentItem() ? list.currentItem()->text() : QString();
-}
-QString Plain_Text(const QPlainTextEdit& edit) {
-  return edit.toPlainText();
-}
-QString Progress_Text(const QProgressBar& bar) {
-  return QString::number(bar.value());
-}
-QString Rich_Text(const QTextEdit& edit) {
-  return edit.toPlainText();
-}
-QString Tab_Text(const QTabWidget& tabs) {
-  return tabs.tabText(tabs.currentIndex());
-}
-QString Chosen_Option(const QButtonGroup& group) {
-  return QString::number(group.checkedId());
-}
+QString Button_Text(const QAbstractButton& button) { return button.text(); }
+QString Combo_Text(const QComboBox& combo) { return combo.currentText(); }
+QString Group_Text(const QGroupBox& group) { return group.title(); }
+QString Label_Text(const QLabel& label) { return label.text(); }
+QString Line_Text(const QLineEdit& line) { return line.text(); }
+QString List_Text(const QListWidget& list) { return list.currentItem() ? list.currentItem()->text() : QString(); }
+QString Plain_Text(const QPlainTextEdit& edit) { return edit.toPlainText(); }
+QString Progress_Text(const QProgressBar& bar) { return QString::number(bar.value()); }
+QString Rich_Text(const QTextEdit& edit) { return edit.toPlainText(); }
+QString Tab_Text(const QTabWidget& tabs) { return tabs.tabText(tabs.currentIndex()); }
+QString Chosen_Option(const QButtonGroup& group) { return QString::number(group.checkedId()); }
 
 constexpr std::array<Reader, 11> readers{
-    Read_As<QAbstractButton, Button_Text>, Read_As<QComboBox, Combo_Text>,
-    Read_As<QGroupBox, Group_Text>,        Read_As<QLabel, Label_Text>,
-    Read_As<QLineEdit, Line_Text>,         Read_As<QListWidget, List_Text>,
-    Read_As<QPlainTextEdit, Plain_Text>,   Read_As<QProgressBar, Progress_Text>,
-    Read_As<QTextEdit, Rich_Text>,         Read_As<QTabWidget, Tab_Text>,
-    Read_As<QButtonGroup, Chosen_Option>};
+    Read_As<QAbstractButton, Button_Text>, Read_As<QComboBox, Combo_Text>,       Read_As<QGroupBox, Group_Text>,
+    Read_As<QLabel, Label_Text>,           Read_As<QLineEdit, Line_Text>,        Read_As<QListWidget, List_Text>,
+    Read_As<QPlainTextEdit, Plain_Text>,   Read_As<QProgressBar, Progress_Text>, Read_As<QTextEdit, Rich_Text>,
+    Read_As<QTabWidget, Tab_Text>,         Read_As<QButtonGroup, Chosen_Option>};
 
 QWidget& Widget(QObject& control) {
   auto* widget = qobject_cast<QWidget*>(&control);
-  if (!widget)
-    throw Failed{control.objectName().toStdString() + " is a group of options", "option(group, index)"};
+  if (!widget) throw Failed{control.objectName().toStdString() + " is a group of options", "option(group, index)"};
   hands::Reach(*widget, widget->objectName());
   return *widget;
 }
@@ -166,8 +141,7 @@ QStringList Items_Of(const QObject& control) {
 }
 
 QVariant Property_Of(const QObject& control, const QString& word) {
-  if (const auto* command = qobject_cast<const QAction*>(&control))
-    return Property_Of_Command(*command, word);
+  if (const auto* command = qobject_cast<const QAction*>(&control)) return Property_Of_Command(*command, word);
   const auto* widget = qobject_cast<const QWidget*>(&control);
   if (word == QLatin1String("value")) return Text_Of(control);
   if (word == QLatin1String("items")) return Items_Of(control);
@@ -233,9 +207,7 @@ void Check(QObject& control, bool on) {
   }
 }
 
-void Option(QObject& group, int index) {
-  Click(lookup::Option(group, index));
-}
+void Option(QObject& group, int index) { Click(lookup::Option(group, index)); }
 
 void Key(QObject& control, const QString& key) {
   QWidget& widget = Widget(control);

@@ -18,9 +18,7 @@ std::string Describe(Expectations::Kind kind, const std::optional<std::string>& 
   return Name(kind) + "(" + part(title) + (one_name ? "" : ", " + part(text)) + ")";
 }
 
-bool Matches(const std::optional<std::string>& wanted, const std::string& seen) {
-  return !wanted || *wanted == seen;
-}
+bool Matches(const std::optional<std::string>& wanted, const std::string& seen) { return !wanted || *wanted == seen; }
 
 }  // namespace
 
@@ -34,8 +32,7 @@ void Expectations::add_first(Expected expected) {
   queue_.push_front(std::move(expected));
 }
 
-std::optional<Expectations::Expected> Expectations::meet(Kind kind, const std::string& title,
-                                                         const std::string& text) {
+std::optional<Expectations::Expected> Expectations::meet(Kind kind, const std::string& title, const std::string& text) {
   if (quiet_) return std::nullopt;
   const std::string seen = Describe(kind, title, text);
   if (queue_.empty()) {
@@ -45,8 +42,8 @@ std::optional<Expectations::Expected> Expectations::meet(Kind kind, const std::s
   Expected next = std::move(queue_.front());
   queue_.pop_front();
   if (next.kind == kind && Matches(next.title, title) && Matches(next.text, text)) return next;
-  fail({"not the " + Name(next.kind) + " that " + next.where + " expects",
-        Describe(next.kind, next.title, next.text), seen});
+  fail({"not the " + Name(next.kind) + " that " + next.where + " expects", Describe(next.kind, next.title, next.text),
+        seen});
   return std::nullopt;
 }
 

@@ -18,8 +18,6 @@ struct Failed {
   }
 };
 
-inline std::string Shown(const std::string& text) {
-  return '"' + text + '"';
-}
+inline std::string Shown(const std::string& text) { return '"' + text + '"'; }
 
 }  // namespace tallymere::drive

@@ -10,17 +10,14 @@ namespace tallymere::drive::grids {
 
 namespace {
 
-std::string Name_Of(const SSDBGrid& grid) {
-  return utf8(grid.objectName());
-}
+std::string Name_Of(const SSDBGrid& grid) { return utf8(grid.objectName()); }
 
 /// A row of the grid; the one after the last is the new line.
 int Row_In(const SSDBGrid& grid, const QJSValue& row, bool or_new_line = false) {
   const int number = row.toInt();
   const int last = grid.rows() - (or_new_line ? 0 : 1);
   if (row.isNumber() && number >= 0 && number <= last) return number;
-  throw Failed{
-      Name_Of(grid) + " has no row " + utf8(row.toString()), {}, std::to_string(grid.rows()) + " rows"};
+  throw Failed{Name_Of(grid) + " has no row " + utf8(row.toString()), {}, std::to_string(grid.rows()) + " rows"};
 }
 
 int Column_In(const SSDBGrid& grid, const QJSValue& column) {

@@ -30,8 +30,7 @@ std::optional<std::string> Args::maybe_text(int at) const {
 }
 
 int Args::number(int at) const {
-  if (!value(at).isNumber())
-    throw Failed{"argument " + std::to_string(at + 1), "a number", utf8(value(at).toString())};
+  if (!value(at).isNumber()) throw Failed{"argument " + std::to_string(at + 1), "a number", utf8(value(at).toString())};
   return value(at).toInt();
 }
 

@@ -62,8 +62,7 @@ static void Wait_Till_Idle() {
   constexpr int patience_ms = 5000;
   QElapsedTimer waited;
   waited.start();
-  while (waited.elapsed() < patience_ms &&
-         QAbstractEventDispatcher::instance()->processEvents(QEventLoop::AllEvents)) {
+  while (waited.elapsed() < patience_ms && QAbstractEventDispatcher::instance()->processEvents(QEventLoop::AllEvents)) {
   }
 }
 

@@ -41,8 +41,7 @@ bool Is_Window(const QWidget& widget) {
 
 bool Is_Control(const QObject& object) {
   if (object.objectName().isEmpty() || object.objectName().startsWith(QLatin1String("qt_"))) return false;
-  return object.isWidgetType() || qobject_cast<const QButtonGroup*>(&object) ||
-         qobject_cast<const QAction*>(&object);
+  return object.isWidgetType() || qobject_cast<const QButtonGroup*>(&object) || qobject_cast<const QAction*>(&object);
 }
 
 /// Of two with the same name the command stands before its menu, the one on show before the hidden one.
@@ -112,8 +111,7 @@ QWidget& Window(const QString& name) {
   if (!found.empty()) return *found.back();
   QStringList open;
   for (const QWidget* window : Windows()) open << window->objectName();
-  throw Failed{
-      name.toStdString() + " is not open", {}, "open: " + open.join(QLatin1String(", ")).toStdString()};
+  throw Failed{name.toStdString() + " is not open", {}, "open: " + open.join(QLatin1String(", ")).toStdString()};
 }
 
 QObject& Control(QWidget& window, const QString& name) {
@@ -122,8 +120,7 @@ QObject& Control(QWidget& window, const QString& name) {
   for (QObject* child : window.findChildren<QObject*>()) {
     if (!Is_Control(*child)) continue;
     names << child->objectName();
-    if (child->objectName() == name && (!found || (!Comes_First(*found) && Comes_First(*child))))
-      found = child;
+    if (child->objectName() == name && (!found || (!Comes_First(*found) && Comes_First(*child)))) found = child;
   }
   if (auto* menu = qobject_cast<QMenu*>(found)) return *menu->menuAction();
   if (found) return *found;
@@ -133,9 +130,8 @@ QObject& Control(QWidget& window, const QString& name) {
   for (const QString& form : {QStringLiteral("%1_0"), QStringLiteral("%1(0)"), QStringLiteral("%10")}) {
     if (QObject* first = window.findChild<QAbstractButton*>(form.arg(name))) return *first;
   }
-  throw Failed{"no control " + name.toStdString() + " in " + window.objectName().toStdString(),
-               {},
-               Near_Names(name, names)};
+  throw Failed{
+      "no control " + name.toStdString() + " in " + window.objectName().toStdString(), {}, Near_Names(name, names)};
 }
 
 QAbstractButton& Option(QObject& group, int index) {
@@ -166,9 +162,7 @@ QAction& Tool_Command(const QString& name) {
   return Named(all, name, "the toolbar");
 }
 
-QAction& Item_Of(const QWidget& menu, const QString& name) {
-  return Named(menu.actions(), name, "the context menu");
-}
+QAction& Item_Of(const QWidget& menu, const QString& name) { return Named(menu.actions(), name, "the context menu"); }
 
 void Require_Usable(const QAction& command) {
   const std::string name = Name_Of(command).toStdString();

@@ -38,8 +38,7 @@ std::string Read(const QCommandLineParser& parser, Options& options) {
   options.folder = value("folder");
   options.data = value("data");
   options.shots = value("shots");
-  if (!options.folder.empty() && parser.isSet(QStringLiteral("temp")))
-    return "--folder and --temp exclude each other";
+  if (!options.folder.empty() && parser.isSet(QStringLiteral("temp"))) return "--folder and --temp exclude each other";
   options.today = Date::parse(value("today"));
   if (!options.today && !value("today").empty()) return "--today is not a date: " + value("today");
   if (parser.isSet(QStringLiteral("patience"))) options.patience = std::atoi(value("patience").c_str());

@@ -21,13 +21,10 @@ Script::Script(const Options& options, Stage& stage, Expectations& expectations,
   QJSEngine::setObjectOwnership(this, QJSEngine::CppOwnership);
   const QJSValue set_up = engine_.evaluate(QString::fromUtf8(prelude), QStringLiteral("driver"));
   wrap_ = set_up.call({engine_.newQObject(this), engine_.globalObject()});
-  if (!wrap_.isCallable())
-    throw std::logic_error("the prelude fails: " + utf8(wrap_.toString() + set_up.toString()));
+  if (!wrap_.isCallable()) throw std::logic_error("the prelude fails: " + utf8(wrap_.toString() + set_up.toString()));
 }
 
-Script::~Script() {
-  watch_.put_away();
-}
+Script::~Script() { watch_.put_away(); }
 
 bool Script::run() {
   QFile file(qt(options_.script.string()));

@@ -16,8 +16,7 @@ bool ScriptedPrompts::ask(const Box& box, Buttons) {
   if (!expected) return false;
   const std::string answer = expected->answer.value_or("");
   if (answer != "Yes" && answer != "No") {
-    expectations_.fail(
-        {"the box " + Shown(box.text) + " asks", "an answer \"Yes\" or \"No\"", Shown(answer)});
+    expectations_.fail({"the box " + Shown(box.text) + " asks", "an answer \"Yes\" or \"No\"", Shown(answer)});
   }
   return answer == "Yes";
 }
@@ -38,13 +37,9 @@ std::optional<std::string> ScriptedPrompts::input(const std::string& title, cons
   return expected ? expected->answer : std::nullopt;
 }
 
-std::string ScriptedPrompts::open_file(const std::string& filter, const std::string&) {
-  return file(filter);
-}
+std::string ScriptedPrompts::open_file(const std::string& filter, const std::string&) { return file(filter); }
 
-std::string ScriptedPrompts::save_file(const std::string& filter, const std::string&) {
-  return file(filter);
-}
+std::string ScriptedPrompts::save_file(const std::string& filter, const std::string&) { return file(filter); }
 
 std::string ScriptedPrompts::file(const std::string& filter) {
   const auto expected = expectations_.meet(Kind::File, filter, "");

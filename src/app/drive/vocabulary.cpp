@@ -36,12 +36,8 @@ QJSValue Run(QAction& command) {
   return {};
 }
 
-QJSValue Menu(Toolbox&, const Args& args) {
-  return Run(lookup::Menu_Command(args.text(0)));
-}
-QJSValue Tool(Toolbox&, const Args& args) {
-  return Run(lookup::Tool_Command(args.text(0)));
-}
+QJSValue Menu(Toolbox&, const Args& args) { return Run(lookup::Menu_Command(args.text(0))); }
+QJSValue Tool(Toolbox&, const Args& args) { return Run(lookup::Tool_Command(args.text(0))); }
 
 /// The first of a company's two doors: the option of frmStart while that window stands, later a command.
 void Begin(int start_option, const char* command) {
@@ -85,12 +81,8 @@ QJSValue Popup(Toolbox&, const Args& args) {
 
 // --- windows and controls ------------------------------------------------------------------------
 
-QJSValue Win(Toolbox& tools, const Args& args) {
-  return tools.handles.number_of(lookup::Window(args.text(0)));
-}
-QJSValue Is_Open(Toolbox&, const Args& args) {
-  return !lookup::Windows(args.text(0)).empty();
-}
+QJSValue Win(Toolbox& tools, const Args& args) { return tools.handles.number_of(lookup::Window(args.text(0))); }
+QJSValue Is_Open(Toolbox&, const Args& args) { return !lookup::Windows(args.text(0)).empty(); }
 
 QJSValue Wins(Toolbox& tools, const Args& args) {
   QJSValue list = tools.engine.newArray();
@@ -120,32 +112,18 @@ QJSValue Get(Toolbox& tools, const Args& args) {
   return seen;
 }
 
-QJSValue Name(Toolbox&, const Args& args) {
-  return args.control(0).objectName();
-}
+QJSValue Name(Toolbox&, const Args& args) { return args.control(0).objectName(); }
 
 QJSValue Grid(Toolbox& tools, const Args& args) {
   return grids::Find_Verb(args.text(1))(tools.engine, args.grid(0), args.value(2));
 }
 
-QJSValue Click(Toolbox&, const Args& args) {
-  return controls::Click(args.control(0)), QJSValue();
-}
-QJSValue Type(Toolbox&, const Args& args) {
-  return controls::Type(args.control(0), args.text(1)), QJSValue();
-}
-QJSValue Pick(Toolbox&, const Args& args) {
-  return controls::Pick(args.control(0), args.text(1)), QJSValue();
-}
-QJSValue Check(Toolbox&, const Args& args) {
-  return controls::Check(args.control(0), args.flag(1)), QJSValue();
-}
-QJSValue Option(Toolbox&, const Args& args) {
-  return controls::Option(args.control(0), args.number(1)), QJSValue();
-}
-QJSValue Key(Toolbox&, const Args& args) {
-  return controls::Key(args.control(0), args.text(1)), QJSValue();
-}
+QJSValue Click(Toolbox&, const Args& args) { return controls::Click(args.control(0)), QJSValue(); }
+QJSValue Type(Toolbox&, const Args& args) { return controls::Type(args.control(0), args.text(1)), QJSValue(); }
+QJSValue Pick(Toolbox&, const Args& args) { return controls::Pick(args.control(0), args.text(1)), QJSValue(); }
+QJSValue Check(Toolbox&, const Args& args) { return controls::Check(args.control(0), args.flag(1)), QJSValue(); }
+QJSValue Option(Toolbox&, const Args& args) { return controls::Option(args.control(0), args.number(1)), QJSValue(); }
+QJSValue Key(Toolbox&, const Args& args) { return controls::Key(args.control(0), args.text(1)), QJSValue(); }
 QJSValue Right_Click(Toolbox&, const Args& args) {
   return grids::Right_Click(args.grid(0), args.number(1)), QJSValue();
 }
@@ -177,8 +155,7 @@ QJSValue Expect_File(Toolbox& tools, const Args& args) {
 }
 
 QJSValue Expect_Modal(Toolbox& tools, const Args& args) {
-  if (!args.value(1).isCallable())
-    throw Failed{"modal() without a function", "modal(name, function (w) { ... })"};
+  if (!args.value(1).isCallable()) throw Failed{"modal() without a function", "modal(name, function (w) { ... })"};
   tools.expectations.add({Kind::Modal, args.maybe_text(0), std::nullopt, std::nullopt, args.value(1)});
   return {};
 }
@@ -212,12 +189,8 @@ QJSValue Stop(Toolbox& tools, const Args&) {
   return {};
 }
 
-QJSValue Sounds(Toolbox& tools, const Args&) {
-  return List(tools, tools.stage.sounds());
-}
-QJSValue Log(Toolbox& tools, const Args&) {
-  return List(tools, tools.stage.log_lines());
-}
+QJSValue Sounds(Toolbox& tools, const Args&) { return List(tools, tools.stage.sounds()); }
+QJSValue Log(Toolbox& tools, const Args&) { return List(tools, tools.stage.log_lines()); }
 
 QJSValue Shot(Toolbox& tools, const Args& args) {
   const auto named = lookup::Windows(args.text(0));

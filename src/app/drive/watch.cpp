@@ -40,8 +40,7 @@ void Watch::look() {
 void Watch::meet(QWidget& modal) {
   const QPointer<QWidget> window = &modal;
   const std::string name =
-      utf8(modal.objectName().isEmpty() ? QString::fromLatin1(modal.metaObject()->className())
-                                        : modal.objectName());
+      utf8(modal.objectName().isEmpty() ? QString::fromLatin1(modal.metaObject()->className()) : modal.objectName());
   if (putting_away_) return close(modal);
   const auto expected = expectations_.meet(Expectations::Kind::Modal, name, "");
   if (!expected) return close(modal);

@@ -1,10 +1,10 @@
 #include "core/backup/backup.h"
 
 #include "core/backup/clsHuffman.h"
+#include "core/backup/whole_file.h"
 #include "core/company/company.h"
 #include "core/company/folder.h"
 #include "core/values/text.h"
-#include "core/backup/whole_file.h"
 
 namespace tallymere {
 namespace {
@@ -84,8 +84,7 @@ fs::path Expand_Backup(const fs::path& backup, const fs::path& target, const Per
     throw store::Error(store::errors::not_a_database, "The backup holds no company.");
   // Stored data has no checksum, and the one of compressed data is a single byte.
   if (const auto faults = company->connection().integrity_faults(); !faults.empty())
-    throw store::Error(store::errors::file_damaged,
-                       "The company in the backup is damaged: " + faults.front());
+    throw store::Error(store::errors::file_damaged, "The company in the backup is damaged: " + faults.front());
   return expanded.hand_on();
 }
 
@@ -126,8 +125,7 @@ void Move_With_Journal(const fs::path& from, const fs::path& to) {
   fs::rename(Journal_Of(from), Journal_Of(to), no_journal);
 }
 
-void Replace_Unreadable(const fs::path& expanded, const fs::path& target,
-                        const std::function<void()>& reopen) {
+void Replace_Unreadable(const fs::path& expanded, const fs::path& target, const std::function<void()>& reopen) {
   fs::path before = target;
   before += ".before";
   Move_With_Journal(target, before);
@@ -158,8 +156,7 @@ void Replace_Company(const fs::path& expanded, const fs::path& target, const std
 
 bool Backup_Company(Session& session, const std::string& file_name) {
   if (file_name.empty()) {
-    session.prompts.box(
-        {"Pick a File name that is shorter than 9 characters.", "Name To Long", Icon::Critical});
+    session.prompts.box({"Pick a File name that is shorter than 9 characters.", "Name To Long", Icon::Critical});
     return false;
   }
   if (!session.dbCompany) throw store::Error(store::errors::file_not_found, "No company is open.");

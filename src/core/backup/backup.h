@@ -22,8 +22,7 @@ using Percent = std::function<bool(int)>;
 /// Writes the open company into a backup as it stands at one moment, read under a lock. The destination is
 /// replaced as a whole or left as it was. false: stopped on request. store::Error, HuffmanError or
 /// filesystem_error on failure.
-bool Write_Backup(store::Database& company, const std::filesystem::path& destination,
-                  const Percent& percent = {});
+bool Write_Backup(store::Database& company, const std::filesystem::path& destination, const Percent& percent = {});
 
 /// Expands a backup beside `target` and makes sure of its checksum and that it opens as a company. Returns
 /// the expanded file, which the caller owns; nothing is left behind on failure or stop (an empty path).
@@ -44,7 +43,7 @@ bool Backup_Company(Session& session, const std::string& file_name);
 /// it is the open company afterwards, without its sets. `let_go` runs once the backup has proved sound and
 /// before the company that is open is closed: its windows go here; false ends the command. When this throws,
 /// the company is open again as it was, with its sets. false: stopped on request.
-bool Restore_Company(Session& session, const std::filesystem::path& backup,
-                     const std::filesystem::path& target, const std::function<bool()>& let_go = {});
+bool Restore_Company(Session& session, const std::filesystem::path& backup, const std::filesystem::path& target,
+                     const std::function<bool()>& let_go = {});
 
 }  // namespace tallymere

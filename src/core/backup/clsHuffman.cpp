@@ -33,9 +33,7 @@ HuffmanError Corrupt(const std::string& why) {
   return {"clsHuffman.Decode()", "The data might be corrupted (" + why + ")"};
 }
 
-HuffmanError Wrong_Checksum() {
-  return Corrupt("checksum did not match expected value");
-}
+HuffmanError Wrong_Checksum() { return Corrupt("checksum did not match expected value"); }
 
 /// Raises the owner's event, but not twice in a row with the same value.
 class ProgressReport {
@@ -64,8 +62,7 @@ void In_Blocks(ByteSpan bytes, std::size_t block, ProgressReport& progress, Perc
 }
 
 ByteCounts Count_Bytes(ByteSpan bytes, ProgressReport& progress) {
-  std::array<ByteCounts, 4>
-      lanes{};  // four counters a value: a run of one byte need not wait for its own sum
+  std::array<ByteCounts, 4> lanes{};  // four counters a value: a run of one byte need not wait for its own sum
   const auto count = [&](ByteSpan block) {
     std::size_t i = 0;
     for (; i + 4 <= block.size(); i += 4) {
@@ -106,9 +103,7 @@ std::size_t Get_Number(const std::uint8_t* from, std::size_t width) {
   return value;
 }
 
-constexpr std::size_t Whole_Bytes(std::size_t bits) {
-  return (bits + 7) / 8;
-}
+constexpr std::size_t Whole_Bytes(std::size_t bits) { return (bits + 7) / 8; }
 
 /// The sizes that decide how, and into how much room, data is written.
 struct CodeSizes {
@@ -200,8 +195,7 @@ void Decode_Data(const HuffmanDecoder& decoder, ByteSpan in, std::size_t data_at
   for (auto mark = (data_at + kBlock - 1) / kBlock * kBlock;; mark += kBlock) {
     // The last block also asks for a bit beyond the input, so that data cut short is noticed.
     if (!decoder.Decode_Until((mark + 1) * 8, in, out, at))
-      throw Corrupt("it can be read only up to byte " + std::to_string(at.done) + " of " +
-                    std::to_string(out.size()));
+      throw Corrupt("it can be read only up to byte " + std::to_string(at.done) + " of " + std::to_string(out.size()));
     if (at.done == out.size()) return;
     progress(static_cast<double>(mark) / static_cast<double>(in.size()) * 89);
   }
@@ -227,9 +221,8 @@ bool Is_Stored(ByteSpan in) {
   if (in[0] != kCompressed[0] || in[1] != kCompressed[1] || in[3] != kCompressed[3]) return false;
   if (in[2] == kStored[2]) return true;
   if (in[2] == kCompressed[2]) return false;
-  throw HuffmanError(
-      "HuffmanDecode()",
-      "The data either was not compressed with HE3 or is corrupt (identification string not found)");
+  throw HuffmanError("HuffmanDecode()",
+                     "The data either was not compressed with HE3 or is corrupt (identification string not found)");
 }
 
 Bytes Read_Whole_File(const fs::path& path, std::size_t length, std::string_view source) {

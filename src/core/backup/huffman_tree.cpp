@@ -9,22 +9,18 @@
 namespace tallymere {
 namespace {
 
-static_assert(std::endian::native == std::endian::little,
-              "words are stored and loaded with the first bit lowest");
+static_assert(std::endian::native == std::endian::little, "words are stored and loaded with the first bit lowest");
 
 using Nodes = std::vector<HuffmanNode>;
 
-bool Bit_At(std::span<const std::uint8_t> bytes, std::size_t bit) {
-  return (bytes[bit >> 3] >> (bit & 7)) & 1;
-}
+bool Bit_At(std::span<const std::uint8_t> bytes, std::size_t bit) { return (bytes[bit >> 3] >> (bit & 7)) & 1; }
 
 Nodes Make_Leaves(const ByteCounts& counts) {
   Nodes nodes;
   nodes.reserve(kMaxHuffmanNodes);
   for (std::size_t value = 0; value < counts.size(); ++value) {
     if (counts[value] == 0) continue;
-    nodes.push_back(
-        {.Value = static_cast<std::int16_t>(value), .Weight = static_cast<std::int32_t>(counts[value])});
+    nodes.push_back({.Value = static_cast<std::int16_t>(value), .Weight = static_cast<std::int32_t>(counts[value])});
   }
   return nodes;
 }
@@ -133,8 +129,7 @@ std::optional<HuffmanDecoder> HuffmanDecoder::From_Table(const std::array<std::u
   decoder.nodes_.emplace_back();
   std::size_t bit = 0;
   for (std::size_t value = 0; value < lengths.size(); ++value) {
-    if (!decoder.InsertCode(static_cast<std::int16_t>(value), codes, bit, lengths[value]))
-      return std::nullopt;
+    if (!decoder.InsertCode(static_cast<std::int16_t>(value), codes, bit, lengths[value])) return std::nullopt;
     bit += lengths[value];
   }
   decoder.Fill_Lookup();
@@ -171,8 +166,7 @@ bool HuffmanDecoder::InsertCode(std::int16_t value, std::span<const std::uint8_t
 
 void HuffmanDecoder::Fill_Lookup() {
   lookup_.resize(std::size_t{1} << kLookupBits);
-  for (std::uint32_t pattern = 0; pattern < lookup_.size(); ++pattern)
-    lookup_[pattern] = Walk_Pattern(pattern);
+  for (std::uint32_t pattern = 0; pattern < lookup_.size(); ++pattern) lookup_[pattern] = Walk_Pattern(pattern);
 }
 
 HuffmanDecoder::Entry HuffmanDecoder::Walk_Pattern(std::uint32_t pattern) const {
@@ -192,8 +186,8 @@ HuffmanDecoder::Entry HuffmanDecoder::Walk_Pattern(std::uint32_t pattern) const 
 }
 
 /// Stops early, near either end, where a whole word could not be loaded or stored safely.
-void HuffmanDecoder::Decode_Fast(std::size_t until, std::span<const std::uint8_t> in,
-                                 std::span<std::uint8_t> out, DecodePosition& at) const {
+void HuffmanDecoder::Decode_Fast(std::size_t until, std::span<const std::uint8_t> in, std::span<std::uint8_t> out,
+                                 DecodePosition& at) const {
   constexpr unsigned kPerWord = 57 / kLookupBits;
   constexpr std::size_t kRoom = (kPerWord - 1) * kMaxSymbols + sizeof(Entry);
   static_assert(sizeof(Entry) == 8);
@@ -233,8 +227,8 @@ bool HuffmanDecoder::Decode_One(std::span<const std::uint8_t> in, std::span<std:
   return false;
 }
 
-bool HuffmanDecoder::Decode_Until(std::size_t until, std::span<const std::uint8_t> in,
-                                  std::span<std::uint8_t> out, DecodePosition& at) const {
+bool HuffmanDecoder::Decode_Until(std::size_t until, std::span<const std::uint8_t> in, std::span<std::uint8_t> out,
+                                  DecodePosition& at) const {
   Decode_Fast(until, in, out, at);
   while (at.bit < until && at.done < out.size()) {
     if (!Decode_One(in, out, at)) return false;

@@ -91,8 +91,7 @@ class HuffmanDecoder {
     std::uint8_t bits = 0;
   };
 
-  bool InsertCode(std::int16_t value, std::span<const std::uint8_t> codes, std::size_t bit,
-                  std::size_t count);
+  bool InsertCode(std::int16_t value, std::span<const std::uint8_t> codes, std::size_t bit, std::size_t count);
   std::int16_t Child_For_Insert(std::int16_t node, bool one);
   void Fill_Lookup();
   Entry Walk_Pattern(std::uint32_t pattern) const;

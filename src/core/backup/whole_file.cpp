@@ -21,9 +21,7 @@ FileAside::FileAside(const fs::path& beside, const char* ending) : path_(beside)
   remove();
 }
 
-fs::path FileAside::hand_on() {
-  return std::exchange(path_, {});
-}
+fs::path FileAside::hand_on() { return std::exchange(path_, {}); }
 
 void FileAside::remove() {
   std::error_code ignored;
@@ -66,8 +64,7 @@ void Write_Whole(const fs::path& place, const std::function<void(std::ostream&)>
   Write_Whole_By_Name(place, [&](const fs::path& file) {
     std::ofstream out(file, std::ios::binary);
     write(out);
-    if (!out.flush())
-      throw store::Error(store::errors::bad_path, "'" + place.string() + "' cannot be written.");
+    if (!out.flush()) throw store::Error(store::errors::bad_path, "'" + place.string() + "' cannot be written.");
   });
 }
 

@@ -1,9 +1,9 @@
 #include "core/company/company.h"
 
+#include "core/backup/whole_file.h"
 #include "core/company/folder.h"
 #include "core/company/tax_update.h"
 #include "core/values/text.h"
-#include "core/backup/whole_file.h"
 
 namespace tallymere {
 namespace {
@@ -55,7 +55,8 @@ constexpr LongLivedSet long_lived_sets[] = {
 };
 
 /// Tables whose rows a new company takes over from the model, in this order.
-constexpr std::string_view copied_tables[] = {"Colors", "GeneralPrefs", "PayrollItems", "PreTaxSet", "Accounts", "Users"};
+constexpr std::string_view copied_tables[] = {"Colors",    "GeneralPrefs", "PayrollItems",
+                                              "PreTaxSet", "Accounts",     "Users"};
 
 void Copy_Structure(const Database& model, Database& company) {
   for (const store::TableDef& table : model.TableDefs())

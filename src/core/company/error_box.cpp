@@ -24,8 +24,7 @@ int Number_Of(const std::exception& fault) {
 
 }  // namespace
 
-void Error_Box(Session& session, const std::string& object, const std::string& procedure,
-               const std::exception& fault) {
+void Error_Box(Session& session, const std::string& object, const std::string& procedure, const std::exception& fault) {
   session.log.write(object, procedure, Number_Of(fault), fault.what());
   session.prompts.box(
       {"An Error Occured. Contact Quillbrook Software Inc.\r\nCall 555-010-2000 Locally or 1-800-555-0100 "

@@ -1,8 +1,8 @@
 #include "core/company/folder.h"
 
+#include "core/backup/whole_file.h"
 #include "core/store/recordset.h"
 #include "core/values/tsv.h"
-#include "core/backup/whole_file.h"
 
 namespace tallymere {
 namespace {

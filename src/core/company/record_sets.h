@@ -11,8 +11,8 @@ namespace tallymere {
 /// them, so every caller begins with MoveFirst or Seek.
 struct RecordSets {
   using Set = std::unique_ptr<store::Table>;
-  Set Colors, GeneralPrefs, Items, Customers, Vendors, Accounts, CompanyInfo, PaymentMethod, Terms, VIA, RepNames, Class,
-      Employees, EmployeeEarnings, EmployeeAdjustments, EmployeeTaxes, PayrollItems, TaxTracking, PreTaxTable,
+  Set Colors, GeneralPrefs, Items, Customers, Vendors, Accounts, CompanyInfo, PaymentMethod, Terms, VIA, RepNames,
+      Class, Employees, EmployeeEarnings, EmployeeAdjustments, EmployeeTaxes, PayrollItems, TaxTracking, PreTaxTable,
       PreWageTable, PreDeducTable, FedWithholdAllowance, RepeatTrans, Threshold, POs, POItems, PSlips, PSlipItems,
       Estimates, EstItems, SavedReports, CustomerMessages;
 };

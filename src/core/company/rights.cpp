@@ -94,8 +94,7 @@ bool Granted(Group group, std::string_view CurrentUser, const UserFlags& flags) 
 
 }  // namespace
 
-std::vector<CommandRight> Apply_User_Rights(bool MultiUser, std::string_view CurrentUser,
-                                            const UserFlags& flags) {
+std::vector<CommandRight> Apply_User_Rights(bool MultiUser, std::string_view CurrentUser, const UserFlags& flags) {
   std::vector<CommandRight> rights;
   for (const Row& row : rows)
     rights.push_back({row.name, row.property, !MultiUser || Granted(row.group, CurrentUser, flags)});

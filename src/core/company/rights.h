@@ -24,7 +24,6 @@ struct CommandRight {
 
 /// The commands of a user, in the order of the groups. Without MultiUser everything is granted and the user
 /// and the flags count for nothing.
-std::vector<CommandRight> Apply_User_Rights(bool MultiUser, std::string_view CurrentUser,
-                                            const UserFlags& flags);
+std::vector<CommandRight> Apply_User_Rights(bool MultiUser, std::string_view CurrentUser, const UserFlags& flags);
 
 }  // namespace tallymere

@@ -58,8 +58,7 @@ constexpr FieldDef Accounts_fields[] = {
     {"LastYearEndBal", Money, "balance at the end of last year; null when unset", true},
     {"OpeningDate", Date, "date of the opening balance"},
 };
-constexpr IndexDef Accounts_indexes[] = {
-    {"CatID", "CatID"}, {"AccountName", "AccountName"}, {"Name", "AccountName"}};
+constexpr IndexDef Accounts_indexes[] = {{"CatID", "CatID"}, {"AccountName", "AccountName"}, {"Name", "AccountName"}};
 
 constexpr FieldDef Customers_fields[] = {
     {"Name", Text, "key"},
@@ -214,8 +213,7 @@ constexpr IndexDef EmployeeTaxes_indexes[] = {{"SSNum", "SSNum"}};
 
 constexpr FieldDef PayrollItems_fields[] = {
     {"Name", Text, "key"},
-    {"Type", Text,
-     "Wage, Commision, Addition, Deduction, Company Contribution, Federal Tax, State Tax or Other Tax"},
+    {"Type", Text, "Wage, Commision, Addition, Deduction, Company Contribution, Federal Tax, State Tax or Other Tax"},
     {"TaxType", Text, "kind of a federal or state tax"},
     {"PayCal", Text, "\"Gross\" or \"Net\""},
     {"PayStyle", Text, "wages: \"Regular\", \"Sick\" or \"Vacation\""},
@@ -483,8 +481,7 @@ constexpr FieldDef CustomerMessages_fields[] = {
 constexpr IndexDef CustomerMessages_indexes[] = {{"Message", "Message"}};
 
 constexpr TableDef tables[] = {
-    {"Transactions", "general ledger and every sub-ledger: one row posts to one category",
-     Transactions_fields, {}},
+    {"Transactions", "general ledger and every sub-ledger: one row posts to one category", Transactions_fields, {}},
     {"Accounts", "categories: the chart of accounts", Accounts_fields, Accounts_indexes},
     {"Customers", "customers and their jobs", Customers_fields, Customers_indexes},
     {"Vendors", "vendors", Vendors_fields, Vendors_indexes},
@@ -492,22 +489,20 @@ constexpr TableDef tables[] = {
     {"ItemGroups", "lines of the \"Group\" items", ItemGroups_fields, ItemGroups_indexes},
     {"Employees", "employees", Employees_fields, Employees_indexes},
     {"EmployeeEarnings", "wages of an employee", EmployeeEarnings_fields, EmployeeEarnings_indexes},
-    {"EmployeeAdjustments", "additions, deductions and contributions of an employee",
-     EmployeeAdjustments_fields, EmployeeAdjustments_indexes},
+    {"EmployeeAdjustments", "additions, deductions and contributions of an employee", EmployeeAdjustments_fields,
+     EmployeeAdjustments_indexes},
     {"EmployeeTaxes", "other taxes of an employee", EmployeeTaxes_fields, EmployeeTaxes_indexes},
     {"PayrollItems", "everything that can stand on a paycheck", PayrollItems_fields, PayrollItems_indexes},
     {"PreTaxTable", "which adjustment moves the base of which tax", PreTaxTable_fields, PreTaxTable_indexes},
-    {"PreWageTable", "which pay counts as compensation for which tax", PreWageTable_fields,
-     PreWageTable_indexes},
-    {"PreDeducTable", "which deduction comes off before which tax", PreDeducTable_fields,
-     PreDeducTable_indexes},
+    {"PreWageTable", "which pay counts as compensation for which tax", PreWageTable_fields, PreWageTable_indexes},
+    {"PreDeducTable", "which deduction comes off before which tax", PreDeducTable_fields, PreDeducTable_indexes},
     {"PreTaxSet", "taxes offered to new adjustments", PreTaxSet_fields, PreTaxSet_indexes},
     {"PreWageSet", "pay offered to new taxes", PreWageSet_fields, PreWageSet_indexes},
     {"PreDeducSet", "deductions offered to new taxes", PreDeducSet_fields, PreDeducSet_indexes},
     {"PayHistory", "pay periods opened and paid, one row per employee and period end", PayHistory_fields,
      PayHistory_indexes},
-    {"Time", "time sheet of one week, the table's name ending in its first day as yyyymmdd", Time_fields,
-     Time_indexes, true},
+    {"Time", "time sheet of one week, the table's name ending in its first day as yyyymmdd", Time_fields, Time_indexes,
+     true},
     {"Budget", "planned amount of a category in a month", Budget_fields, {}},
     {"RepeatTrans", "repeated transactions", RepeatTrans_fields, RepeatTrans_indexes},
     {"POs", "purchase orders", POs_fields, POs_indexes},
@@ -526,15 +521,12 @@ constexpr TableDef tables[] = {
     {"PaymentMethod", "payment methods", PaymentMethod_fields, PaymentMethod_indexes},
     {"VIA", "shipping methods", VIA_fields, VIA_indexes},
     {"RepNames", "sales representatives", RepNames_fields, RepNames_indexes},
-    {"OtherNames", "payees that are neither customer, vendor nor employee", OtherNames_fields,
-     OtherNames_indexes},
+    {"OtherNames", "payees that are neither customer, vendor nor employee", OtherNames_fields, OtherNames_indexes},
     {"CustomerMessages", "messages offered on invoices", CustomerMessages_fields, CustomerMessages_indexes},
 };
 
 }  // namespace
 
-std::span<const TableDef> company_tables() {
-  return tables;
-}
+std::span<const TableDef> company_tables() { return tables; }
 
 }  // namespace tallymere

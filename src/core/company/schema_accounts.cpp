@@ -117,8 +117,6 @@ constexpr TableDef tables[] = {
 
 }  // namespace
 
-std::span<const TableDef> accounts_tables() {
-  return tables;
-}
+std::span<const TableDef> accounts_tables() { return tables; }
 
 }  // namespace tallymere

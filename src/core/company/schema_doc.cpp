@@ -5,9 +5,7 @@
 namespace tallymere {
 namespace {
 
-std::string code(std::string_view text) {
-  return "`" + std::string(text) + "`";
-}
+std::string code(std::string_view text) { return "`" + std::string(text) + "`"; }
 
 // The meaning as a sentence of its own.
 std::string sentence(std::string_view text) {
@@ -23,9 +21,7 @@ std::string cell(std::string_view text) {
   return escaped;
 }
 
-std::string index_text(const IndexDef& index) {
-  return code(index.name) + " on " + code(index.field);
-}
+std::string index_text(const IndexDef& index) { return code(index.name) + " on " + code(index.field); }
 
 std::string table_text(const TableDef& table) {
   std::string text = "### " + std::string(table.name) + "\n\n" + sentence(table.meaning);
@@ -47,8 +43,7 @@ std::string tables_text(std::string_view heading, std::span<const TableDef> tabl
 }
 
 std::string reading_text() {
-  std::string text =
-      "## Indexes for reading\n\n| Index | Table | Columns | Only rows with |\n|---|---|---|---|\n";
+  std::string text = "## Indexes for reading\n\n| Index | Table | Columns | Only rows with |\n|---|---|---|---|\n";
   for (const ReadingIndex& index : reading_indexes()) {
     text += "| " + code(index.name) + " | " + code(index.table) + " | " + std::string(index.columns) + " | " +
             std::string(index.where) + " |\n";
@@ -68,8 +63,8 @@ std::string references_text() {
   std::string text = "## What points at what\n\n| From | To | Only rows with |\n|---|---|---|\n";
   for (const Reference& link : references()) {
     text += "| " + code(std::string(link.from_table) + "." + std::string(link.from_field)) + " | " +
-            code(std::string(link.to_table) + "." + std::string(link.to_field)) + " | " +
-            std::string(link.condition) + " |\n";
+            code(std::string(link.to_table) + "." + std::string(link.to_field)) + " | " + std::string(link.condition) +
+            " |\n";
   }
   return text;
 }

@@ -83,18 +83,13 @@ constexpr Reference links[] = {
     {"PreDeducSet", "PreDeduc", "PayrollItems", "Name"},
 };
 
-constexpr char lower(char c) {
-  return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
+constexpr char lower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
 
-bool same(std::string_view a, std::string_view b) {
-  return std::ranges::equal(a, b, {}, lower, lower);
-}
+bool same(std::string_view a, std::string_view b) { return std::ranges::equal(a, b, {}, lower, lower); }
 
 // "Time20260104": a table made on demand, followed by its day.
 bool dated(std::string_view name, const TableDef& table) {
-  if (!table.on_demand || name.size() != table.name.size() + 8 ||
-      !same(name.substr(0, table.name.size()), table.name))
+  if (!table.on_demand || name.size() != table.name.size() + 8 || !same(name.substr(0, table.name.size()), table.name))
     return false;
   return std::ranges::all_of(name.substr(table.name.size()), [](char c) { return c >= '0' && c <= '9'; });
 }
@@ -107,15 +102,9 @@ const TableDef* find_in(std::span<const TableDef> tables, std::string_view name)
 
 }  // namespace
 
-std::span<const ReadingIndex> reading_indexes() {
-  return reading;
-}
-std::span<const StoredQuery> stored_queries() {
-  return queries;
-}
-std::span<const Reference> references() {
-  return links;
-}
+std::span<const ReadingIndex> reading_indexes() { return reading; }
+std::span<const StoredQuery> stored_queries() { return queries; }
+std::span<const Reference> references() { return links; }
 
 const TableDef* find_table(std::string_view name) {
   if (const TableDef* table = find_in(company_tables(), name)) return table;
@@ -123,8 +112,7 @@ const TableDef* find_table(std::string_view name) {
 }
 
 const FieldDef* TableDef::find_field(std::string_view field) const {
-  const auto found =
-      std::ranges::find_if(fields, [field](const FieldDef& def) { return same(def.name, field); });
+  const auto found = std::ranges::find_if(fields, [field](const FieldDef& def) { return same(def.name, field); });
   return found == fields.end() ? nullptr : &*found;
 }
 

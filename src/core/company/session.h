@@ -5,12 +5,12 @@
 #include <memory>
 #include <string>
 
-#include "core/values/clock.h"
 #include "core/company/log.h"
-#include "core/values/number_words.h"
 #include "core/company/prompts.h"
 #include "core/company/record_sets.h"
 #include "core/store/database.h"
+#include "core/values/clock.h"
+#include "core/values/number_words.h"
 
 namespace tallymere {
 
@@ -35,9 +35,9 @@ struct Session {
   std::string CompanyPath;                      ///< empty while no company is open; every test of it is made here
   std::string CompanyFile;                      ///< file name with ".cmf"
   bool MultiUser = false;
-  std::string CurrentUser;      ///< empty in single-user mode
-  bool RecalcAll = false;       ///< the next balance pass starts from zero
-  int LastCompanyError = 0;     ///< what New_Company last met
+  std::string CurrentUser;   ///< empty in single-user mode
+  bool RecalcAll = false;    ///< the next balance pass starts from zero
+  int LastCompanyError = 0;  ///< what New_Company last met
   RecordSets sets;
   NumberWords words;
 

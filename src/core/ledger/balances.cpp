@@ -35,28 +35,23 @@ CaselessMap<YearSums> Sum_Ledger(store::Database& db, int year, bool all_years) 
   if (all_years) params.insert(params.end(), {first, next});
 
   CaselessMap<YearSums> sums;
-  db.each("SELECT CatID, " + within + (all_years ? others : "") + " FROM Accounts", params,
-          [&](const store::Row& row) {
-            YearSums& account = sums[std::string(row.text(0))];
-            account = {.within = row.money(1), .any_within = !row.is_null(1)};
-            if (all_years) account.before = row.money(2) + row.money(3), account.after = row.money(4);
-          });
+  db.each("SELECT CatID, " + within + (all_years ? others : "") + " FROM Accounts", params, [&](const store::Row& row) {
+    YearSums& account = sums[std::string(row.text(0))];
+    account = {.within = row.money(1), .any_within = !row.is_null(1)};
+    if (all_years) account.before = row.money(2) + row.money(3), account.after = row.money(4);
+  });
   return sums;
 }
 
 /// The balance when the first row of the current year comes; without one, after the last row of all.
-Money Year_End(const YearSums& sums) {
-  return sums.any_within ? sums.before : sums.before + sums.after;
-}
+Money Year_End(const YearSums& sums) { return sums.any_within ? sums.before : sums.before + sums.after; }
 
 struct Figures {
   std::optional<Money> Balance, LastYearEndBal;
   friend bool operator==(const Figures&, const Figures&) = default;
 };
 
-Figures Recalculated(const YearSums& sums) {
-  return {sums.before + sums.within + sums.after, Year_End(sums)};
-}
+Figures Recalculated(const YearSums& sums) { return {sums.before + sums.within + sums.after, Year_End(sums)}; }
 
 /// From last year's end on. A row of the current year turns an unset LastYearEndBal into 0.
 Figures Carried_On(const YearSums& sums, std::optional<Money> LastYearEndBal) {
@@ -170,11 +165,10 @@ struct CachedName {
 
 std::vector<CachedName> Names_In_Use(store::Database& db, const std::string& table) {
   std::vector<CachedName> names;
-  db.each("SELECT RowKey, Name, Balance FROM " + table + " WHERE Dormant = False", {},
-          [&](const store::Row& row) {
-            auto balance = row.is_null(2) ? std::nullopt : std::optional(row.money(2));
-            names.push_back({row.integer(0), std::string(row.text(1)), balance});
-          });
+  db.each("SELECT RowKey, Name, Balance FROM " + table + " WHERE Dormant = False", {}, [&](const store::Row& row) {
+    auto balance = row.is_null(2) ? std::nullopt : std::optional(row.money(2));
+    names.push_back({row.integer(0), std::string(row.text(1)), balance});
+  });
   return names;
 }
 
@@ -210,10 +204,9 @@ void Update_Customers(Session& session) {
 }
 
 void Update_Vendors(Session& session) {
-  const auto unpaid =
-      Sums_By_Name(*session.dbCompany,
-                   "SELECT Name, SUM(Debit) FROM Transactions WHERE Paid = 0 AND Type = 'Bill'"
-                   " GROUP BY Name");
+  const auto unpaid = Sums_By_Name(*session.dbCompany,
+                                   "SELECT Name, SUM(Debit) FROM Transactions WHERE Paid = 0 AND Type = 'Bill'"
+                                   " GROUP BY Name");
   Update_Names(session, "Vendors", [&](const std::string& name) -> std::optional<Money> {
     // Written into a query the way that leaves such a name unfound, which is kept.
     auto found = unpaid.find(replace_all(name, "'", "\\'"));

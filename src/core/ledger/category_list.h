@@ -5,8 +5,8 @@
 #include <string_view>
 #include <vector>
 
-#include "core/store/database.h"
 #include "core/ledger/tree_list.h"
+#include "core/store/database.h"
 
 /// Categories and items as indented lists. Each list is one reading of its table, arranged in memory.
 namespace tallymere {

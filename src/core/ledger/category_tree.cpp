@@ -5,9 +5,7 @@ namespace {
 
 Category Read_Category(const store::Row& row) {
   auto text = [&](int column) { return std::string(row.text(column)); };
-  auto amount = [&](int column) {
-    return row.is_null(column) ? std::nullopt : std::optional(row.money(column));
-  };
+  auto amount = [&](int column) { return row.is_null(column) ? std::nullopt : std::optional(row.money(column)); };
   return {.key = row.integer(0),
           .CatID = text(1),
           .AccountName = text(2),

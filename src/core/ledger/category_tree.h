@@ -6,8 +6,8 @@
 #include <string_view>
 #include <vector>
 
-#include "core/values/caseless.h"
 #include "core/store/database.h"
+#include "core/values/caseless.h"
 
 namespace tallymere {
 

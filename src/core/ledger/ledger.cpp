@@ -33,9 +33,7 @@ std::string Make_Other_Child(Session& session, const std::string& parent_id) {
 
 }  // namespace
 
-int64_t Next_TransNum(store::Database& db) {
-  return db.value("SELECT MAX(TransNum) FROM Transactions").integer() + 1;
-}
+int64_t Next_TransNum(store::Database& db) { return db.value("SELECT MAX(TransNum) FROM Transactions").integer() + 1; }
 
 std::string SubAccount_Clause(const CategoryTree& tree, std::string_view parent) {
   std::string clause;
@@ -64,8 +62,8 @@ std::string Get_Postable_Category(Session& session, const std::string& id) {
   if (id.empty() || id == break_down) return id;
   bool has_children = false;
   std::string other;
-  session.dbCompany->each("SELECT CatID, AccountName FROM Accounts WHERE ParentAccount = ? ORDER BY RowKey",
-                          {id}, [&](const store::Row& child) {
+  session.dbCompany->each("SELECT CatID, AccountName FROM Accounts WHERE ParentAccount = ? ORDER BY RowKey", {id},
+                          [&](const store::Row& child) {
                             has_children = true;
                             if (other.empty() && contains(child.text(1), other_mark)) other = child.text(0);
                           });
@@ -74,8 +72,7 @@ std::string Get_Postable_Category(Session& session, const std::string& id) {
 }
 
 bool Is_Credit_Normal(std::string_view type) {
-  return type == "Equity" || type == "Credit Card" || type == "Accounts Payable" ||
-         contains(type, "Liability");
+  return type == "Equity" || type == "Credit Card" || type == "Accounts Payable" || contains(type, "Liability");
 }
 
 bool Is_Profit_And_Loss(std::string_view type) {

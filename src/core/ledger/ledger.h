@@ -4,8 +4,8 @@
 #include <string>
 #include <string_view>
 
-#include "core/ledger/category_tree.h"
 #include "core/company/session.h"
+#include "core/ledger/category_tree.h"
 
 /// Conventions of the ledger that every entry window obeys.
 namespace tallymere {

@@ -18,12 +18,8 @@ std::string Title(const std::string& type, const std::string& number, const std:
   return title;
 }
 
-Value Text(const std::string& text) {
-  return text.empty() ? Value() : Value(text);
-}
-Value Text(const std::string& own, const std::string& head) {
-  return Text(own.empty() ? head : own);
-}
+Value Text(const std::string& text) { return text.empty() ? Value() : Value(text); }
+Value Text(const std::string& own, const std::string& head) { return Text(own.empty() ? head : own); }
 
 struct Column {
   std::string_view name;
@@ -123,18 +119,17 @@ Probe Probe::Of(store::Database& db, int64_t TransNum) {
 
 std::vector<Probe::Remembered> Probe::read(store::Database& db, std::string_view condition, int64_t key) {
   std::vector<Remembered> found;
-  auto rows = db.OpenRecordset(
-      "SELECT * FROM Transactions WHERE " + std::string(condition) + " ORDER BY RowKey", {key});
+  auto rows =
+      db.OpenRecordset("SELECT * FROM Transactions WHERE " + std::string(condition) + " ORDER BY RowKey", {key});
   for (; !rows.Eof(); rows.MoveNext()) found.push_back(Probe(rows).rows_.front());
   return found;
 }
 
 void Probe::check(store::Database& db) const {
   if (is_new()) return;
-  bool unchanged = whole_ ? read(db, "TransNum = ?", *whole_) == rows_
-                          : read(db, "RowKey = ?", rows_.front().key) == rows_;
-  if (!unchanged)
-    throw store::Error(store::errors::data_changed, "The data has been changed; operation stopped.");
+  bool unchanged =
+      whole_ ? read(db, "TransNum = ?", *whole_) == rows_ : read(db, "RowKey = ?", rows_.front().key) == rows_;
+  if (!unchanged) throw store::Error(store::errors::data_changed, "The data has been changed; operation stopped.");
 }
 
 // --- Transaction_Writer --------------------------------------------------------------------------
@@ -184,8 +179,7 @@ int64_t Rewrite_Fields(Session& session, int64_t TransNum, const FieldValues& fi
   for (const auto& [name, value] : fields) {
     const store::Field* field = table.find(name);
     if (!field)
-      throw store::Error(store::errors::no_such_field,
-                         "Item not found in this collection: " + std::string(name) + ".");
+      throw store::Error(store::errors::no_such_field, "Item not found in this collection: " + std::string(name) + ".");
     assignments += (assignments.empty() ? "" : ", ") + store::Quoted(field->name) + " = ?";
     values.push_back(value.as(field->type));
     if (field->name == "Date") {

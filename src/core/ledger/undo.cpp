@@ -2,8 +2,8 @@
 
 #include <optional>
 
-#include "core/ledger/ledger.h"
 #include "core/company/schema.h"
+#include "core/ledger/ledger.h"
 #include "core/store/history.h"
 #include "core/store/sql.h"
 #include "core/values/text.h"
@@ -16,8 +16,8 @@ using store::Database;
 using store::Value;
 
 [[noreturn]] void Refuse(const store::Action& action, const std::string& why) {
-  throw store::Error(store::errors::undo_refused, "Action " + std::to_string(action.number) + " (" +
-                                                      action.what + ") cannot be taken back: " + why + ".");
+  throw store::Error(store::errors::undo_refused, "Action " + std::to_string(action.number) + " (" + action.what +
+                                                      ") cannot be taken back: " + why + ".");
 }
 
 std::string Named(std::string_view table, std::string_view field, const Value& value) {
@@ -27,9 +27,7 @@ std::string Named(std::string_view table, std::string_view field, const Value& v
 int64_t Count(Database& db, std::string_view table, std::string_view field, const Value& key,
               const std::string& more = {}) {
   return db
-      .value(
-          "SELECT COUNT(*) FROM " + store::Quoted(table) + " WHERE " + store::Quoted(field) + " = ?" + more,
-          {key})
+      .value("SELECT COUNT(*) FROM " + store::Quoted(table) + " WHERE " + store::Quoted(field) + " = ?" + more, {key})
       .integer();
 }
 
@@ -49,8 +47,7 @@ bool Points_At(Database& db, const Reference& link, const Value& key) {
 }
 
 /// What is gone now must not be what others point at.
-void Refuse_If_Pointed_At(Database& db, const store::Action& action, const Reference& link,
-                          const Value& gone) {
+void Refuse_If_Pointed_At(Database& db, const store::Action& action, const Reference& link, const Value& gone) {
   if (gone.blank() || Count(db, link.to_table, link.to_field, gone) > 0 || !Points_At(db, link, gone)) return;
   Refuse(action, Named(link.from_table, link.from_field, gone) + " points at what it made");
 }
@@ -66,8 +63,7 @@ void Refuse_If_Taken(Database& db, const store::Action& action, const Reference&
 }
 
 /// Names may stay behind when a list's row is renamed; a category's id never does.
-void Refuse_If_Category_Is_Gone(Database& db, const store::Action& action, const Reference& link,
-                                const Value& came) {
+void Refuse_If_Category_Is_Gone(Database& db, const store::Action& action, const Reference& link, const Value& came) {
   if (link.to_table != "Accounts" || came.blank() || !Points_At(db, link, came)) return;
   if (Count(db, link.to_table, link.to_field, came) == 0)
     Refuse(action, Named(link.from_table, link.from_field, came) + " is a category that is gone");
@@ -108,8 +104,7 @@ void Undo_Action(Session& session, int64_t number) {
   Database& db = *session.dbCompany;
   const store::Action action = store::Find_Action(db, number);
   store::Transaction undo(db, "Undo " + std::to_string(number) + ": " + action.what);
-  if (auto earlier = Taken_Back_By(db, number))
-    Refuse(action, "action " + std::to_string(*earlier) + " has done it");
+  if (auto earlier = Taken_Back_By(db, number)) Refuse(action, "action " + std::to_string(*earlier) + " has done it");
   store::Revert_Changes(db, number);
   const auto changes = store::Changes_Of(db, number);
   for (const Change& change : changes) Check_Links(db, action, change, Last_Key(changes));

@@ -37,13 +37,14 @@ Findings File_Is_Sound(Database& db) {
 
 /// The sale of an inventory part stands twice more in the ledger, on its cost and on its income, marked by SourceName.
 Findings Transactions_Balance(Database& db) {
-  return Examples(db,
-                  "SELECT TransNum, MAX(Type), SUM(IFNULL(Debit, 0)), SUM(IFNULL(Credit, 0)) FROM Transactions"
-                  " WHERE SourceName IS NULL OR SourceName <> 'Inventory Part' GROUP BY TransNum HAVING SUM(IFNULL(Debit, 0)) <> SUM(IFNULL(Credit, 0))",
-                  [](const Row& row) {
-                    return Text(row, 1) + " " + Text(row, 0) + ": debits " + row.money(2).to_text() + ", credits " +
-                           row.money(3).to_text();
-                  });
+  return Examples(
+      db,
+      "SELECT TransNum, MAX(Type), SUM(IFNULL(Debit, 0)), SUM(IFNULL(Credit, 0)) FROM Transactions"
+      " WHERE SourceName IS NULL OR SourceName <> 'Inventory Part' GROUP BY TransNum HAVING SUM(IFNULL(Debit, 0)) <> SUM(IFNULL(Credit, 0))",
+      [](const Row& row) {
+        return Text(row, 1) + " " + Text(row, 0) + ": debits " + row.money(2).to_text() + ", credits " +
+               row.money(3).to_text();
+      });
 }
 
 Findings One_Document_A_Number(Database& db) {
@@ -59,7 +60,8 @@ Findings One_Document_A_Number(Database& db) {
 Findings Fixed_Categories_Stand(Database& db) {
   Findings found;
   for (const char* id : {"AR1", "AP1", "UF1", "RE1", "OE1"})
-    if (db.value("SELECT 1 FROM Accounts WHERE CatID = ?", {id}).is_null()) found.push_back(std::string("no category ") + id);
+    if (db.value("SELECT 1 FROM Accounts WHERE CatID = ?", {id}).is_null())
+      found.push_back(std::string("no category ") + id);
   if (db.value("SELECT COUNT(*) FROM CompanyInfo").integer() != 1) found.push_back("CompanyInfo is not one row");
   return found;
 }
@@ -72,8 +74,8 @@ Findings Links_Resolve(Database& db, const Reference& link) {
                       " <> ''" + condition + " AND NOT EXISTS (SELECT 1 FROM " + store::Quoted(link.to_table) +
                       " AS b WHERE b." + store::Quoted(link.to_field) + " = " + field + ")",
                   [&](const Row& row) {
-                    return std::string(link.from_table) + "." + std::string(link.from_field) + " names \"" + Text(row, 0) +
-                           "\", which is not in " + std::string(link.to_table);
+                    return std::string(link.from_table) + "." + std::string(link.from_field) + " names \"" +
+                           Text(row, 0) + "\", which is not in " + std::string(link.to_table);
                   });
 }
 
@@ -88,13 +90,14 @@ Findings All_Links_Resolve(Database& db) {
 
 Findings Payments_Exist(Database& db) {
   Findings found;
-  db.each("SELECT DISTINCT PaidBy FROM Transactions WHERE PaidBy IS NOT NULL AND PaidBy <> ''", {}, [&](const Row& row) {
-    for (const std::string& number : split(row.text(0), ";")) {
-      if (number.empty()) continue;
-      if (db.value("SELECT 1 FROM Transactions WHERE TransNum = ? LIMIT 1", {number}).is_null())
-        found.push_back("PaidBy names transaction " + number + ", which does not exist");
-    }
-  });
+  db.each("SELECT DISTINCT PaidBy FROM Transactions WHERE PaidBy IS NOT NULL AND PaidBy <> ''", {},
+          [&](const Row& row) {
+            for (const std::string& number : split(row.text(0), ";")) {
+              if (number.empty()) continue;
+              if (db.value("SELECT 1 FROM Transactions WHERE TransNum = ? LIMIT 1", {number}).is_null())
+                found.push_back("PaidBy names transaction " + number + ", which does not exist");
+            }
+          });
   return found;
 }
 

@@ -120,7 +120,8 @@ ChangeRecorder::Record ChangeRecorder::read(bool old_values) const {
   record.reserve(static_cast<size_t>(columns));
   for (int column = 0; column < columns; ++column) {
     sqlite3_value* value = nullptr;
-    old_values ? sqlite3_preupdate_old(connection_, column, &value) : sqlite3_preupdate_new(connection_, column, &value);
+    old_values ? sqlite3_preupdate_old(connection_, column, &value)
+               : sqlite3_preupdate_new(connection_, column, &value);
     record.push_back(Cell(value));
   }
   return record;

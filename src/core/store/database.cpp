@@ -250,7 +250,8 @@ void Database::add_field(const std::string& table, const Field& field) {
   tables_.reset();
   const TableDef* now = find_table(table);
   connection_.execute("DROP VIEW IF EXISTS " + Quoted(table + "_decimal"));
-  bool has_money = std::any_of(now->fields.begin(), now->fields.end(), [](auto& f) { return f.type == FieldType::Money; });
+  bool has_money =
+      std::any_of(now->fields.begin(), now->fields.end(), [](auto& f) { return f.type == FieldType::Money; });
   if (has_money) connection_.execute(Decimal_View(*now));
 }
 
@@ -314,7 +315,8 @@ const std::string& Database::translated(std::string_view sql) {
 Statement Database::query(std::string_view sql, const Params& params) {
   Statement statement = connection_.prepare(translated(sql));
   if (statement.parameter_count() != static_cast<int>(params.size()))
-    throw Error(errors::bad_statement, "Too few parameters. Expected " + std::to_string(statement.parameter_count()) + ".");
+    throw Error(errors::bad_statement,
+                "Too few parameters. Expected " + std::to_string(statement.parameter_count()) + ".");
   statement.bind_all(params);
   return statement;
 }

@@ -116,7 +116,8 @@ class Database {
   std::vector<QueryDef> QueryDefs() const;
   void CreateQueryDef(const QueryDef& query);
 
-  std::unique_ptr<Table> OpenTable(std::string_view name);  ///< a table-type set; Error 3078 when there is no such table
+  std::unique_ptr<Table> OpenTable(
+      std::string_view name);  ///< a table-type set; Error 3078 when there is no such table
   Recordset OpenRecordset(std::string_view sql, const Params& params = {});  ///< a dynaset
 
   /// Runs an action statement; the number of rows changed. Only inside a Transaction.
@@ -138,9 +139,7 @@ class Database {
   /// A bug when no Transaction is open; Error 3034 when the engine undid it by itself after an earlier
   /// failure.
   void require_transaction() const;
-  const std::shared_ptr<WritingScope>& writing_scope() const {
-    return scope_;
-  }  ///< nullptr outside a Transaction
+  const std::shared_ptr<WritingScope>& writing_scope() const { return scope_; }  ///< nullptr outside a Transaction
   Connection& connection() { return connection_; }
 
   ChangeStamp change_stamp() { return connection_.change_stamp(); }

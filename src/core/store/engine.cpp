@@ -19,30 +19,44 @@ constexpr size_t most_statements = 400;
 int Number_Of(int code) {
   switch (code & 0xff) {
     case SQLITE_BUSY:
-    case SQLITE_LOCKED: return errors::locked;
-    case SQLITE_NOTADB: return errors::not_a_database;
-    case SQLITE_CORRUPT: return errors::file_damaged;
-    case SQLITE_CANTOPEN: return errors::cannot_open;
+    case SQLITE_LOCKED:
+      return errors::locked;
+    case SQLITE_NOTADB:
+      return errors::not_a_database;
+    case SQLITE_CORRUPT:
+      return errors::file_damaged;
+    case SQLITE_CANTOPEN:
+      return errors::cannot_open;
     case SQLITE_READONLY:
-    case SQLITE_PERM: return errors::read_only;
-    case SQLITE_FULL: return errors::disk_full;
+    case SQLITE_PERM:
+      return errors::read_only;
+    case SQLITE_FULL:
+      return errors::disk_full;
     case SQLITE_IOERR:
       return errors::disk_or_network;
-    case SQLITE_CONSTRAINT: return errors::duplicate_key;
-    default: return errors::bad_statement;
+    case SQLITE_CONSTRAINT:
+      return errors::duplicate_key;
+    default:
+      return errors::bad_statement;
   }
 }
 
 std::string Words_Of(int number, const std::string& engine_words, const std::string& doing) {
   switch (number) {
-    case errors::locked: return "Could not update; currently locked.";
-    case errors::not_a_database: return "Unrecognized database format '" + doing + "'.";
-    case errors::file_damaged: return "The database file is damaged: " + engine_words + ".";
+    case errors::locked:
+      return "Could not update; currently locked.";
+    case errors::not_a_database:
+      return "Unrecognized database format '" + doing + "'.";
+    case errors::file_damaged:
+      return "The database file is damaged: " + engine_words + ".";
     case errors::disk_or_network:
       return "Disk or network error: " + engine_words + ".";
-    case errors::disk_full: return "The disk is full.";
-    case errors::read_only: return "Cannot update. Database or object is read-only.";
-    default: return doing.empty() ? engine_words : engine_words + " (" + doing + ")";
+    case errors::disk_full:
+      return "The disk is full.";
+    case errors::read_only:
+      return "Cannot update. Database or object is read-only.";
+    default:
+      return doing.empty() ? engine_words : engine_words + " (" + doing + ")";
   }
 }
 
@@ -67,12 +81,15 @@ void Bind(sqlite3_stmt* handle, int position, const Value& value) {
 Value From_Engine(sqlite3_value* cell) {
   if (!cell) return {};
   switch (sqlite3_value_type(cell)) {
-    case SQLITE_INTEGER: return int64_t{sqlite3_value_int64(cell)};
-    case SQLITE_FLOAT: return sqlite3_value_double(cell);
+    case SQLITE_INTEGER:
+      return int64_t{sqlite3_value_int64(cell)};
+    case SQLITE_FLOAT:
+      return sqlite3_value_double(cell);
     case SQLITE_TEXT:
       return std::string(reinterpret_cast<const char*>(sqlite3_value_text(cell)),
                          static_cast<size_t>(sqlite3_value_bytes(cell)));
-    default: return {};
+    default:
+      return {};
   }
 }
 
@@ -143,13 +160,9 @@ std::string Statement::declared_type(int column) const {
   return declared ? declared : "";
 }
 
-bool Statement::is_null(int column) const {
-  return sqlite3_column_type(slot_->handle, column) == SQLITE_NULL;
-}
+bool Statement::is_null(int column) const { return sqlite3_column_type(slot_->handle, column) == SQLITE_NULL; }
 
-bool Statement::is_text(int column) const {
-  return sqlite3_column_type(slot_->handle, column) == SQLITE_TEXT;
-}
+bool Statement::is_text(int column) const { return sqlite3_column_type(slot_->handle, column) == SQLITE_TEXT; }
 
 int64_t Statement::integer(int column) const { return sqlite3_column_int64(slot_->handle, column); }
 double Statement::number(int column) const { return sqlite3_column_double(slot_->handle, column); }
@@ -168,10 +181,14 @@ std::string Statement::bytes(int column) const {
 
 Value Statement::raw(int column) const {
   switch (sqlite3_column_type(slot_->handle, column)) {
-    case SQLITE_NULL: return {};
-    case SQLITE_INTEGER: return integer(column);
-    case SQLITE_FLOAT: return number(column);
-    default: return text(column);
+    case SQLITE_NULL:
+      return {};
+    case SQLITE_INTEGER:
+      return integer(column);
+    case SQLITE_FLOAT:
+      return number(column);
+    default:
+      return text(column);
   }
 }
 
@@ -211,8 +228,7 @@ void Connection::check(int code, const std::string& doing) {
 Statement Connection::prepare(std::string_view sql) {
   if (statements_.size() > most_statements) {
     std::erase_if(statements_, [](auto& entry) {
-      if (std::any_of(entry.second.begin(), entry.second.end(), [](auto& slot) { return slot->on_loan; }))
-        return false;
+      if (std::any_of(entry.second.begin(), entry.second.end(), [](auto& slot) { return slot->on_loan; })) return false;
       for (auto& slot : entry.second) sqlite3_finalize(slot->handle);
       return true;
     });
@@ -225,8 +241,8 @@ Statement Connection::prepare(std::string_view sql) {
     return Statement(slot.get(), this);
   }
   auto slot = std::make_unique<Statement::Slot>(nullptr, true, recorder_ ? recorder_->mark() : 0);
-  check(sqlite3_prepare_v3(handle_, sql.data(), static_cast<int>(sql.size()), SQLITE_PREPARE_PERSISTENT,
-                           &slot->handle, nullptr),
+  check(sqlite3_prepare_v3(handle_, sql.data(), static_cast<int>(sql.size()), SQLITE_PREPARE_PERSISTENT, &slot->handle,
+                           nullptr),
         std::string(sql));
   if (!slot->handle) throw Error(errors::bad_statement, "An empty statement.");
   slots.push_back(std::move(slot));

@@ -44,7 +44,7 @@ class Statement {
   double number(int column) const;
   std::string_view text(int column) const;  ///< valid until the next step
   std::string bytes(int column) const;
-  Value raw(int column) const;              ///< as the engine holds it: null, whole number, double or text
+  Value raw(int column) const;  ///< as the engine holds it: null, whole number, double or text
 
  private:
   friend class Connection;
@@ -93,7 +93,7 @@ class Connection {
   ChangeStamp change_stamp();
 
   bool in_transaction() const;
-  void begin();  ///< takes the writer's lock at once
+  void begin();          ///< takes the writer's lock at once
   void begin_reading();  ///< the first reading fixes the moment; writers wait from then on
   void end_reading();
   void commit();

@@ -10,14 +10,15 @@ namespace {
 constexpr std::string_view columns = "SELECT RowKey, At, User, What, Undoes, Changes IS NOT NULL FROM History";
 
 Action Read_Action(const Statement& row) {
-  return {row.integer(0), std::string(row.text(1)), std::string(row.text(2)), std::string(row.text(3)),
-          row.integer(4), row.integer(5) != 0};
+  return {row.integer(0),           std::string(row.text(1)), std::string(row.text(2)),
+          std::string(row.text(3)), row.integer(4),           row.integer(5) != 0};
 }
 
 std::string Changeset_Of(Database& db, int64_t number) {
   auto row = db.connection().prepare("SELECT Changes FROM History WHERE RowKey = ? AND Changes IS NOT NULL");
   row.bind(1, number);
-  if (!row.step()) throw Error(errors::undo_refused, "Action " + std::to_string(number) + " kept no rows; it cannot be taken back.");
+  if (!row.step())
+    throw Error(errors::undo_refused, "Action " + std::to_string(number) + " kept no rows; it cannot be taken back.");
   return row.bytes(0);
 }
 
@@ -72,7 +73,8 @@ void Revert_Changes(Database& db, int64_t number) {
   });
   if (refused.empty()) return;
   throw Error(errors::undo_refused, "Action " + std::to_string(number) + " (" + action.what +
-                                        ") cannot be taken back: later work stands on it in " + join(refused, ", ") + ".");
+                                        ") cannot be taken back: later work stands on it in " + join(refused, ", ") +
+                                        ".");
 }
 
 }  // namespace tallymere::store

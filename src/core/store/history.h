@@ -11,7 +11,7 @@ namespace tallymere::store {
 
 struct Action {
   int64_t number = 0;
-  std::string at;    ///< "yyyy-mm-dd hh:mm:ss"
+  std::string at;  ///< "yyyy-mm-dd hh:mm:ss"
   std::string user;
   std::string what;
   int64_t undoes = 0;     ///< the action this one took back, or 0

@@ -117,9 +117,9 @@ void RowSet::insert_row() {
     marks += marks.empty() ? "?" : ", ?";
     params.push_back(buffer_[at]);
   }
-  auto statement = db_->connection().prepare(
-      columns.empty() ? "INSERT INTO " + Quoted(table_) + " DEFAULT VALUES"
-                      : "INSERT INTO " + Quoted(table_) + " (" + columns + ") VALUES (" + marks + ")");
+  auto statement = db_->connection().prepare(columns.empty() ? "INSERT INTO " + Quoted(table_) + " DEFAULT VALUES"
+                                                             : "INSERT INTO " + Quoted(table_) + " (" + columns +
+                                                                   ") VALUES (" + marks + ")");
   statement.bind_all(params).run();
   last_added_ = db_->connection().last_key();
   added(last_added_);
@@ -163,8 +163,7 @@ void RowSet::update_row() {
 
 /// The row is what it was before the scopes that were undone since.
 void RowSet::take_back_undone() {
-  for (; !written_.empty() && written_.back().scope->is_undone(); written_.pop_back())
-    row_ = written_.back().before;
+  for (; !written_.empty() && written_.back().scope->is_undone(); written_.pop_back()) row_ = written_.back().before;
 }
 
 void RowSet::Delete() {
@@ -183,8 +182,7 @@ void RowSet::Delete() {
 
 Table::Table(Database& db, std::string_view name) : RowSet(db) {
   const TableDef* definition = db.find_table(name);
-  if (!definition)
-    throw Error(errors::no_such_table, "Could not find the table '" + std::string(name) + "'.");
+  if (!definition) throw Error(errors::no_such_table, "Could not find the table '" + std::string(name) + "'.");
   open_on(definition->name, definition->fields);
   MoveFirst();
 }
@@ -276,7 +274,8 @@ Recordset::Recordset(Database& db, std::string_view sql, const Database::Params&
   for (int column = 0; column < shape.columns(); ++column)
     if (shape.column_name(column) != hidden_key)
       fields.push_back({shape.column_name(column), Type_Of_Declaration(shape.declared_type(column))});
-  bool plain = definition && std::all_of(fields.begin(), fields.end(), [&](auto& f) { return definition->find(f.name); });
+  bool plain =
+      definition && std::all_of(fields.begin(), fields.end(), [&](auto& f) { return definition->find(f.name); });
   if (plain) {
     open_on(definition->name, fields);
     auto keys = db.connection().prepare("SELECT RowKey FROM " + Quoted(split.table) + split.rest);

@@ -46,8 +46,8 @@ class RowSet {
   int64_t key() const;  ///< the hidden key of the current row
 
   void AddNew();
-  void Edit();         ///< Error 3021 without a current row
-  void Update();       ///< after AddNew the current row stays where it was
+  void Edit();    ///< Error 3021 without a current row
+  void Update();  ///< after AddNew the current row stays where it was
   void CancelUpdate() { mode_ = Mode::Reading; }
   void Delete();
   int64_t last_added() const { return last_added_; }  ///< the hidden key of the row AddNew made last
@@ -84,8 +84,7 @@ class RowSet {
     std::shared_ptr<const WritingScope> scope;
     std::vector<Value> before;
   };
-  std::vector<Written>
-      written_;  ///< what the current row was before Update, by scope: it is that again when undone
+  std::vector<Written> written_;  ///< what the current row was before Update, by scope: it is that again when undone
   int64_t key_ = 0;
   int64_t last_added_ = 0;
   Mode mode_ = Mode::Reading;

@@ -2,8 +2,8 @@
 
 #include <array>
 
-#include "core/values/date.h"
 #include "core/store/error.h"
+#include "core/values/date.h"
 #include "core/values/text.h"
 
 namespace tallymere::store {
@@ -13,9 +13,7 @@ namespace {
 constexpr std::array<std::string_view, 7> reserved_columns = {"Index", "Default", "Group", "Order",
                                                               "To",    "Check",   "Limit"};
 
-bool Is_Word_Character(char c) {
-  return std::isalnum(static_cast<unsigned char>(c)) || c == '_' || (c & 0x80);
-}
+bool Is_Word_Character(char c) { return std::isalnum(static_cast<unsigned char>(c)) || c == '_' || (c & 0x80); }
 
 /// Walks a statement word by word; texts, quoted names and comments come as one piece each.
 class Pieces {
@@ -87,7 +85,8 @@ bool Is_Reserved_Column(std::string_view word, std::string_view rest) {
 bool Begins_With_Digit_But_Names(std::string_view word) {
   if (!std::isdigit(static_cast<unsigned char>(word[0]))) return false;
   for (size_t at = 0; at < word.size(); ++at)
-    if (!std::isdigit(static_cast<unsigned char>(word[at]))) return word[at] != 'e' && word[at] != 'E' && word[at] != 'x';
+    if (!std::isdigit(static_cast<unsigned char>(word[at])))
+      return word[at] != 'e' && word[at] != 'E' && word[at] != 'x';
   return false;
 }
 

@@ -111,13 +111,19 @@ Value Value::as(FieldType type) const {
   if (blank() && type != FieldType::Text && type != FieldType::Memo) return {};
   switch (type) {
     case FieldType::Text:
-    case FieldType::Memo: return text();
+    case FieldType::Memo:
+      return text();
     case FieldType::Long:
-    case FieldType::Integer: return integer();
-    case FieldType::Money: return money();
-    case FieldType::Double: return number();
-    case FieldType::Date: return date();
-    case FieldType::Flag: return flag();
+    case FieldType::Integer:
+      return integer();
+    case FieldType::Money:
+      return money();
+    case FieldType::Double:
+      return number();
+    case FieldType::Date:
+      return date();
+    case FieldType::Flag:
+      return flag();
   }
   return {};
 }

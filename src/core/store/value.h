@@ -37,12 +37,12 @@ class Value {
   bool is_null() const { return std::holds_alternative<std::monostate>(content_); }
   bool blank() const;
 
-  std::string text() const;     ///< "" when blank; amounts plain, dates m/d/yyyy, flags "True"/"False"
-  Money money() const;          ///< zero when blank
-  int64_t integer() const;      ///< 0 when blank
-  double number() const;        ///< 0 when blank
-  bool flag() const;            ///< false when blank
-  Date date() const;            ///< Error 3421 when blank
+  std::string text() const;  ///< "" when blank; amounts plain, dates m/d/yyyy, flags "True"/"False"
+  Money money() const;       ///< zero when blank
+  int64_t integer() const;   ///< 0 when blank
+  double number() const;     ///< 0 when blank
+  bool flag() const;         ///< false when blank
+  Date date() const;         ///< Error 3421 when blank
   std::optional<Date> maybe_date() const;
 
   /// The same content as a field of this type would hold it; text that does not fit is Error 3421.

@@ -25,10 +25,10 @@ constexpr std::array<Word, 10> ones = {nullptr,
                                        &NumberWords::Seven,
                                        &NumberWords::Eight,
                                        &NumberWords::Nine};
-constexpr std::array<Word, 10> teens = {
-    &NumberWords::Ten,      &NumberWords::Eleven,  &NumberWords::Twelve,  &NumberWords::Thirteen,
-    &NumberWords::Fourteen, &NumberWords::Fifteen, &NumberWords::Sixteen, &NumberWords::Seventeen,
-    &NumberWords::Eighteen, &NumberWords::Nineteen};
+constexpr std::array<Word, 10> teens = {&NumberWords::Ten,      &NumberWords::Eleven,    &NumberWords::Twelve,
+                                        &NumberWords::Thirteen, &NumberWords::Fourteen,  &NumberWords::Fifteen,
+                                        &NumberWords::Sixteen,  &NumberWords::Seventeen, &NumberWords::Eighteen,
+                                        &NumberWords::Nineteen};
 constexpr std::array<Word, 10> tens = {nullptr,
                                        nullptr,
                                        &NumberWords::Twenty,
@@ -40,9 +40,7 @@ constexpr std::array<Word, 10> tens = {nullptr,
                                        &NumberWords::Eighty,
                                        &NumberWords::Ninety};
 
-std::string Hundredths(int64_t cents) {
-  return (cents < 10 ? "0" : "") + std::to_string(cents) + "/100";
-}
+std::string Hundredths(int64_t cents) { return (cents < 10 ? "0" : "") + std::to_string(cents) + "/100"; }
 
 /// What stands behind the digit at a position counted from the right; `rest` begins with that digit.
 std::string_view Scale_Word(int position, int64_t rest) {
@@ -129,8 +127,7 @@ CheckAmount Check_Amount_In_Words(const NumberWords& words, std::string_view typ
   if (!value || cents > std::numeric_limits<int32_t>::max() || cents < std::numeric_limits<int32_t>::min())
     return Refusal({"Number is to large to compute", "Number to large", Icon::Critical});
   int64_t whole = value->units() / units_per_dollar;
-  CheckAmount amount{Tidied(text, *value), Words_Of(words, whole, std::abs(cents % 100)), value,
-                     std::nullopt};
+  CheckAmount amount{Tidied(text, *value), Words_Of(words, whole, std::abs(cents % 100)), value, std::nullopt};
   while (amount.words.size() < line_length) amount.words.insert(0, "* ");
   return amount;
 }

@@ -4,9 +4,9 @@
 #include <string>
 #include <string_view>
 
+#include "core/company/prompts.h"
 #include "core/values/money.h"
 #include "core/values/number_words.h"
-#include "core/company/prompts.h"
 
 namespace tallymere {
 

@@ -18,8 +18,7 @@ class Clock {
   Date today() const {
     if (day_) return *day_;
     const std::tm now = local_now();
-    return Date(now.tm_year + 1900, static_cast<unsigned>(now.tm_mon + 1),
-                static_cast<unsigned>(now.tm_mday));
+    return Date(now.tm_year + 1900, static_cast<unsigned>(now.tm_mon + 1), static_cast<unsigned>(now.tm_mday));
   }
 
   // The local time of day, for the log: "h:mm:ss AM".

@@ -26,9 +26,7 @@ std::optional<int> typed_year(std::string_view text) {
   return year + (year < 30 ? 2000 : 1900);
 }
 
-int month_count(Date date) {
-  return date.year() * 12 + static_cast<int>(date.month()) - 1;
-}
+int month_count(Date date) { return date.year() * 12 + static_cast<int>(date.month()) - 1; }
 
 }  // namespace
 
@@ -49,9 +47,7 @@ std::optional<Date> Date::from_iso(std::string_view text) {
   return year && month && day ? from_ymd(static_cast<int>(*year), *month, *day) : std::nullopt;
 }
 
-Date Date::plus_days(int days) const {
-  return Date(days_ + std::chrono::days(days));
-}
+Date Date::plus_days(int days) const { return Date(days_ + std::chrono::days(days)); }
 
 Date Date::add_months(int months) const {
   const long long count = static_cast<long long>(month_count(*this)) + months;
@@ -60,9 +56,7 @@ Date Date::add_months(int months) const {
   return Date(first.year(), first.month(), std::min(day(), first.end_of_month().day()));
 }
 
-Date Date::first_of_month() const {
-  return Date(year(), month(), 1);
-}
+Date Date::first_of_month() const { return Date(year(), month(), 1); }
 
 Date Date::end_of_month() const {
   const auto [year, month] = std::pair(ymd().year(), ymd().month());
@@ -80,16 +74,10 @@ std::string Date::to_iso() const {
   return padded(static_cast<unsigned>(year()), 10000) + "-" + padded(month(), 100) + "-" + padded(day(), 100);
 }
 
-int days_between(Date from, Date to) {
-  return static_cast<int>((to.days() - from.days()).count());
-}
+int days_between(Date from, Date to) { return static_cast<int>((to.days() - from.days()).count()); }
 
-int months_between(Date from, Date to) {
-  return month_count(to) - month_count(from);
-}
+int months_between(Date from, Date to) { return month_count(to) - month_count(from); }
 
-int years_between(Date from, Date to) {
-  return to.year() - from.year();
-}
+int years_between(Date from, Date to) { return to.year() - from.year(); }
 
 }  // namespace tallymere

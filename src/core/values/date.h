@@ -63,8 +63,7 @@ int years_between(Date from, Date to);
 
 constexpr std::optional<Date> Date::from_ymd(int year, unsigned month, unsigned day) {
   if (year < 100 || year > 9999 || month > 12 || day > 31) return std::nullopt;
-  const std::chrono::year_month_day ymd{std::chrono::year{year}, std::chrono::month{month},
-                                        std::chrono::day{day}};
+  const std::chrono::year_month_day ymd{std::chrono::year{year}, std::chrono::month{month}, std::chrono::day{day}};
   return ymd.ok() ? std::optional(Date(std::chrono::sys_days{ymd})) : std::nullopt;
 }
 

@@ -3,22 +3,16 @@
 namespace tallymere {
 namespace {
 
-DateRange Week(Date day) {
-  return {day.plus_days(1 - day.weekday()), day.plus_days(7 - day.weekday())};
-}
+DateRange Week(Date day) { return {day.plus_days(1 - day.weekday()), day.plus_days(7 - day.weekday())}; }
 
-DateRange Month(Date day) {
-  return {day.first_of_month(), day.end_of_month()};
-}
+DateRange Month(Date day) { return {day.first_of_month(), day.end_of_month()}; }
 
 DateRange Quarter(Date day) {
   const Date start(day.year(), (day.month() - 1) / 3 * 3 + 1, 1);
   return {start, start.add_months(2).end_of_month()};
 }
 
-DateRange Year(int year) {
-  return {Date(year, 1, 1), Date(year, 12, 31)};
-}
+DateRange Year(int year) { return {Date(year, 1, 1), Date(year, 12, 31)}; }
 
 }  // namespace
 

@@ -21,8 +21,7 @@ inline std::optional<Decimal> shortest_decimal(double value) {
   if (!std::isfinite(value)) return std::nullopt;
   std::array<char, 32> text{};
   const char* end =
-      std::to_chars(text.data(), text.data() + text.size(), std::fabs(value), std::chars_format::scientific)
-          .ptr;
+      std::to_chars(text.data(), text.data() + text.size(), std::fabs(value), std::chars_format::scientific).ptr;
   Decimal decimal{.negative = std::signbit(value)};
   bool after_point = false;
   const char* at = text.data();

@@ -86,9 +86,7 @@ std::optional<Money> Money::parse(std::string_view typed) {
   return from_units(static_cast<std::int64_t>(negative ? 0 - *units : *units));
 }
 
-Money Money::from_double(double dollars) {
-  return Money(per_dollar).times(dollars);
-}
+Money Money::from_double(double dollars) { return Money(per_dollar).times(dollars); }
 
 Money Money::times(double factor) const {
   const auto decimal = shortest_decimal(factor);
@@ -112,8 +110,7 @@ Money Money::rounded_to_cents() const {
 }
 
 std::string Money::to_text() const {
-  const auto size =
-      is_negative() ? 0 - static_cast<std::uint64_t>(units_) : static_cast<std::uint64_t>(units_);
+  const auto size = is_negative() ? 0 - static_cast<std::uint64_t>(units_) : static_cast<std::uint64_t>(units_);
   std::string text = (is_negative() ? "-" : "") + std::to_string(size / per_dollar);
   if (const auto rest = size % per_dollar; rest != 0) {
     text += "." + std::to_string(per_dollar + rest).substr(1);

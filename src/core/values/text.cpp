@@ -8,12 +8,8 @@ namespace {
 constexpr std::string_view blanks = " \t\r\n\f\v";
 
 // Not std::tolower: that depends on the locale and would break UTF-8 bytes in some.
-constexpr char lower_char(char c) {
-  return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c;
-}
-constexpr char upper_char(char c) {
-  return c >= 'a' && c <= 'z' ? static_cast<char>(c - ('a' - 'A')) : c;
-}
+constexpr char lower_char(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c; }
+constexpr char upper_char(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - ('a' - 'A')) : c; }
 
 template <class Fold>
 std::string folded(std::string_view text, Fold fold) {
@@ -22,18 +18,12 @@ std::string folded(std::string_view text, Fold fold) {
   return result;
 }
 
-bool is_digit(char c) {
-  return c >= '0' && c <= '9';
-}
+bool is_digit(char c) { return c >= '0' && c <= '9'; }
 
 }  // namespace
 
-std::string lower(std::string_view text) {
-  return folded(text, lower_char);
-}
-std::string upper(std::string_view text) {
-  return folded(text, upper_char);
-}
+std::string lower(std::string_view text) { return folded(text, lower_char); }
+std::string upper(std::string_view text) { return folded(text, upper_char); }
 
 bool same_text(std::string_view a, std::string_view b) {
   return std::equal(a.begin(), a.end(), b.begin(), b.end(),
@@ -44,13 +34,9 @@ bool starts_with_same_text(std::string_view text, std::string_view start) {
   return same_text(text.substr(0, start.size()), start);
 }
 
-bool contains(std::string_view text, std::string_view part) {
-  return text.find(part) != text.npos;
-}
+bool contains(std::string_view text, std::string_view part) { return text.find(part) != text.npos; }
 
-std::string trim(std::string_view text) {
-  return ltrim(text.substr(0, text.find_last_not_of(blanks) + 1));
-}
+std::string trim(std::string_view text) { return ltrim(text.substr(0, text.find_last_not_of(blanks) + 1)); }
 
 std::string ltrim(std::string_view text) {
   return std::string(text.substr(std::min(text.find_first_not_of(blanks), text.size())));
@@ -80,9 +66,7 @@ std::string replace_all(std::string_view text, std::string_view from, std::strin
   return join(split(text, from), to);
 }
 
-std::string doubled_quotes(std::string_view text) {
-  return replace_all(text, "'", "''");
-}
+std::string doubled_quotes(std::string_view text) { return replace_all(text, "'", "''"); }
 
 bool is_numeric(std::string_view text) {
   const std::string trimmed = trim(text);

@@ -12,7 +12,7 @@ std::string lower(std::string_view text);
 std::string upper(std::string_view text);
 bool same_text(std::string_view a, std::string_view b);                     // equal but for case
 bool starts_with_same_text(std::string_view text, std::string_view start);  // begins so, but for case
-bool contains(std::string_view text, std::string_view part);  // case counts; every text contains ""
+bool contains(std::string_view text, std::string_view part);                // case counts; every text contains ""
 
 // Blanks, tabs and line ends at both ends, or at the start only.
 std::string trim(std::string_view text);

@@ -22,9 +22,7 @@ std::optional<Money> Amount_In(store::Recordset& row, std::string_view field) {
 }
 
 /// "1042;", as a bill that this payment settled names it.
-std::string Paid_By(int64_t TransNum) {
-  return std::to_string(TransNum) + ";";
-}
+std::string Paid_By(int64_t TransNum) { return std::to_string(TransNum) + ";"; }
 
 }  // namespace
 
@@ -32,11 +30,10 @@ std::string Paid_By(int64_t TransNum) {
 
 std::vector<Bank> Banks(Session& session) {
   std::vector<Bank> banks;
-  session.dbCompany->each(
-      "SELECT CatID, AccountName, Balance FROM Accounts WHERE AccountType = 'Bank'", {},
-      [&](const store::Row& row) {
-        banks.push_back({std::string(row.text(0)), std::string(row.text(1)), row.money(2)});
-      });
+  session.dbCompany->each("SELECT CatID, AccountName, Balance FROM Accounts WHERE AccountType = 'Bank'", {},
+                          [&](const store::Row& row) {
+                            banks.push_back({std::string(row.text(0)), std::string(row.text(1)), row.money(2)});
+                          });
   return banks;
 }
 
@@ -93,8 +90,8 @@ void Read_Lines(Session& session, store::Recordset& rows, Check& check) {
 }
 
 void Read_Bills(Session& session, Check& check) {
-  auto bills = session.dbCompany->OpenRecordset(
-      "SELECT * FROM Transactions WHERE PaidBy = ? AND Account = 'AP1'", {Paid_By(check.TransNum)});
+  auto bills = session.dbCompany->OpenRecordset("SELECT * FROM Transactions WHERE PaidBy = ? AND Account = 'AP1'",
+                                                {Paid_By(check.TransNum)});
   for (; !bills.Eof(); bills.MoveNext())
     check.bills.push_back({bills["DueDate"].maybe_date(), bills["Number"].text(), bills["Name"].text(),
                            bills["Amount"].money(), bills["Date"].maybe_date()});
@@ -103,8 +100,7 @@ void Read_Bills(Session& session, Check& check) {
 void Read_Paycheck(Session& session, store::Recordset& rows, Check& check) {
   if (!rows.Eof()) check.PayPeriod = rows["PayPeriod"].text();
   check.Hours =
-      session.dbCompany->value("SELECT SUM(Hours) FROM Transactions WHERE TransNum = ?", {check.TransNum})
-          .number();
+      session.dbCompany->value("SELECT SUM(Hours) FROM Transactions WHERE TransNum = ?", {check.TransNum}).number();
 }
 
 void Read_Liabilities(store::Recordset& rows, Check& check) {
@@ -125,9 +121,7 @@ Check Open_Checks(Session& session, int64_t TransNum) {
 }
 
 Check New_Check(Session& session) {
-  return {.TransNum = Next_TransNum(*session.dbCompany),
-          .BankID = Default_Bank(session),
-          .Date = session.today()};
+  return {.TransNum = Next_TransNum(*session.dbCompany), .BankID = Default_Bank(session), .Date = session.today()};
 }
 
 std::optional<Check> Load_Check(Session& session, int64_t TransNum) {
@@ -173,8 +167,8 @@ namespace {
 std::string Employee_Address(store::Recordset& employee) {
   for (const char* field : {"AddressOne", "City", "State", "Zip"})
     if (employee[field].value().is_null()) return "";
-  return employee["Name"].text() + "\r\n" + employee["AddressOne"].text() + "\r\n" + employee["City"].text() +
-         " " + employee["State"].text() + ", " + employee["Zip"].text();
+  return employee["Name"].text() + "\r\n" + employee["AddressOne"].text() + "\r\n" + employee["City"].text() + " " +
+         employee["State"].text() + ", " + employee["Zip"].text();
 }
 
 }  // namespace
@@ -182,8 +176,7 @@ std::string Employee_Address(store::Recordset& employee) {
 std::string Load_Address_Box(Session& session, const std::string& name) {
   if (name.empty()) return "";
   for (const char* list : {"Vendors", "Customers", "Employees"}) {
-    auto row =
-        session.dbCompany->OpenRecordset("SELECT * FROM " + std::string(list) + " WHERE Name = ?", {name});
+    auto row = session.dbCompany->OpenRecordset("SELECT * FROM " + std::string(list) + " WHERE Name = ?", {name});
     if (!row.has_row()) continue;
     if (row.has_field("AddressOne")) return Employee_Address(row);
     const bool older = row["ShippingAddress"].blank() && row.has_field("Address");
@@ -226,8 +219,7 @@ std::optional<Fault> Lines_Fault(const Check& check) {
   const char* grid = items ? "grdItems" : "grdExpense";
   if (auto fault = items ? Items_Fault(check) : Expenses_Fault(check)) return fault;
   // Both grids are written, so both count, whichever is in front.
-  if (auto fault = Balance_Fault(Sum_Of(check.expenses) + Sum_Of(check.items), *check.Amount, grid))
-    return fault;
+  if (auto fault = Balance_Fault(Sum_Of(check.expenses) + Sum_Of(check.items), *check.Amount, grid)) return fault;
   if (!items && !check.expenses.empty() && check.expenses.back().CatID == check.BankID)
     return Mistake("Cannot Assign Category to Transaction that is also the Category that you are editing.",
                    "Invalid Category", grid);
@@ -317,14 +309,12 @@ void Drop_Blank_Lines(Check& check) {
 
 SaveResult Enter_Check(Session& session, Check& check) {
   if (check.Name.empty() && !check.Amount) return {};
-  if (!check.Amount)
-    return {.fault = Mistake("Please enter an amount for this check.", "No Amount", "txtAmount")};
+  if (!check.Amount) return {.fault = Mistake("Please enter an amount for this check.", "No Amount", "txtAmount")};
   Set_Recalc_If_Other_Year(session, check.Date);
   if (!check.is_narrow()) {
     // A company without a default bank begins its checks without one.
     if (check.BankID.empty())
-      return {.fault = Mistake("Please select the bank category this check is paid from.", "No Bank",
-                               "cmbAccount")};
+      return {.fault = Mistake("Please select the bank category this check is paid from.", "No Bank", "cmbAccount")};
     // What the amount proposed on the other tab before an item was chosen is not written and does not count.
     if (check.Tab == CheckTab::Items)
       std::erase_if(check.expenses, [](const ExpenseLine& line) { return line.CatID.empty(); });
@@ -363,8 +353,7 @@ void Delete_And_Free_Bills(Session& session, const Check& check) {
 }  // namespace
 
 DeleteResult Delete_Check(Session& session, const Check& check) {
-  if (!Confirm_Delete(session.prompts, "Are you sure you want to delete this Check?", check.Cleared))
-    return {};
+  if (!Confirm_Delete(session.prompts, "Are you sure you want to delete this Check?", check.Cleared)) return {};
   auto previous = Load_Check(session, check.TransNum, false).check;
   auto conflict = Save_Or_Conflict([&] {
     // The number of a check that was never saved may be another user's by now.

@@ -16,8 +16,8 @@
 #include "shell/widgets/AddressEdit.h"
 #include "shell/widgets/MoneyEdit.h"
 #include "shell/widgets/QuillbrookDatePick.h"
-#include "shell/widgets/grid/SSDBCombo.h"
 #include "shell/widgets/company_color.h"
+#include "shell/widgets/grid/SSDBCombo.h"
 
 namespace tallymere {
 
@@ -31,9 +31,7 @@ namespace item {
 enum { Item, Description, Quantity, Cost, Amount, Customer, Class, CatID };
 }
 
-QString text_of(double hours) {
-  return QString::number(hours, 'g', 10);
-}
+QString text_of(double hours) { return QString::number(hours, 'g', 10); }
 
 }  // namespace
 
@@ -103,8 +101,8 @@ void frmCheck::show_expenses(const std::vector<ExpenseLine>& lines) {
 void frmCheck::show_items(const std::vector<ItemLine>& lines) {
   grdItems->RemoveAll();
   for (const ItemLine& line : lines)
-    grdItems->AddValues({line.Item, line.Description, line.Quantity, line.Cost, line.Amount, line.Customer,
-                         line.Class, line.CatID});
+    grdItems->AddValues(
+        {line.Item, line.Description, line.Quantity, line.Cost, line.Amount, line.Customer, line.Class, line.CatID});
   grdItems->set_cell(0, item::Item);
 }
 
@@ -113,8 +111,7 @@ void frmCheck::show_other_kinds(const Check& check) {
   for (const PaidBill& bill : check.bills)
     grdBills->AddValues({bill.DueDate, bill.Number, bill.Vendor, bill.Amount, bill.BillDate});
   grdLiabilities->RemoveAll();
-  for (const LiabilityLine& line : check.liabilities)
-    grdLiabilities->AddValues({line.PayrollItem, line.Amount});
+  for (const LiabilityLine& line : check.liabilities) grdLiabilities->AddValues({line.PayrollItem, line.Amount});
   lblPayPeriod->setText(qt(check.PayPeriod));
   lblHours->setText(text_of(check.Hours));
   lblPaidThrough->setText(check.PaidThrough ? qt(check.PaidThrough->to_text()) : QString());
@@ -192,9 +189,7 @@ void frmCheck::set_bank(const std::string& CatID) {
   lblBalance->setText(qt(Format(bank.Balance, "$0.00")));
 }
 
-void frmCheck::cmbAccount_LostFocus() {
-  set_bank(cmbAccount->Valid() ? cmbAccount->id() : utf8(lblBankID->text()));
-}
+void frmCheck::cmbAccount_LostFocus() { set_bank(cmbAccount->Valid() ? cmbAccount->id() : utf8(lblBankID->text())); }
 
 /// An address that was written by hand stays until another payee is chosen.
 void frmCheck::Load_Address_Box() {
@@ -225,8 +220,7 @@ bool frmCheck::txtAmount_LostFocus() {
     go_to(txtAmount);
     return false;
   }
-  if (amount.value && SSTab1->currentIndex() == static_cast<int>(CheckTab::Expenses))
-    propose_remainder(*amount.value);
+  if (amount.value && SSTab1->currentIndex() == static_cast<int>(CheckTab::Expenses)) propose_remainder(*amount.value);
   return true;
 }
 
@@ -326,14 +320,13 @@ void frmCheck::cmdDelete_Click() {
 void frmCheck::cmdPrint_Click() {
   if (!save()) return;
   if (const auto fault = Cannot_Print(read())) return show_fault(*fault);
-  session.prompts.box({"This check is saved. Printing checks is not part of this version yet.", "Print Check",
-                       Icon::Information});
+  session.prompts.box(
+      {"This check is saved. Printing checks is not part of this version yet.", "Print Check", Icon::Information});
   load_again();
 }
 
 void frmCheck::cmdRepeat_Click() {
-  shell.Show_Window(
-      {.window = "frmModRepeat", .key = "Check", .number = check_.TransNum, .parent = check_.BankID});
+  shell.Show_Window({.window = "frmModRepeat", .key = "Check", .number = check_.TransNum, .parent = check_.BankID});
 }
 
 void frmCheck::cmdEditPayCheck_Click() {

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "entry/document/EntryForm.h"
 #include "entry/checks/check.h"
+#include "entry/document/EntryForm.h"
 
 class QFrame;
 class QGroupBox;

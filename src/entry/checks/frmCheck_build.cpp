@@ -13,8 +13,8 @@
 #include "shell/widgets/AddressEdit.h"
 #include "shell/widgets/MoneyEdit.h"
 #include "shell/widgets/QuillbrookDatePick.h"
-#include "shell/widgets/grid/SSDBCombo.h"
 #include "shell/widgets/company_color.h"
+#include "shell/widgets/grid/SSDBCombo.h"
 #include "shell/widgets/theme.h"
 
 namespace tallymere {
@@ -70,9 +70,7 @@ class WordsLine : public QLabel {
   }
 };
 
-QLabel* label(const char* text, QWidget* control) {
-  return label_for(control, QString::fromLatin1(text));
-}
+QLabel* label(const char* text, QWidget* control) { return label_for(control, QString::fromLatin1(text)); }
 
 QHBoxLayout* figure(const char* text, QLabel* value) {
   auto* row = row_layout();
@@ -85,17 +83,14 @@ QHBoxLayout* figure(const char* text, QLabel* value) {
 QPushButton* later(QPushButton* button, bool there, const char* window) {
   button->setEnabled(there);
   if (!there)
-    button->setToolTip(
-        QStringLiteral("%1 is not part of this version yet.").arg(QString::fromLatin1(window)));
+    button->setToolTip(QStringLiteral("%1 is not part of this version yet.").arg(QString::fromLatin1(window)));
   return button;
 }
 
 }  // namespace
 
 frmCheck::frmCheck(Shell& shell_of_frame)
-    : EntryForm(shell_of_frame, "frmCheck"),
-      check_{.Date = session.today()},
-      lists_(new DropDowns(session, this)) {
+    : EntryForm(shell_of_frame, "frmCheck"), check_{.Date = session.today()}, lists_(new DropDowns(session, this)) {
   setWindowTitle(QStringLiteral("Checks"));
   build_fields();
   build_lines();
@@ -218,8 +213,8 @@ QGroupBox* frmCheck::build_liability() {
   fraLiability = named("fraLiability", new QGroupBox(QStringLiteral("Liability Payment Summary")));
   lblPaidThrough = named("lblPaidThrough", new QLabel);
   grdLiabilities = named("grdLiabilities", new SSDBGrid);
-  grdLiabilities->set_columns({{.name = QStringLiteral("PayrollItem")},
-                               {.name = QStringLiteral("Amount"), .kind = Kind::money, .width = 14}});
+  grdLiabilities->set_columns(
+      {{.name = QStringLiteral("PayrollItem")}, {.name = QStringLiteral("Amount"), .kind = Kind::money, .width = 14}});
   cmdLiaEdit = named("cmdLiaEdit", new QPushButton(QStringLiteral("&Edit Liability Check")));
   auto* column = column_layout(fraLiability);
   column->addLayout(figure("Paid Through", lblPaidThrough));
@@ -259,10 +254,9 @@ void frmCheck::build() {
 
 /// As a check is written: payee and amount before address and memo, then the lines.
 void frmCheck::order_tabs() {
-  QWidget* const order[] = {cmbAccount,      txtNumber,      DTPicker1,  cmbPayee, txtAmount,
-                            txtAddress,      txtMemo,        grdExpense, grdItems, grdBills,
-                            cmdEditPayCheck, grdLiabilities, cmdLiaEdit, cmdPrev,  cmdNext,
-                            cmdOk,           cmdPrint,       cmdDelete,  cmdRepeat};
+  QWidget* const order[] = {cmbAccount, txtNumber, DTPicker1, cmbPayee,        txtAmount,      txtAddress, txtMemo,
+                            grdExpense, grdItems,  grdBills,  cmdEditPayCheck, grdLiabilities, cmdLiaEdit, cmdPrev,
+                            cmdNext,    cmdOk,     cmdPrint,  cmdDelete,       cmdRepeat};
   for (size_t i = 1; i < std::size(order); ++i) setTabOrder(order[i - 1], order[i]);
 }
 

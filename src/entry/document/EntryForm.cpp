@@ -20,8 +20,7 @@ const Box save_changes{"Do you wish to record your changes?", "Save Changes", Ic
 QString content_of(const SSDBGrid& grid) {
   QString text;
   for (int row = 0; row < grid.rows(); ++row)
-    for (int column = 0; column < grid.columns(); ++column)
-      text += qt(grid.text(row, column)) + QLatin1Char('\t');
+    for (int column = 0; column < grid.columns(); ++column) text += qt(grid.text(row, column)) + QLatin1Char('\t');
   return text;
 }
 
@@ -42,9 +41,7 @@ bool is_field(const QWidget& widget) {
   return !name.isEmpty() && !name.startsWith(QLatin1String("qt_")) && !name.endsWith(QLatin1String("_cell"));
 }
 
-bool is_amount(Kind kind) {
-  return kind == Kind::money || kind == Kind::number;
-}
+bool is_amount(Kind kind) { return kind == Kind::money || kind == Kind::number; }
 
 }  // namespace
 
@@ -94,9 +91,7 @@ void EntryForm::show_conflict(const Conflict& conflict) {
   if (conflict.reload) load_again();
 }
 
-void EntryForm::bounce() {
-  session.prompts.sound(ball_bounce);
-}
+void EntryForm::bounce() { session.prompts.sound(ball_bounce); }
 
 // --- nothing is lost by a slip -------------------------------------------------------------------
 
@@ -114,9 +109,7 @@ bool EntryForm::let_go() {
   return wanted && (!*wanted || save());
 }
 
-bool EntryForm::may_close() {
-  return let_go();
-}
+bool EntryForm::may_close() { return let_go(); }
 
 // --- grids of lines ------------------------------------------------------------------------------
 

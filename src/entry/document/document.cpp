@@ -67,14 +67,12 @@ Query Within(const Walk& walk, const std::string& column, int64_t TransNum) {
   for (std::string_view type : walk.types) Add(query, query.params.empty() ? "?" : ", ?", {type});
   query.sql += ")";
   if (!walk.account.empty()) Add(query, " AND Account = ?", {walk.account});
-  if (walk.band > 0)
-    Add(query, " AND TransNum > ? AND TransNum < ?", {TransNum - walk.band, TransNum + walk.band});
+  if (walk.band > 0) Add(query, " AND TransNum > ? AND TransNum < ?", {TransNum - walk.band, TransNum + walk.band});
   return query;
 }
 
 /// The neighbour of a transaction, or with no date the last of all; 0 when there is none.
-int64_t Neighbour(store::Database& db, const Walk& walk, int64_t TransNum, std::optional<Date> date,
-                  bool forward) {
+int64_t Neighbour(store::Database& db, const Walk& walk, int64_t TransNum, std::optional<Date> date, bool forward) {
   Query query = Within(walk, "TransNum", TransNum);
   if (date) {
     const std::string beyond = forward ? ">" : "<";

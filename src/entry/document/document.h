@@ -79,9 +79,8 @@ struct SaveResult {
 /// Which transactions a window walks through, in the order Date, TransNum.
 struct Walk {
   std::span<const std::string_view> types;
-  int64_t band = 0;  ///< only numbers nearer than this to the one on screen; 0: the whole ledger
-  std::string_view account =
-      {};  ///< where each of them has a row, as bills in "AP1": spares reading the ledger
+  int64_t band = 0;               ///< only numbers nearer than this to the one on screen; 0: the whole ledger
+  std::string_view account = {};  ///< where each of them has a row, as bills in "AP1": spares reading the ledger
 };
 enum class Arrival {
   Document,  ///< show `TransNum`
@@ -98,8 +97,7 @@ struct Step {
 Step Walk_From(Session& session, const Walk& walk, int64_t TransNum, bool forward);
 
 /// Asks whether to delete, and asks again about what the bank has cleared.
-bool Confirm_Delete(Prompts& prompts, const std::string& question, bool cleared,
-                    Buttons buttons = Buttons::YesNo);
+bool Confirm_Delete(Prompts& prompts, const std::string& question, bool cleared, Buttons buttons = Buttons::YesNo);
 
 /// The window that enters transactions of this type; "" when there is none to go to.
 std::string_view Entry_Window(std::string_view Type);

@@ -35,15 +35,9 @@ std::string one_line(const std::string& text) {
   return replace_all(replace_all(replace_all(text, "\r", ""), "\n", " "), "\t", " ");
 }
 
-std::string text_of(const std::optional<Money>& amount) {
-  return amount ? amount->to_text() : "";
-}
-std::string text_of(const std::optional<Date>& date) {
-  return date ? date->to_text() : "";
-}
-std::string text_of(bool flag) {
-  return flag ? "-1" : "0";
-}
+std::string text_of(const std::optional<Money>& amount) { return amount ? amount->to_text() : ""; }
+std::string text_of(const std::optional<Date>& date) { return date ? date->to_text() : ""; }
+std::string text_of(bool flag) { return flag ? "-1" : "0"; }
 
 std::string cells_of_line(const RegisterLine& line) {
   if (line.TransNum == 0) return "";
@@ -158,8 +152,7 @@ void frmRegister::open_line(int row) {
 }
 
 void frmRegister::show_cell(int column, const std::string& text) {
-  if (row_ < grdRegister->rows() && grdRegister->text(row_, column) != text)
-    grdRegister->set_text(row_, column, text);
+  if (row_ < grdRegister->rows() && grdRegister->text(row_, column) != text) grdRegister->set_text(row_, column, text);
 }
 
 void frmRegister::show_entry() {
@@ -239,8 +232,8 @@ void frmRegister::take_amount(int column) {
   const int opposite = column == column::Out ? column::In : column::Out;
   if (Money_At(*grdRegister, row_, column)) show_cell(opposite, "");
   const auto out = Money_At(*grdRegister, row_, column::Out), in = Money_At(*grdRegister, row_, column::In);
-  const bool readable = (out || grdRegister->text(row_, column::Out).empty()) &&
-                        (in || grdRegister->text(row_, column::In).empty());
+  const bool readable =
+      (out || grdRegister->text(row_, column::Out).empty()) && (in || grdRegister->text(row_, column::In).empty());
   entry_.Credit = readable ? out : std::nullopt;
   entry_.Debit = readable ? in : std::nullopt;
 }

@@ -11,8 +11,8 @@
 #include "entry/register/frmRegister.h"
 #include "shell/drop_downs.h"
 #include "shell/widgets/QuillbrookDatePick.h"
-#include "shell/widgets/grid/SSDBGrid.h"
 #include "shell/widgets/company_color.h"
+#include "shell/widgets/grid/SSDBGrid.h"
 #include "shell/widgets/theme.h"
 
 namespace tallymere {
@@ -42,18 +42,12 @@ class RegisterGrid : public SSDBGrid {
   QuillbrookDatePick* date_ = nullptr;
 };
 
-GridColumn text(const char* name, int width = 0) {
-  return {.name = QString::fromLatin1(name), .width = width};
-}
-GridColumn money(const char* name) {
-  return {.name = QString::fromLatin1(name), .kind = Kind::money, .width = 14};
-}
+GridColumn text(const char* name, int width = 0) { return {.name = QString::fromLatin1(name), .width = width}; }
+GridColumn money(const char* name) { return {.name = QString::fromLatin1(name), .kind = Kind::money, .width = 14}; }
 GridColumn choice(const char* name, SSDBDropDown* list, int width = 0, int id = -1) {
   return {.name = QString::fromLatin1(name), .width = width, .list = list, .id_column = id};
 }
-GridColumn hidden(const char* name) {
-  return {.name = QString::fromLatin1(name), .kind = Kind::hidden};
-}
+GridColumn hidden(const char* name) { return {.name = QString::fromLatin1(name), .kind = Kind::hidden}; }
 
 }  // namespace
 
@@ -113,8 +107,8 @@ void frmRegister::build_break_down() {
   fraBreakDown->setAutoFillBackground(true);
   grdBreakDown = named("grdBreakDown", new SSDBGrid);
   grdBreakDown->set_columns({choice("Account", SSDBDropDown1, 0, line::CatID), money("Amount"), text("Memo"),
-                             choice("Customer", drpCustomers), choice("Class", lists_->drpClass),
-                             hidden("CatID"), hidden("SourceName")});
+                             choice("Customer", drpCustomers), choice("Class", lists_->drpClass), hidden("CatID"),
+                             hidden("SourceName")});
   grdBreakDown->set_read_only(false);
   grdBreakDown->set_new_line(true);
   grdBreakDown->set_delete(true);
@@ -174,9 +168,7 @@ void frmRegister::show_category() {
                                      : QStringLiteral("Nothing has been entered here yet."));
 }
 
-void frmRegister::show_colors() {
-  grdRegister->set_sheet_color(Company_Color(session, "RegBack"));
-}
+void frmRegister::show_colors() { grdRegister->set_sheet_color(Company_Color(session, "RegBack")); }
 
 // --- what floats over the grid ---------------------------------------------------------------------------
 
@@ -213,8 +205,7 @@ void frmRegister::leave_date() {
 
 /// Keys that lead from cell to cell and from line to line belong to the grid.
 bool frmRegister::eventFilter(QObject* watched, QEvent* event) {
-  if (watched == datReg && event->type() == QEvent::FocusIn && row_ >= 0)
-    grdRegister->set_cell(row_, column::Date);
+  if (watched == datReg && event->type() == QEvent::FocusIn && row_ >= 0) grdRegister->set_cell(row_, column::Date);
   if (watched == datReg && event->type() == QEvent::KeyPress) {
     const auto* key = static_cast<QKeyEvent*>(event);
     const bool plain = !(key->modifiers() & (Qt::ControlModifier | Qt::AltModifier));
@@ -246,8 +237,7 @@ void frmRegister::connect_register() {
   on(grdRegister, &SSDBGrid::AfterInsert, "grdRegister_AfterInsert", [this] { grdRegister_AfterInsert(); });
   on(grdRegister, &SSDBGrid::BeforeUpdate, "grdRegister_RowColChange",
      [this](int, bool& cancel) { grdRegister_BeforeUpdate(cancel); });
-  on(grdRegister, &SSDBGrid::MenuRequested, "grdRegister_MouseUp",
-     [this](int row) { grdRegister_MouseUp(row); });
+  on(grdRegister, &SSDBGrid::MenuRequested, "grdRegister_MouseUp", [this](int row) { grdRegister_MouseUp(row); });
 }
 
 void frmRegister::connect_floats() {

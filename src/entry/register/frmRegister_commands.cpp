@@ -39,9 +39,7 @@ bool frmRegister::record_line() {
   return true;
 }
 
-bool frmRegister::close_and_record() {
-  return close_break_down() && record_line();
-}
+bool frmRegister::close_and_record() { return close_break_down() && record_line(); }
 
 bool frmRegister::let_go() {
   if (!changed_) return true;

@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
-#include "core/values/format.h"
 #include "core/ledger/ledger.h"
 #include "core/store/recordset.h"
+#include "core/values/format.h"
 #include "core/values/text.h"
 
 namespace tallymere {
@@ -77,9 +77,7 @@ void Register::Load_Register() {
   Fill(std::max<int64_t>(count_ - filled_at_load, 0), filled_at_load);
 }
 
-std::string Register::lblTotal() const {
-  return Format(ending_, "$0.00;($0.00)");
-}
+std::string Register::lblTotal() const { return Format(ending_, "$0.00;($0.00)"); }
 
 size_t Register::day_of(int64_t row) const {
   auto after = std::ranges::upper_bound(days_, row, {}, &Day::first);
@@ -114,9 +112,7 @@ void Register::read(Day& day) {
   day.lines.resize(static_cast<size_t>(day.count));
 }
 
-bool Register::filled(int64_t row) const {
-  return row >= 0 && row < count_ && filled_[static_cast<size_t>(row)];
-}
+bool Register::filled(int64_t row) const { return row >= 0 && row < count_ && filled_[static_cast<size_t>(row)]; }
 
 void Register::Fill(int64_t first, int64_t lines) {
   const int64_t end = std::min(first + lines, count_);
@@ -133,10 +129,10 @@ RegisterLine Register::line(int64_t row) const {
 }
 
 int64_t Register::Row_Of(int64_t TransNum) {
-  const auto date = session_.dbCompany
-                        ->value("SELECT Date FROM Transactions WHERE TransNum = ? AND Account = ?",
-                                {TransNum, category_.CatID})
-                        .maybe_date();
+  const auto date =
+      session_.dbCompany
+          ->value("SELECT Date FROM Transactions WHERE TransNum = ? AND Account = ?", {TransNum, category_.CatID})
+          .maybe_date();
   for (Day& day : days_) {
     if (day.date != date) continue;
     if (day.lines.empty()) read(day);
@@ -154,8 +150,7 @@ Date Register::New_Line_Date() const {
 
 GoTo Go_To(Session& session, int64_t TransNum) {
   const std::string type =
-      session.dbCompany
-          ->value("SELECT Type FROM Transactions WHERE TransNum = ? ORDER BY RowKey LIMIT 1", {TransNum})
+      session.dbCompany->value("SELECT Type FROM Transactions WHERE TransNum = ? ORDER BY RowKey LIMIT 1", {TransNum})
           .text();
   return {type, Entry_Window(type)};
 }
@@ -166,8 +161,7 @@ RegisterDeletion Delete_From_Register(Session& session, const RegisterLine& line
                       Buttons::YesNoDefaultNo))
     return {};
   if (Go_To(session, line.TransNum).Type == "Payment") {
-    session.prompts.box(
-        {"Payments can only be deleted from the payment screen.", "No Delete", Icon::Critical});
+    session.prompts.box({"Payments can only be deleted from the payment screen.", "No Delete", Icon::Critical});
     return {};
   }
   auto conflict = Save_Or_Conflict([&] { Delete_Transaction(session, line.TransNum); });

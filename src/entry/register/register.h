@@ -6,8 +6,8 @@
 #include <string_view>
 #include <vector>
 
-#include "core/ledger/category_tree.h"
 #include "core/company/session.h"
+#include "core/ledger/category_tree.h"
 #include "entry/document/document.h"
 
 /// An account register: the rows of one category with a running balance.

@@ -18,9 +18,7 @@ std::optional<Money> Side(store::Recordset& row, const char* field) {
 
 /// Which side a register's row stands on. Break-down lines opposite it are positive, those beside it
 /// negative.
-bool Is_Outgoing(const RegisterEntry& entry) {
-  return entry.Credit && !entry.Credit->is_zero();
-}
+bool Is_Outgoing(const RegisterEntry& entry) { return entry.Credit && !entry.Credit->is_zero(); }
 
 BreakDownLine Read_Line(Session& session, store::Recordset& row, bool outgoing) {
   const Money net = row["Debit"].money() - row["Credit"].money();
@@ -34,15 +32,12 @@ BreakDownLine Read_Line(Session& session, store::Recordset& row, bool outgoing) 
 }
 
 void Read_Lines(Session& session, store::Recordset rows, RegisterEntry& entry) {
-  for (; !rows.Eof(); rows.MoveNext())
-    entry.breakdown.push_back(Read_Line(session, rows, Is_Outgoing(entry)));
+  for (; !rows.Eof(); rows.MoveNext()) entry.breakdown.push_back(Read_Line(session, rows, Is_Outgoing(entry)));
 }
 
 }  // namespace
 
-bool RegisterEntry::is_broken_down() const {
-  return Category == break_down;
-}
+bool RegisterEntry::is_broken_down() const { return Category == break_down; }
 
 std::optional<RegisterEntry> Open_Entry(Session& session, const Register& reg, const RegisterLine& line) {
   store::Database& db = *session.dbCompany;
@@ -59,11 +54,10 @@ std::optional<RegisterEntry> Open_Entry(Session& session, const Register& reg, c
   entry.Cleared = row["Cleared"].flag();
   entry.Debit = Side(row, "Debit");
   entry.CatID = entry.is_broken_down() ? "" : row["Category"].text();
-  Read_Lines(
-      session,
-      db.OpenRecordset("SELECT * FROM Transactions WHERE TransNum = ? AND Account <> ? ORDER BY RowKey",
-                       {line.TransNum, reg.category().CatID}),
-      entry);
+  Read_Lines(session,
+             db.OpenRecordset("SELECT * FROM Transactions WHERE TransNum = ? AND Account <> ? ORDER BY RowKey",
+                              {line.TransNum, reg.category().CatID}),
+             entry);
   return entry;
 }
 
@@ -84,15 +78,12 @@ RegisterEntry Entry_As_Shown(const RegisterLine& line) {
 
 bool Shows(const RegisterLine& line, const RegisterEntry& entry) {
   const auto told = [](const RegisterEntry& e) {
-    return std::tie(e.Date, e.Number, e.Name, e.Category, e.Memo, e.Class, e.Credit, e.Cleared, e.Debit,
-                    e.CatID);
+    return std::tie(e.Date, e.Number, e.Name, e.Category, e.Memo, e.Class, e.Credit, e.Cleared, e.Debit, e.CatID);
   };
   return told(Entry_As_Shown(line)) == told(entry);
 }
 
-RegisterEntry New_Entry(const Register& reg) {
-  return {.Date = reg.New_Line_Date()};
-}
+RegisterEntry New_Entry(const Register& reg) { return {.Date = reg.New_Line_Date()}; }
 
 void Fill_Memorised(Session& session, RegisterEntry& entry) {
   if (!entry.is_new() || entry.Name.empty()) return;
@@ -120,9 +111,7 @@ void Fill_Memorised(Session& session, RegisterEntry& entry) {
   if (entry.breakdown.empty()) entry.Category.clear();
 }
 
-Box Save_Changes_Question() {
-  return {"Do you wish to record your changes?", "Save Changes", Icon::Question};
-}
+Box Save_Changes_Question() { return {"Do you wish to record your changes?", "Save Changes", Icon::Question}; }
 
 // --- Record ----------------------------------------------------------------------------------------------
 
@@ -153,8 +142,8 @@ struct Stored {
 
 Stored Read_Stored(Session& session, int64_t TransNum, int64_t key) {
   Stored stored;
-  auto rows = session.dbCompany->OpenRecordset(
-      "SELECT * FROM Transactions WHERE TransNum = ? ORDER BY RowKey", {TransNum});
+  auto rows =
+      session.dbCompany->OpenRecordset("SELECT * FROM Transactions WHERE TransNum = ? ORDER BY RowKey", {TransNum});
   if (rows.has_row()) stored.Type = rows["Type"].text();
   for (; !rows.Eof(); rows.MoveNext(), ++stored.rows) {
     if (stored.Address.empty()) stored.Address = rows["Address"].text();
@@ -174,9 +163,7 @@ bool Is_Part_Of_More(const Stored& stored, const RegisterEntry& entry) {
 }
 
 /// Of a larger ledger entry a register only changes the mark.
-bool Takes_Only_Mark(const Stored& stored) {
-  return stored.Type == "Ledger Entry" && stored.rows > 2;
-}
+bool Takes_Only_Mark(const Stored& stored) { return stored.Type == "Ledger Entry" && stored.rows > 2; }
 
 /// Lines that will not be written need not add up: a ledger entry may stand here with several rows.
 bool Writes_Lines(Session& session, const RegisterEntry& entry) {
@@ -199,14 +186,12 @@ std::optional<Fault> Entry_Fault(Session& session, const Register& reg, const Re
 void Rewrite_Cleared(Session& session, const RegisterEntry& entry) {
   store::Transaction tx(*session.dbCompany, "Cleared " + entry.Number + ", " + entry.Name);
   entry.probe.check(*session.dbCompany);
-  session.dbCompany->Execute(
-      "UPDATE Transactions SET Cleared = ? WHERE RowKey = ? AND (Credit = ? OR Debit = ?)",
-      {entry.Cleared, entry.key, entry.Credit, entry.Debit});
+  session.dbCompany->Execute("UPDATE Transactions SET Cleared = ? WHERE RowKey = ? AND (Credit = ? OR Debit = ?)",
+                             {entry.Cleared, entry.key, entry.Credit, entry.Debit});
   tx.commit();
 }
 
-void Write_Single(Session& session, Transaction_Writer& rows, const std::string& here,
-                  const RegisterEntry& entry) {
+void Write_Single(Session& session, Transaction_Writer& rows, const std::string& here, const RegisterEntry& entry) {
   // A customer that a check's line named stays with the line.
   const bool same_line = entry.breakdown.size() == 1 && entry.breakdown.front().CatID == entry.CatID;
   rows.add({.Account = Get_Postable_Category(session, entry.CatID),
@@ -219,8 +204,7 @@ void Write_Single(Session& session, Transaction_Writer& rows, const std::string&
             .Class = entry.Class});
 }
 
-void Write_Break_Down(Session& session, Transaction_Writer& rows, const std::string& here,
-                      const RegisterEntry& entry) {
+void Write_Break_Down(Session& session, Transaction_Writer& rows, const std::string& here, const RegisterEntry& entry) {
   for (const BreakDownLine& line : entry.breakdown) {
     if (line.CatID.empty()) continue;
     const Money amount = line.Amount.value_or(Money());
@@ -266,8 +250,7 @@ void Write_Entry(Session& session, const Register& reg, const Stored& stored, Re
   entry.TransNum = rows.number();
   entry.probe = rows.probe();
   entry.key =
-      session.dbCompany->value("SELECT MIN(RowKey) FROM Transactions WHERE TransNum = ?", {entry.TransNum})
-          .integer();
+      session.dbCompany->value("SELECT MIN(RowKey) FROM Transactions WHERE TransNum = ?", {entry.TransNum}).integer();
 }
 
 Fault Access_Denied() {
@@ -304,9 +287,7 @@ RecordResult Record(Session& session, const Register& reg, RegisterEntry& entry)
   return result;
 }
 
-bool Can_Edit_In_Register(Session& session, int64_t TransNum) {
-  return May_Rewrite(Read_Stored(session, TransNum, 0));
-}
+bool Can_Edit_In_Register(Session& session, int64_t TransNum) { return May_Rewrite(Read_Stored(session, TransNum, 0)); }
 
 // --- Break down ------------------------------------------------------------------------------------------
 

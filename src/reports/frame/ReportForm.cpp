@@ -9,11 +9,11 @@
 #include <QShortcut>
 #include <QStackedLayout>
 
-#include "core/values/date_range.h"
 #include "core/store/error.h"
+#include "core/values/date_range.h"
 #include "core/values/text.h"
-#include "reports/saved/saved_reports.h"
 #include "reports/frame/widest_texts.h"
+#include "reports/saved/saved_reports.h"
 #include "shell/widgets/QuillbrookDatePick.h"
 #include "shell/widgets/grid/SSDBGrid.h"
 #include "shell/widgets/theme.h"
@@ -171,8 +171,7 @@ void ReportForm::connect_controls() {
   for (QuillbrookDatePick* date : {dteStart, dteEnd})
     on(date, &QuillbrookDatePick::Change, "dteStart_Change", [this] { changed_by_user(); });
   on(optBasis, &QButtonGroup::idClicked, "optBasis_Click", [this] { changed_by_user(); });
-  auto* refresh =
-      new QShortcut(QKeySequence::Refresh, this, nullptr, nullptr, Qt::WidgetWithChildrenShortcut);
+  auto* refresh = new QShortcut(QKeySequence::Refresh, this, nullptr, nullptr, Qt::WidgetWithChildrenShortcut);
   connect(refresh, &QShortcut::activated, cmdRefresh, &QPushButton::click);
   auto* copies = new QShortcut(QKeySequence::Copy, grdPL, nullptr, nullptr, Qt::WidgetShortcut);
   on(copies, &QShortcut::activated, "grdPL_KeyDown", [this] { copy(); });
@@ -182,8 +181,7 @@ void ReportForm::connect_controls() {
 QSize ReportForm::sizeHint() const {
   if (const auto left = window_memory::size_of(objectName())) return *left;
   const int wanted = grdPL->natural_width() + buttons_->sizeHint().width() + 7 * theme::unit;
-  return Form::sizeHint().expandedTo(
-      {std::clamp(wanted, 120 * theme::unit, 180 * theme::unit), 76 * theme::unit});
+  return Form::sizeHint().expandedTo({std::clamp(wanted, 120 * theme::unit, 180 * theme::unit), 76 * theme::unit});
 }
 
 void ReportForm::show_instead_of_grid(QWidget* other) {
@@ -208,9 +206,7 @@ void ReportForm::fit_sheet() {
 
 // --- the request
 
-void ReportForm::load() {
-  setWindowTitle(QStringLiteral("Report"));
-}
+void ReportForm::load() { setWindowTitle(QStringLiteral("Report")); }
 
 void ReportForm::take(const Request& asked) {
   begin_report(asked);
@@ -251,8 +247,7 @@ void ReportForm::show_request() {
   show_preset();
   optBasis->button(static_cast<int>(request_.basis))->setChecked(true);
   const bool period = report_->start != ReportDef::Start::None;
-  for (QWidget* control : std::initializer_list<QWidget*>{lblStart, dteStart, cmbDate})
-    control->setVisible(period);
+  for (QWidget* control : std::initializer_list<QWidget*>{lblStart, dteStart, cmbDate}) control->setVisible(period);
   lblBasis->setVisible(report_->has_basis);
   for (QAbstractButton* option : optBasis->buttons()) option->setVisible(report_->has_basis);
 }
@@ -266,11 +261,10 @@ void ReportForm::read_controls() {
 /// Dates that are those of a preset show its name, however they came there.
 void ReportForm::show_preset() {
   const DateRange shown{request_.from, request_.to};
-  const auto preset =
-      std::find_if(Date_Range_Names.begin(), Date_Range_Names.end(),
-                   [&](std::string_view name) { return Get_Date_Range(name, session.today()) == shown; });
-  cmbDate->setCurrentText(preset == Date_Range_Names.end() ? QLatin1String(own_dates)
-                                                           : qt(std::string(*preset)));
+  const auto preset = std::find_if(Date_Range_Names.begin(), Date_Range_Names.end(), [&](std::string_view name) {
+    return Get_Date_Range(name, session.today()) == shown;
+  });
+  cmbDate->setCurrentText(preset == Date_Range_Names.end() ? QLatin1String(own_dates) : qt(std::string(*preset)));
 }
 
 /// A date or the basis was changed: the report follows at once.
@@ -322,8 +316,8 @@ void ReportForm::show_table() {
     std::string text;
     for (size_t column = 0; column < table_.columns.size(); ++column) {
       const bool amount = grdPL->column(static_cast<int>(column)).kind == Kind::money;
-      std::string cell = amount ? table_.text(row, static_cast<int>(column))
-                                : table_.for_the_eye(row, static_cast<int>(column));
+      std::string cell =
+          amount ? table_.text(row, static_cast<int>(column)) : table_.for_the_eye(row, static_cast<int>(column));
       std::replace_if(
           cell.begin(), cell.end(), [](char c) { return c == '\t' || c == '\r' || c == '\n'; }, ' ');
       text += (column ? "\t" : "") + cell;
@@ -373,8 +367,7 @@ void ReportForm::show_columns() {
   if (same) return;
   grdPL->set_columns(std::move(columns));
   std::vector<GridGroup> groups;
-  for (const ReportGroup& group : table_.groups)
-    groups.push_back({qt(group.caption), group.first, group.count});
+  for (const ReportGroup& group : table_.groups) groups.push_back({qt(group.caption), group.first, group.count});
   grdPL->set_groups(std::move(groups));
   grdPL->setAlternatingRowColors(table_.columns.size() > 4);
 }
@@ -397,8 +390,7 @@ void ReportForm::show_widths() {
     const ReportColumn& how = table_.columns[column];
     const int head = width_of({how.caption, "sBold"});
     int width = head;
-    for (const StyledText& text : texts[column])
-      width = std::max(width, std::min(width_of(text), widest_column));
+    for (const StyledText& text : texts[column]) width = std::max(width, std::min(width_of(text), widest_column));
     width += (decimals[column] - 2) * width_of({"0", ""});
     const bool margin = how.kind == ReportColumn::Kind::Margin;
     const bool gives_way = how.kind == ReportColumn::Kind::Text && column > 1;

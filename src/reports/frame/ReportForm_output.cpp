@@ -10,8 +10,8 @@
 #include "reports/frame/renderers.h"
 #include "reports/frame/report_paint.h"
 #include "reports/frame/widest_texts.h"
-#include "shell/widgets/grid/SSDBGrid.h"
 #include "shell/widgets/frmPreview.h"
+#include "shell/widgets/grid/SSDBGrid.h"
 
 /// What becomes of a report on show: another title, fewer columns, a jump from a row, paper, files.
 namespace tallymere {
@@ -87,9 +87,7 @@ Lay_Out ReportForm::pages_to_print() {
   return [this](const QPageLayout& page) { return std::make_unique<Report_Pages>(table_, page); };
 }
 
-QPageLayout ReportForm::page_to_print() {
-  return Page_For(table_);
-}
+QPageLayout ReportForm::page_to_print() { return Page_For(table_); }
 
 void ReportForm::cmdPrint_AfterClick() {
   frmPreview preview(shell, qt(table_.heading.title), pages_to_print(), page_to_print());
@@ -103,11 +101,10 @@ void ReportForm::cmdExport_AfterClick() {
 }
 
 void ReportForm::chosen(const std::string& item) {
-  static const std::map<std::string, void (ReportForm::*)()> handlers = {
-      {"mnuExportPDF", &ReportForm::export_pdf},
-      {"mnuExportSheet", &ReportForm::export_sheet},
-      {"mnuExportCSV", &ReportForm::export_csv},
-      {"mnuExportCopy", &ReportForm::copy}};
+  static const std::map<std::string, void (ReportForm::*)()> handlers = {{"mnuExportPDF", &ReportForm::export_pdf},
+                                                                         {"mnuExportSheet", &ReportForm::export_sheet},
+                                                                         {"mnuExportCSV", &ReportForm::export_csv},
+                                                                         {"mnuExportCopy", &ReportForm::copy}};
   guard((item + "_Click").c_str(), [&] { (this->*handlers.at(item))(); });
 }
 

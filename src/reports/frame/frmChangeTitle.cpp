@@ -23,8 +23,6 @@ frmChangeTitle::frmChangeTitle(Shell& shell_of_frame, const std::string& present
   on(cmdCancel, "cmdCancel_AfterClick", [this] { finish(false); });
 }
 
-std::string frmChangeTitle::title() const {
-  return utf8(Text1->text());
-}
+std::string frmChangeTitle::title() const { return utf8(Text1->text()); }
 
 }  // namespace tallymere

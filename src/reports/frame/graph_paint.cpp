@@ -22,12 +22,7 @@ constexpr const char* row_names[] = {"Income", "Expense", "Net"};
 class Graph {
  public:
   Graph(QPainter& painter, const PL_Graph& graph, const Graph_Colors& colors, const QFont& font)
-      : painter_(painter),
-        graph_(graph),
-        colors_(colors),
-        font_(font),
-        metrics_(font),
-        line_(metrics_.lineSpacing()) {
+      : painter_(painter), graph_(graph), colors_(colors), font_(font), metrics_(font), line_(metrics_.lineSpacing()) {
     bold_.setBold(true);
   }
 
@@ -55,8 +50,7 @@ class Graph {
   }
 
   QRectF title(const QRectF& room, const char* text) {
-    write({room.left(), room.top(), room.width(), line_ * 1.2}, Qt::AlignLeft, QLatin1String(text),
-          colors_.ink, true);
+    write({room.left(), room.top(), room.width(), line_ * 1.2}, Qt::AlignLeft, QLatin1String(text), colors_.ink, true);
     return room.adjusted(0, line_ * 1.7, 0, 0);
   }
 
@@ -121,9 +115,8 @@ class Graph {
       const qreal y = y_of(plot, amount);
       rule(plot.left(), plot.right(), y, colors_.line);
       const Money value = Money::from_double(amount);
-      write({plot.left() - gutter_, y - line_ / 2, gutter_ - line_ * 0.6, line_},
-            Qt::AlignRight | Qt::AlignVCenter, qt(Graph_Text(value, scale)).remove(QStringLiteral(".0")),
-            colors_.soft);
+      write({plot.left() - gutter_, y - line_ / 2, gutter_ - line_ * 0.6, line_}, Qt::AlignRight | Qt::AlignVCenter,
+            qt(Graph_Text(value, scale)).remove(QStringLiteral(".0")), colors_.soft);
     }
   }
 
@@ -145,8 +138,8 @@ class Graph {
   void bar(const QRectF& plot, qreal left, qreal width_of_bar, Money amount, const QColor& color) {
     if (amount.is_zero()) return;
     const qreal zero = y_of(plot, 0), end = y_of(plot, amount.to_double());
-    painter_.fillRect(
-        QRectF(QPointF(left, std::min(zero, end)), QPointF(left + width_of_bar, std::max(zero, end))), color);
+    painter_.fillRect(QRectF(QPointF(left, std::min(zero, end)), QPointF(left + width_of_bar, std::max(zero, end))),
+                      color);
   }
 
   /// The figures under their bars; the names at the left explain the colours.
@@ -158,10 +151,9 @@ class Graph {
       const QRectF line(room.left(), room.top() + height * row, gutter_, height);
       if (row == 2) rule(room.left(), room.right(), line.top(), colors_.line);
       if (chips[row].isValid())
-        painter_.fillRect(QRectF(line.left(), line.center().y() - line_ * 0.3, line_ * 0.6, line_ * 0.6),
-                          chips[row]);
-      write(line.adjusted(line_, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter, QLatin1String(row_names[row]),
-            colors_.ink, row == 2);
+        painter_.fillRect(QRectF(line.left(), line.center().y() - line_ * 0.3, line_ * 0.6, line_ * 0.6), chips[row]);
+      write(line.adjusted(line_, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter, QLatin1String(row_names[row]), colors_.ink,
+            row == 2);
       for (size_t at = 0; at < spans_.size(); ++at) {
         const Graph_Span& span = spans_[at];
         const Money amount = row == 0 ? span.income : row == 1 ? span.expense : span.income - span.expense;
@@ -176,11 +168,9 @@ class Graph {
   void expenses(const QRectF& room) {
     const QRectF body = title(room, "Largest expenses");
     const qreal height = line_ * 1.6;
-    const auto slices =
-        Largest_Slices(graph_.expenses, static_cast<size_t>(std::max(body.height() / height, 0.0)));
+    const auto slices = Largest_Slices(graph_.expenses, static_cast<size_t>(std::max(body.height() / height, 0.0)));
     if (slices.empty())
-      return write(body, Qt::AlignLeft | Qt::AlignTop, QStringLiteral("No expenses in this period."),
-                   colors_.soft);
+      return write(body, Qt::AlignLeft | Qt::AlignTop, QStringLiteral("No expenses in this period."), colors_.soft);
     Money total, most;
     qreal names = 0, figures_width = 0;
     for (const PL_Graph::Slice& slice : slices) {
@@ -201,8 +191,7 @@ class Graph {
 
   static QString amount_text(Money amount) { return qt(Format(amount, "#,##0.00")); }
 
-  void slice_row(const QRectF& row, const PL_Graph::Slice& slice, qreal names, qreal room, double length,
-                 double part) {
+  void slice_row(const QRectF& row, const PL_Graph::Slice& slice, qreal names, qreal room, double length, double part) {
     const QString name = metrics_.elidedText(qt(slice.AccountName), Qt::ElideRight, names - line_ * 0.8);
     write({row.left(), row.top(), names, row.height()}, Qt::AlignLeft | Qt::AlignVCenter, name, colors_.ink);
     const QRectF bar(row.left() + names, row.center().y() - line_ * 0.42, std::max(room * length, line_ / 10),
@@ -229,8 +218,7 @@ class Graph {
 }  // namespace
 
 Graph_Colors Graph_Colors::on_paper() {
-  return {QColor(20, 20, 20), QColor(90, 90, 90), QColor(222, 226, 228), QColor(15, 102, 115),
-          QColor(224, 160, 62)};
+  return {QColor(20, 20, 20), QColor(90, 90, 90), QColor(222, 226, 228), QColor(15, 102, 115), QColor(224, 160, 62)};
 }
 
 Graph_Colors Graph_Colors::on_screen() {
@@ -245,8 +233,7 @@ void Paint_PL_Graph(QPainter& painter, const QRectF& room, const PL_Graph& graph
   Graph(painter, graph, colors, font).paint(room);
 }
 
-Graph_Pages::Graph_Pages(const PL_Graph& graph, const QPageLayout& page)
-    : Pages(page), graph_(graph) {}
+Graph_Pages::Graph_Pages(const PL_Graph& graph, const QPageLayout& page) : Pages(page), graph_(graph) {}
 
 void Graph_Pages::paint(QPainter& painter, int) const {
   const Print_Fonts fonts(1);

@@ -8,9 +8,7 @@
 namespace tallymere {
 namespace {
 
-int Month_Number(Date day) {
-  return day.year() * 12 + static_cast<int>(day.month()) - 1;
-}
+int Month_Number(Date day) { return day.year() * 12 + static_cast<int>(day.month()) - 1; }
 
 std::string Label_Of(int first_month, int months) {
   const int year = first_month / 12;
@@ -22,9 +20,7 @@ std::string Label_Of(int first_month, int months) {
   return std::to_string(year) + "-" + last.substr(last.size() - 2);
 }
 
-double Unit_Of(Graph_Scale scale) {
-  return scale == Graph_Scale::Thousands ? 1e3 : 1e6;
-}
+double Unit_Of(Graph_Scale scale) { return scale == Graph_Scale::Thousands ? 1e3 : 1e6; }
 
 }  // namespace
 
@@ -44,8 +40,7 @@ std::vector<Graph_Span> Graph_Spans(const PL_Graph& graph, int months) {
 std::string Graph_Text(Money amount, Graph_Scale scale) {
   if (scale == Graph_Scale::Full) return Format(amount, "#,##0");
   if (amount.is_zero()) return "0";
-  return Format(amount.to_double() / Unit_Of(scale), "#,##0.0") +
-         (scale == Graph_Scale::Thousands ? "k" : "M");
+  return Format(amount.to_double() / Unit_Of(scale), "#,##0.0") + (scale == Graph_Scale::Thousands ? "k" : "M");
 }
 
 bool Suits(const std::vector<Graph_Span>& spans, Graph_Scale scale) {

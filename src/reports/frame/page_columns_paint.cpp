@@ -23,9 +23,7 @@ constexpr qreal smallest_print = 0.78;
 constexpr qreal most_spread = 1.35;
 constexpr qreal least_share = 0.62;  ///< of the page's width, however little there is to show
 
-qreal Sum(const Widths& widths) {
-  return std::accumulate(widths.begin(), widths.end(), qreal{0});
-}
+qreal Sum(const Widths& widths) { return std::accumulate(widths.begin(), widths.end(), qreal{0}); }
 
 /// The widths that columns ask for and those they can do with.
 class Measure {
@@ -130,8 +128,8 @@ bool Fits_Whole(const Measure& measure, qreal room, Page_Columns& columns) {
     columns.widths = Times(measure.natural, std::min(room / std::max(natural, qreal{1}), wanted));
   } else if (least * smallest_print <= room) {
     columns.scale = std::min(room / least, qreal{1});
-    columns.widths = columns.scale < 1 ? Times(measure.least, columns.scale)
-                                       : Between(measure.least, measure.natural, room);
+    columns.widths =
+        columns.scale < 1 ? Times(measure.least, columns.scale) : Between(measure.least, measure.natural, room);
   } else {
     return false;
   }
@@ -160,8 +158,6 @@ Page_Columns Fit_Columns(const ReportTable& table, qreal room) {
   return columns;
 }
 
-qreal Natural_Width(const ReportTable& table) {
-  return Sum(Measure(table).natural);
-}
+qreal Natural_Width(const ReportTable& table) { return Sum(Measure(table).natural); }
 
 }  // namespace tallymere

@@ -19,11 +19,10 @@ struct Row {
   bool scaled;  ///< shrinks with a table that is too wide; what stands around it does not
 };
 constexpr Row rows[] = {
-    {"", 9.5, false, false, true},         {"Bold", 12, true, false, true},
-    {"sBold", 9.5, true, false, true},     {"Small", 9, false, false, true},
-    {"Underline", 9.5, false, true, true}, {"heads", 8.5, true, false, true},
-    {"title", 18, true, false, false},     {"company", 11.5, false, false, false},
-    {"period", 10, false, false, false},   {"edge", 8, false, false, false},
+    {"", 9.5, false, false, true},     {"Bold", 12, true, false, true},        {"sBold", 9.5, true, false, true},
+    {"Small", 9, false, false, true},  {"Underline", 9.5, false, true, true},  {"heads", 8.5, true, false, true},
+    {"title", 18, true, false, false}, {"company", 11.5, false, false, false}, {"period", 10, false, false, false},
+    {"edge", 8, false, false, false},
 };
 
 /// The same on every machine that has it, whatever the desktop's own font is.
@@ -61,8 +60,7 @@ const Print_Fonts::Look& Print_Fonts::of(std::string_view style) const {
   return found == looks_.end() ? looks_.find("")->second : found->second;
 }
 
-void Write_Line(QPainter& painter, const QRectF& line, int align, const Print_Fonts::Look& look,
-                const QString& text) {
+void Write_Line(QPainter& painter, const QRectF& line, int align, const Print_Fonts::Look& look, const QString& text) {
   constexpr qreal smallest = 0.6;
   QFont font = look.font;
   const qreal needed = look.metrics.horizontalAdvance(text);

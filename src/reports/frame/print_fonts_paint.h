@@ -37,7 +37,6 @@ class Print_Fonts {
 };
 
 /// One line of text, smaller where it is long, and cut with dots where even that does not do.
-void Write_Line(QPainter& painter, const QRectF& line, int align, const Print_Fonts::Look& look,
-                const QString& text);
+void Write_Line(QPainter& painter, const QRectF& line, int align, const Print_Fonts::Look& look, const QString& text);
 
 }  // namespace tallymere

@@ -19,17 +19,11 @@ constexpr int most_lines = 12;  ///< of one cell
 
 const QColor ink(20, 20, 20), soft_ink(90, 90, 90), hairline(222, 226, 228);
 
-qreal Room_On(const QPageLayout& page) {
-  return page.fullRect(QPageLayout::Inch).width() * Pages::twips - 2 * side;
-}
+qreal Room_On(const QPageLayout& page) { return page.fullRect(QPageLayout::Inch).width() * Pages::twips - 2 * side; }
 
-bool Is_Bold(std::string_view style) {
-  return style == "Bold" || style == "sBold";
-}
+bool Is_Bold(std::string_view style) { return style == "Bold" || style == "sBold"; }
 
-QPen Pen(const QColor& color, qreal width) {
-  return QPen(color, width, Qt::SolidLine, Qt::FlatCap);
-}
+QPen Pen(const QColor& color, qreal width) { return QPen(color, width, Qt::SolidLine, Qt::FlatCap); }
 
 void Use(QPainter& painter, const Print_Fonts::Look& look, const QColor& color) {
   painter.setFont(look.font);
@@ -61,23 +55,18 @@ Report_Pages::Report_Pages(const ReportTable& table, const QPageLayout& page)
   part_into_pages();
 }
 
-int Report_Pages::count() const {
-  return static_cast<int>(first_rows_.size() * columns_.panels.size());
-}
+int Report_Pages::count() const { return static_cast<int>(first_rows_.size() * columns_.panels.size()); }
 
 // --- measuring
 
 bool Report_Pages::is_total(int row) const {
   if (!Is_Bold(table_.style(row))) return false;
   for (size_t column = 0; column < table_.columns.size(); ++column)
-    if (table_.columns[column].kind == Kind::Money && !table_.value(row, static_cast<int>(column)).blank())
-      return true;
+    if (table_.columns[column].kind == Kind::Money && !table_.value(row, static_cast<int>(column)).blank()) return true;
   return false;
 }
 
-bool Report_Pages::is_head(int row) const {
-  return Is_Bold(table_.style(row)) && !is_total(row);
-}
+bool Report_Pages::is_head(int row) const { return Is_Bold(table_.style(row)) && !is_total(row); }
 
 /// The width of a cell; a label has that of the empty cells after it too.
 qreal Report_Pages::room_of(const Panel& panel, size_t at, int row) const {
@@ -95,8 +84,7 @@ qreal Report_Pages::lines_of(int row, int column, qreal room) const {
   const QString text = qt(table_.for_the_eye(row, column));
   const QFontMetricsF& metrics = fonts_.of(table_.style(row, column)).metrics;
   if (Is_One_Line(metrics, text, room)) return 1;
-  const qreal height =
-      metrics.boundingRect(QRectF(0, 0, room, 1e6), Wrapping(metrics, text, room), text).height();
+  const qreal height = metrics.boundingRect(QRectF(0, 0, room, 1e6), Wrapping(metrics, text, room), text).height();
   return std::clamp(std::round(height / metrics.lineSpacing()), 1.0, qreal{most_lines});
 }
 
@@ -118,13 +106,10 @@ qreal Report_Pages::lead(int row) const {
 
 qreal Report_Pages::heading_height(bool first_page) const {
   if (!first_page) return fonts_.edge().row_height() + below_heading / 2;
-  return fonts_.title().row_height() + fonts_.company().row_height() + fonts_.period().row_height() +
-         below_heading;
+  return fonts_.title().row_height() + fonts_.company().row_height() + fonts_.period().row_height() + below_heading;
 }
 
-qreal Report_Pages::groups_height() const {
-  return table_.groups.empty() ? 0 : fonts_.heads().row_height() + 40;
-}
+qreal Report_Pages::groups_height() const { return table_.groups.empty() ? 0 : fonts_.heads().row_height() + 40; }
 
 qreal Report_Pages::heads_height() const {
   const Print_Fonts::Look& look = fonts_.heads();
@@ -196,8 +181,7 @@ void Report_Pages::paint_heading(QPainter& painter, bool first_page) const {
     line.translate(0, line.height());
   };
   if (!first_page)
-    return write(fonts_.edge(), qt(heading.title + "   " + heading.company + "   " + heading.period),
-                 soft_ink);
+    return write(fonts_.edge(), qt(heading.title + "   " + heading.company + "   " + heading.period), soft_ink);
   write(fonts_.title(), qt(heading.title), ink);
   write(fonts_.company(), qt(heading.company), ink);
   write(fonts_.period(), qt(heading.period), soft_ink);
@@ -219,8 +203,7 @@ void Report_Pages::paint_groups(QPainter& painter, const Panel& panel, Place at)
     if (place.width() <= 0) continue;
     painter.drawText(place, Qt::AlignCenter, qt(group.caption));
     painter.setPen(Pen(soft_ink, 8));
-    painter.drawLine(QPointF(place.left() + pad, place.bottom()),
-                     QPointF(place.right() - pad, place.bottom()));
+    painter.drawLine(QPointF(place.left() + pad, place.bottom()), QPointF(place.right() - pad, place.bottom()));
     painter.setPen(ink);
   }
 }
@@ -264,8 +247,7 @@ void Report_Pages::paint_row(QPainter& painter, const Panel& panel, Place at, in
   painter.drawLine(QPointF(at.left, at.top + height), QPointF(left, at.top + height));
 }
 
-void Report_Pages::paint_cell(QPainter& painter, const QRectF& cell, qreal width_of_room, int row,
-                              int column) const {
+void Report_Pages::paint_cell(QPainter& painter, const QRectF& cell, qreal width_of_room, int row, int column) const {
   const QString text = qt(table_.for_the_eye(row, column));
   if (text.trimmed().isEmpty()) return;
   const ReportColumn& how = table_.columns[static_cast<size_t>(column)];
@@ -279,8 +261,8 @@ void Report_Pages::paint_cell(QPainter& painter, const QRectF& cell, qreal width
     painter.drawText(room.adjusted(0, look.metrics.lineSpacing() * 0.12, 0, 0),
                      Qt::AlignLeft | Wrapping(look.metrics, text, room.width()), text);
   else
-    painter.drawText(
-        QPointF(how.right ? room.right() - width - beyond(row, column, look) : room.left(), baseline), text);
+    painter.drawText(QPointF(how.right ? room.right() - width - beyond(row, column, look) : room.left(), baseline),
+                     text);
   if (how.kind == Kind::Money && Is_Bold(table_.style(row))) paint_rule(painter, cell, row);
 }
 

@@ -11,8 +11,7 @@ namespace {
 constexpr std::string_view money_mask = "#,##0.00##";
 
 std::string Masked(const store::Value& value, std::string_view mask) {
-  if (auto amount = std::get_if<Money>(&value.content()))
-    return Format(*amount, mask.empty() ? money_mask : mask);
+  if (auto amount = std::get_if<Money>(&value.content())) return Format(*amount, mask.empty() ? money_mask : mask);
   if (mask.empty()) return value.text();
   if (auto day = std::get_if<Date>(&value.content())) return Format(*day, mask);
   if (std::holds_alternative<int64_t>(value.content()) || std::holds_alternative<double>(value.content()))
@@ -139,8 +138,7 @@ bool ReportTable::is_spacer(int row) const {
 }
 
 int ReportTable::find_column(std::string_view caption) const {
-  auto found =
-      std::find_if(columns.begin(), columns.end(), [&](const auto& c) { return c.caption == caption; });
+  auto found = std::find_if(columns.begin(), columns.end(), [&](const auto& c) { return c.caption == caption; });
   return found == columns.end() ? -1 : static_cast<int>(found - columns.begin());
 }
 

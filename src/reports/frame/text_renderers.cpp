@@ -11,8 +11,7 @@ namespace {
 std::vector<int> Shown_Columns(const ReportTable& table) {
   std::vector<int> shown;
   for (int column = 0; column < static_cast<int>(table.columns.size()); ++column)
-    if (table.columns[static_cast<size_t>(column)].kind != ReportColumn::Kind::Margin)
-      shown.push_back(column);
+    if (table.columns[static_cast<size_t>(column)].kind != ReportColumn::Kind::Margin) shown.push_back(column);
   return shown;
 }
 
@@ -31,8 +30,7 @@ std::string On_One_Line(std::string text) {
 
 /// Characters on the screen, not bytes.
 size_t Width(std::string_view text) {
-  return static_cast<size_t>(
-      std::count_if(text.begin(), text.end(), [](char c) { return (c & 0xC0) != 0x80; }));
+  return static_cast<size_t>(std::count_if(text.begin(), text.end(), [](char c) { return (c & 0xC0) != 0x80; }));
 }
 
 constexpr size_t widest = 40;
@@ -106,8 +104,7 @@ void Write_Csv(const ReportTable& table, std::ostream& out) {
     out << "\r\n";
   };
   write_line([&](int column) { return Full_Caption(table, column); });
-  for (int row = 0; row < table.rows(); ++row)
-    write_line([&](int column) { return table.text(row, column); });
+  for (int row = 0; row < table.rows(); ++row) write_line([&](int column) { return table.text(row, column); });
 }
 
 std::string Tab_Separated(const ReportTable& table, const std::vector<int>& rows) {

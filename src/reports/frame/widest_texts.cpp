@@ -139,8 +139,7 @@ int Decimals(Money amount) {
 std::vector<int> Most_Decimals(const ReportTable& table) {
   std::vector<int> most(table.columns.size(), 2);
   for (size_t column = 0; column < most.size(); ++column) {
-    if (table.columns[column].kind != ReportColumn::Kind::Money || !table.columns[column].mask.empty())
-      continue;
+    if (table.columns[column].kind != ReportColumn::Kind::Money || !table.columns[column].mask.empty()) continue;
     for (int row = 0; row < table.rows() && most[column] < 4; ++row)
       most[column] = std::max(most[column], Decimals(table.value(row, static_cast<int>(column)).money()));
   }
@@ -148,9 +147,8 @@ std::vector<int> Most_Decimals(const ReportTable& table) {
 }
 
 int Label_Column(const ReportTable& table) {
-  const auto label = std::find_if(table.columns.begin(), table.columns.end(), [](const ReportColumn& column) {
-    return column.kind != ReportColumn::Kind::Margin;
-  });
+  const auto label = std::find_if(table.columns.begin(), table.columns.end(),
+                                  [](const ReportColumn& column) { return column.kind != ReportColumn::Kind::Margin; });
   return label == table.columns.end() ? -1 : static_cast<int>(label - table.columns.begin());
 }
 
@@ -174,8 +172,8 @@ std::vector<std::vector<StyledText>> Widest_Texts(const ReportTable& table, int 
 ReportTable Pick_Columns(const ReportTable& table, const std::vector<bool>& wanted) {
   std::vector<bool> keep(table.columns.size());
   for (size_t column = 0; column < keep.size(); ++column)
-    keep[column] = table.columns[column].kind == ReportColumn::Kind::Margin ||
-                   (column < wanted.size() && wanted[column]);
+    keep[column] =
+        table.columns[column].kind == ReportColumn::Kind::Margin || (column < wanted.size() && wanted[column]);
   ReportTable picked;
   picked.heading = table.heading;
   picked.go_to = table.go_to;

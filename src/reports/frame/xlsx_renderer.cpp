@@ -5,9 +5,9 @@
 #include <map>
 #include <regex>
 
+#include "core/backup/whole_file.h"
 #include "core/store/error.h"
 #include "core/values/text.h"
-#include "core/backup/whole_file.h"
 #include "reports/frame/renderers.h"
 
 namespace tallymere {
@@ -31,15 +31,11 @@ struct Look {
   bool bold, underline;
   double size;
 };
-constexpr Look looks[] = {{"Bold", true, false, 14},
-                          {"sBold", true, false, 0},
-                          {"Small", false, false, 9},
-                          {"Underline", false, true, 0}};
+constexpr Look looks[] = {
+    {"Bold", true, false, 14}, {"sBold", true, false, 0}, {"Small", false, false, 9}, {"Underline", false, true, 0}};
 
 /// A spreadsheet's own day count begins on 1/1/1900.
-bool Has_Spreadsheet_Date(Date day) {
-  return day.year() >= 1900;
-}
+bool Has_Spreadsheet_Date(Date day) { return day.year() >= 1900; }
 
 std::string_view Cut(std::string_view text, size_t longest) {
   if (text.size() <= longest) return text;
@@ -69,8 +65,8 @@ class Workbook {
     for (int column = 0; column < static_cast<int>(table_.columns.size()); ++column)
       if (table_.columns[static_cast<size_t>(column)].kind != Kind::Margin) shown_.push_back(column);
     if (shown_.size() > LXW_COL_MAX)
-      throw store::Error(store::errors::conversion, "A spreadsheet has no room for more than " +
-                                                        std::to_string(LXW_COL_MAX) + " columns.");
+      throw store::Error(store::errors::conversion,
+                         "A spreadsheet has no room for more than " + std::to_string(LXW_COL_MAX) + " columns.");
     lxw_workbook_options options{};
     options.constant_memory = LXW_TRUE;  // rows go to disk as they come
     book_ = workbook_new_opt(file.c_str(), &options);
@@ -84,8 +80,7 @@ class Workbook {
       write_row(row);
     }
     if (lxw_error fault = workbook_close(book_))
-      throw store::Error(store::errors::bad_path,
-                         std::string("The workbook was not written: ") + lxw_strerror(fault));
+      throw store::Error(store::errors::bad_path, std::string("The workbook was not written: ") + lxw_strerror(fault));
   }
 
  private:
@@ -107,15 +102,12 @@ class Workbook {
   /// The heading is what groups all columns of a report that has no groups of its own.
   void write_groups() {
     std::vector<ReportGroup> groups = table_.groups;
-    if (groups.empty())
-      groups.push_back({table_.heading.caption(), 0, static_cast<int>(table_.columns.size())});
+    if (groups.empty()) groups.push_back({table_.heading.caption(), 0, static_cast<int>(table_.columns.size())});
     const bool is_heading = table_.groups.empty();
     lxw_format* look = format(is_heading ? "Bold" : "sBold", "", Align::Centre);
     if (is_heading) worksheet_set_row(sheet_, at_, heading_height, nullptr);
     for (const ReportGroup& group : groups) {
-      const auto below = [&](int column) {
-        return column >= group.first && column < group.first + group.count;
-      };
+      const auto below = [&](int column) { return column >= group.first && column < group.first + group.count; };
       const auto first = std::find_if(shown_.begin(), shown_.end(), below);
       const auto last = std::find_if_not(first, shown_.end(), below);
       if (first == last) continue;
@@ -125,8 +117,7 @@ class Workbook {
       if (from == to)
         write_text(at_, column_number(from), caption, look);
       else
-        worksheet_merge_range(sheet_, at_, column_number(from), at_, column_number(to), caption.c_str(),
-                              look);
+        worksheet_merge_range(sheet_, at_, column_number(from), at_, column_number(to), caption.c_str(), look);
     }
     ++at_;
   }
@@ -165,8 +156,7 @@ class Workbook {
   }
 
   void write_text(lxw_row_t row, lxw_col_t column, const std::string& text, lxw_format* look) {
-    if (!text.empty())
-      worksheet_write_string(sheet_, row, column, As_It_Stands(Cut(text, longest_text)).c_str(), look);
+    if (!text.empty()) worksheet_write_string(sheet_, row, column, As_It_Stands(Cut(text, longest_text)).c_str(), look);
   }
 
   lxw_format* format(std::string_view style, std::string_view mask, Align align = Align::Left) {

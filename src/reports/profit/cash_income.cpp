@@ -1,8 +1,8 @@
 #include <algorithm>
 #include <utility>
 
-#include "core/ledger/ledger.h"
 #include "core/company/schema.h"
+#include "core/ledger/ledger.h"
 #include "reports/profit/income_shares.h"
 #include "reports/profit/kept_ledger.h"
 #include "reports/profit/ledger_sums.h"
@@ -85,8 +85,8 @@ class PaidRows {
                const auto numbers = Payments_Of(row.text(0));
                auto in_period = [&](int64_t number) { return period.holds(number); };
                if (std::none_of(numbers.begin(), numbers.end(), in_period)) return;
-               const bool known = in_period(numbers.front()) &&
-                                  row.text(0).starts_with(std::to_string(numbers.front()) + ";");
+               const bool known =
+                   in_period(numbers.front()) && row.text(0).starts_with(std::to_string(numbers.front()) + ";");
                if (!known) read_rows("", " WHERE PaidBy = ?", {row.text(0)});
              });
   }
@@ -100,11 +100,11 @@ class PaidRows {
   }
 
   void share_out() {
-    const HeadRows payments = read_heads(
-        shares_.payments(),
-        "SELECT wanted.value, Amount, Date FROM json_each(?) AS wanted CROSS JOIN Transactions ON"
-        " Transactions.RowKey = (SELECT RowKey FROM Transactions AS head WHERE head.TransNum = wanted.value"
-        " ORDER BY RowKey LIMIT 1)");
+    const HeadRows payments =
+        read_heads(shares_.payments(),
+                   "SELECT wanted.value, Amount, Date FROM json_each(?) AS wanted CROSS JOIN Transactions ON"
+                   " Transactions.RowKey = (SELECT RowKey FROM Transactions AS head WHERE head.TransNum = wanted.value"
+                   " ORDER BY RowKey LIMIT 1)");
     const HeadRows receivables =
         read_heads(shares_.invoices(),
                    "SELECT wanted.value, Amount, NULL FROM json_each(?) AS wanted CROSS JOIN Transactions"
@@ -118,8 +118,7 @@ class PaidRows {
   HeadRows read_heads(const std::vector<int64_t>& numbers, std::string_view sql) {
     HeadRows heads;
     Each_List(numbers, [&](const std::string& list) {
-      db_.each(sql, {list},
-               [&](const store::Row& row) { heads.add(row.integer(0), row.date(2), row.money(1)); });
+      db_.each(sql, {list}, [&](const store::Row& row) { heads.add(row.integer(0), row.date(2), row.money(1)); });
     });
     heads.settle();
     return heads;

@@ -46,9 +46,7 @@ void frmPrintPL2::draw_graph() {
   sheet_->update();
 }
 
-void frmPrintPL2::show_chosen() {
-  show_instead_of_grid(cmdGraph->isChecked() ? sheet_ : nullptr);
-}
+void frmPrintPL2::show_chosen() { show_instead_of_grid(cmdGraph->isChecked() ? sheet_ : nullptr); }
 
 /// Only a graph that is on show is reckoned.
 void frmPrintPL2::after_load() {
@@ -72,9 +70,8 @@ GraphSheet::GraphSheet(const PL_Graph& graph) : graph_(graph) {
 
 void GraphSheet::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  Paint_PL_Graph(painter,
-                 QRectF(rect()).adjusted(3 * theme::unit, theme::unit, -3 * theme::unit, -theme::unit),
-                 graph_, Graph_Colors::on_screen(), theme::tabular(font()));
+  Paint_PL_Graph(painter, QRectF(rect()).adjusted(3 * theme::unit, theme::unit, -3 * theme::unit, -theme::unit), graph_,
+                 Graph_Colors::on_screen(), theme::tabular(font()));
 }
 
 }  // namespace tallymere

@@ -34,8 +34,7 @@ const HeadRows::Head* HeadRows::find(int64_t TransNum) const {
 
 // --- shares
 
-void IncomeShares::add(size_t category, int64_t TransNum, std::string_view PaidBy, bool is_credit,
-                       Money Amount) {
+void IncomeShares::add(size_t category, int64_t TransNum, std::string_view PaidBy, bool is_credit, Money Amount) {
   if (PaidBy != PaidBy_) {
     PaidBy_ = PaidBy;
     first_payment_ = payments_.size();
@@ -45,13 +44,9 @@ void IncomeShares::add(size_t category, int64_t TransNum, std::string_view PaidB
     rows_.push_back({category, TransNum, is_credit, Amount, first_payment_, count});
 }
 
-void IncomeShares::clear() {
-  *this = {};
-}
+void IncomeShares::clear() { *this = {}; }
 
-std::vector<int64_t> IncomeShares::payments() const {
-  return Each_Once(payments_);
-}
+std::vector<int64_t> IncomeShares::payments() const { return Each_Once(payments_); }
 
 std::vector<int64_t> IncomeShares::invoices() const {
   std::vector<int64_t> numbers;
@@ -60,8 +55,7 @@ std::vector<int64_t> IncomeShares::invoices() const {
   return Each_Once(std::move(numbers));
 }
 
-void IncomeShares::share_out(const HeadRows& payments, const HeadRows& receivables,
-                             const TakeAmount& take) const {
+void IncomeShares::share_out(const HeadRows& payments, const HeadRows& receivables, const TakeAmount& take) const {
   for (const Row& row : rows_) {
     const HeadRows::Head* head = receivables.find(row.TransNum);
     const Money receivable = head ? head->Amount : Money();

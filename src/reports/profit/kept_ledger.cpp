@@ -8,8 +8,7 @@ namespace {
 /// What a list sorted by day has of a period.
 template <typename T>
 std::pair<const T*, const T*> In_Period(const std::vector<T>& sorted, DateRange days) {
-  auto first =
-      std::partition_point(sorted.begin(), sorted.end(), [&](auto& row) { return row.day < days.start; });
+  auto first = std::partition_point(sorted.begin(), sorted.end(), [&](auto& row) { return row.day < days.start; });
   auto last = std::partition_point(first, sorted.end(), [&](auto& row) { return row.day <= days.end; });
   return {sorted.data() + (first - sorted.begin()), sorted.data() + (last - sorted.begin())};
 }
@@ -74,8 +73,7 @@ ColumnFigures KeptLedger::Sum_Category_By_Class(const CatIDs& categories, const 
   return sum_columns(categories, range, classes, &Row::Class);
 }
 
-void KeptLedger::Sum_Category_By_Day(const CatIDs& categories, const SumRange& range,
-                                     const TakeAmount& take) const {
+void KeptLedger::Sum_Category_By_Day(const CatIDs& categories, const SumRange& range, const TakeAmount& take) const {
   each_counted(categories, range, [&](size_t place, const Row& row) { take({place, row.day, row.value}); });
 }
 
@@ -83,8 +81,7 @@ void KeptLedger::Sum_CashIncome(const CatIDs& categories, DateRange days, const 
   const auto places = places_in(categories);
   const auto [first, last] = In_Period(income_, days);
   for (const Income* part = first; part != last; ++part)
-    if (const auto& place = places[part->category]; !place.empty())
-      take({place.front(), part->day, part->amount});
+    if (const auto& place = places[part->category]; !place.empty()) take({place.front(), part->day, part->amount});
 }
 
 }  // namespace tallymere

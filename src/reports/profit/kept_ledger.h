@@ -51,8 +51,8 @@ class KeptLedger {
   /// fn(place of the row's category, row) for each row that counts.
   template <typename Fn>
   void each_counted(const CatIDs& categories, const SumRange& range, Fn&& fn) const;
-  ColumnFigures sum_columns(const CatIDs& categories, const SumRange& range,
-                            const std::vector<std::string>& captions, TextId Row::*caption) const;
+  ColumnFigures sum_columns(const CatIDs& categories, const SumRange& range, const std::vector<std::string>& captions,
+                            TextId Row::*caption) const;
 
   std::vector<Row> rows_;       ///< by day
   std::vector<Income> income_;  ///< what counts by its payments on cash basis, by day

@@ -99,8 +99,7 @@ void LedgerReader::read(const store::Row& row) {
   const int64_t number = row.integer(TransNum);
   const std::optional<Date> day = row.date(Day);
   transactions_.add(number, day, row.money(Amount));
-  if (row.text(Account) != Account_.text)
-    Account_ = {std::string(row.text(Account)), ledger_.id_of(row.text(Account))};
+  if (row.text(Account) != Account_.text) Account_ = {std::string(row.text(Account)), ledger_.id_of(row.text(Account))};
   if (same_text(Account_.text, accounts_receivable)) receivables_.add(number, day, row.money(Amount));
   if (Account_.id == KeptLedger::no_text || Account_.id > ledger_.categories_) return;
   if (day) add_row(row, *day);
@@ -112,8 +111,8 @@ void LedgerReader::add_row(const store::Row& row, Date day) {
   if (counts && same_text(row.text(Type), "Bill"))
     if (auto payments = Payments_Of(row.text(PaidBy)); !payments.empty())
       paid_bills_.push_back({ledger_.rows_.size(), payments.front()});
-  ledger_.rows_.push_back({day, Account_.id, keep(Name_, row, Name), keep(Class_, row, Class), counts,
-                           first_day, Row_Value(row.money(Debit), row.money(Credit))});
+  ledger_.rows_.push_back({day, Account_.id, keep(Name_, row, Name), keep(Class_, row, Class), counts, first_day,
+                           Row_Value(row.money(Debit), row.money(Credit))});
 }
 
 void LedgerReader::add_income(const store::Row& row, std::optional<Date> day) {

@@ -45,8 +45,7 @@ class TransactionDates {
   std::optional<Date> operator()(int64_t number) {
     auto known = dates_.find(number);
     if (known != dates_.end()) return known->second;
-    auto date =
-        db_.value("SELECT Date FROM Transactions WHERE TransNum = ? ORDER BY RowKey LIMIT 1", {number});
+    auto date = db_.value("SELECT Date FROM Transactions WHERE TransNum = ? ORDER BY RowKey LIMIT 1", {number});
     return dates_.emplace(number, date.maybe_date()).first->second;
   }
 
@@ -118,9 +117,7 @@ bool Is_Counted(Basis basis, std::string_view Type, bool Paid) {
   return basis == Basis::Accrual || Paid || !(same_text(Type, "Invoice") || same_text(Type, "Bill"));
 }
 
-Money Row_Value(Money Debit, Money Credit) {
-  return Credit.is_zero() ? -Debit : Credit;
-}
+Money Row_Value(Money Debit, Money Credit) { return Credit.is_zero() ? -Debit : Credit; }
 
 std::vector<int64_t> Payments_Of(std::string_view PaidBy) {
   std::vector<int64_t> numbers;
@@ -165,21 +162,18 @@ ColumnFigures Sum_Category_By_Name(store::Database& db, const CatIDs& categories
   if (auto* kept = KeptLedger::Of(db, categories)) return kept->Sum_Category_By_Name(categories, range, names);
   ColumnFigures figures;
   const auto columns = Columns_Of(names);
-  std::string sum =
-      "SELECT wanted.value, name.value, (SELECT SUM(" + std::string(row_value) +
-      ") FROM Transactions INDEXED BY Transactions_Name WHERE Name = name.value AND Account ="
-      " wanted.value AND Date >= ?1 AND Date <= ?2" +
-      If_Counted(range.basis) +
-      ") AS amount FROM json_each(?4) AS name CROSS JOIN json_each(?3) AS wanted WHERE amount <> 0";
+  std::string sum = "SELECT wanted.value, name.value, (SELECT SUM(" + std::string(row_value) +
+                    ") FROM Transactions INDEXED BY Transactions_Name WHERE Name = name.value AND Account ="
+                    " wanted.value AND Date >= ?1 AND Date <= ?2" +
+                    If_Counted(range.basis) +
+                    ") AS amount FROM json_each(?4) AS name CROSS JOIN json_each(?3) AS wanted WHERE amount <> 0";
   CatIDs distinct;
   for (const auto& [name, places] : columns) distinct.push_back(name);
   auto params = Params_Of(categories, range.days);
   params.push_back(Id_List(distinct));
-  db.each(sum, params,
-          [&](const store::Row& row) { Add(figures, columns, row.text(0), row.text(1), row.money(2)); });
-  Bills_Paid_Later(db, categories, range, [&](const LateBill& bill) {
-    Add(figures, columns, bill.Account, bill.Name, -bill.value);
-  });
+  db.each(sum, params, [&](const store::Row& row) { Add(figures, columns, row.text(0), row.text(1), row.money(2)); });
+  Bills_Paid_Later(db, categories, range,
+                   [&](const LateBill& bill) { Add(figures, columns, bill.Account, bill.Name, -bill.value); });
   return figures;
 }
 
@@ -192,14 +186,12 @@ ColumnFigures Sum_Category_By_Class(store::Database& db, const CatIDs& categorie
           Params_Of(categories, range.days), [&](const store::Row& row) {
             Add(figures, columns, row.text(0), row.text(1), Row_Value(row.money(2), row.money(3)));
           });
-  Bills_Paid_Later(db, categories, range, [&](const LateBill& bill) {
-    Add(figures, columns, bill.Account, bill.Class, -bill.value);
-  });
+  Bills_Paid_Later(db, categories, range,
+                   [&](const LateBill& bill) { Add(figures, columns, bill.Account, bill.Class, -bill.value); });
   return figures;
 }
 
-void Sum_Category_By_Day(store::Database& db, const CatIDs& categories, const SumRange& range,
-                         const TakeAmount& take) {
+void Sum_Category_By_Day(store::Database& db, const CatIDs& categories, const SumRange& range, const TakeAmount& take) {
   if (auto* kept = KeptLedger::Of(db, categories)) return kept->Sum_Category_By_Day(categories, range, take);
   db.each(Category_Rows("wanted.key, Date, SUM(" + std::string(row_value) + ")", If_Counted(range.basis)) +
               " GROUP BY wanted.key, Date",

@@ -4,9 +4,9 @@
 #include <string>
 #include <vector>
 
+#include "core/store/database.h"
 #include "core/values/caseless.h"
 #include "core/values/date_range.h"
-#include "core/store/database.h"
 #include "reports/reports.h"
 
 /// What reports sum from the ledger. Each function reads it in one grouped pass, mostly from an index alone,
@@ -69,8 +69,7 @@ void Sum_CashIncome(store::Database& db, const CatIDs& categories, DateRange day
 Figures Sum_CashIncome(store::Database& db, const CatIDs& categories, DateRange days);
 
 /// Sum_Category day by day, on the rows' own dates.
-void Sum_Category_By_Day(store::Database& db, const CatIDs& categories, const SumRange& range,
-                         const TakeAmount& take);
+void Sum_Category_By_Day(store::Database& db, const CatIDs& categories, const SumRange& range, const TakeAmount& take);
 
 /// Where a row's category stands in a list, in whatever case it was written; quick when asked for every row.
 class CategoryPlaces {

@@ -27,10 +27,9 @@ std::vector<std::string> Names_Of(store::Database& db, Party party) {
 }
 
 std::string Sum_Of_Counted(Basis basis) {
-  std::string counted =
-      basis == Basis::Accrual
-          ? ""
-          : "WHEN Transactions.Type IN ('Invoice', 'Bill') AND (Paid IS NULL OR Paid = 0) THEN 0 ";
+  std::string counted = basis == Basis::Accrual
+                            ? ""
+                            : "WHEN Transactions.Type IN ('Invoice', 'Bill') AND (Paid IS NULL OR Paid = 0) THEN 0 ";
   return "SUM(CASE " + counted + "WHEN Debit <> 0 THEN Debit ELSE -Credit END)";
 }
 
@@ -99,11 +98,7 @@ class Details {
     bool lowers = is_debit == (party_ == Party::Customer);
     total_ += lowers ? -change : change;
     auto line = table_.add_row("", RowKey{*name_});
-    line.skip()
-        .text("     " + std::string(row.text(1)))
-        .value(row.date(2))
-        .text(row.text(3))
-        .text(row.text(4));
+    line.skip().text("     " + std::string(row.text(1))).value(row.date(2)).text(row.text(3)).text(row.text(4));
     line.text(category->AccountName);
     line.text(row.text(6) == break_down ? std::string(break_down) : tree_.name(row.text(6)));
     line.money(lowers ? -row.money(7) : row.money(7));

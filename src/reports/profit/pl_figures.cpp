@@ -44,11 +44,10 @@ std::vector<std::string> Texts(store::Database& db, std::string_view sql) {
   return texts;
 }
 
-using SumByText = ColumnFigures(store::Database&, const CatIDs&, const SumRange&,
-                                const std::vector<std::string>&);
+using SumByText = ColumnFigures(store::Database&, const CatIDs&, const SumRange&, const std::vector<std::string>&);
 
-PL_Columns By_Text(store::Database& db, const CategoryTree& tree, const ReportRequest& request,
-                   std::string_view list, SumByText& sum) {
+PL_Columns By_Text(store::Database& db, const CategoryTree& tree, const ReportRequest& request, std::string_view list,
+                   SumByText& sum) {
   const SumRange range{{request.from, request.to}, request.basis};
   const CatIDs categories = All_Sections(tree);
   PL_Columns columns{Texts(db, list), {}, {}};
@@ -75,8 +74,7 @@ PL_Columns Load_PLYTD(store::Database& db, const CategoryTree& tree, const Repor
 
 PL_Columns Load_PLPrev(store::Database& db, const CategoryTree& tree, const ReportRequest& request) {
   DateRange last_year{Date(request.from.year() - 1, 1, 1), request.to.add_months(-12)};
-  return Compared_With(db, tree, request, last_year.start.to_text() + " -" + last_year.end.to_text(),
-                       last_year);
+  return Compared_With(db, tree, request, last_year.start.to_text() + " -" + last_year.end.to_text(), last_year);
 }
 
 PL_Columns Load_PLCus(store::Database& db, const CategoryTree& tree, const ReportRequest& request) {

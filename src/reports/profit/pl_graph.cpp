@@ -15,12 +15,9 @@ void Add_Months(PL_Graph& graph, const ReportRequest& request) {
     graph.months.push_back({first.add_months(month), {}, {}});
 }
 
-void Add_Income(PL_Graph& graph, store::Database& db, const CategoryTree& tree,
-                const ReportRequest& request) {
+void Add_Income(PL_Graph& graph, store::Database& db, const CategoryTree& tree, const ReportRequest& request) {
   const SumRange range{{request.from, request.to}, request.basis};
-  auto receive = [&](const DatedAmount& share) {
-    graph.months[Month_At(graph, share.date)].income += share.amount;
-  };
+  auto receive = [&](const DatedAmount& share) { graph.months[Month_At(graph, share.date)].income += share.amount; };
   CatIDs ordinary = Section_Categories(tree, "Other Income");
   CatIDs income = Section_Categories(tree, "Income");
   if (request.basis == Basis::Cash)
@@ -30,8 +27,7 @@ void Add_Income(PL_Graph& graph, store::Database& db, const CategoryTree& tree,
   Sum_Category_By_Day(db, ordinary, range, receive);
 }
 
-void Add_Expenses(PL_Graph& graph, store::Database& db, const CategoryTree& tree,
-                  const ReportRequest& request) {
+void Add_Expenses(PL_Graph& graph, store::Database& db, const CategoryTree& tree, const ReportRequest& request) {
   CatIDs all;
   for (std::string_view section : PL_Sections)
     if (Is_Expense_Side(section))

@@ -38,8 +38,7 @@ PL_Rows::PL_Rows(store::Database& db, const CategoryTree& tree, const ReportRequ
       " FROM json_each(?3) AS wanted CROSS JOIN Transactions INDEXED BY Transactions_Account"
       " WHERE Account = wanted.value AND Date >= ?1 AND Date <= ?2 ORDER BY Date, TransNum, "
       "Transactions.RowKey",
-      {request.from, request.to, Id_List(Listed_Categories(tree, request.basis))},
-      [&](const store::Row& row) {
+      {request.from, request.to, Id_List(Listed_Categories(tree, request.basis))}, [&](const store::Row& row) {
         by_category_[std::string(row.text(0))].push_back(lines_.rows());
         auto line = lines_.add_row();
         line.skip().text(row.text(1)).value(row.date(2));

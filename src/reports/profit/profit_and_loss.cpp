@@ -112,9 +112,7 @@ ReportTable Build(Session& session, const ReportRequest& request, Loader& load) 
 
 }  // namespace
 
-bool Is_Expense_Side(std::string_view type) {
-  return contains(type, "Expense") || type == "Cost of Goods Sold";
-}
+bool Is_Expense_Side(std::string_view type) { return contains(type, "Expense") || type == "Cost of Goods Sold"; }
 
 std::vector<const Category*> Top_Level_By_Name(const CategoryTree& tree) {
   std::vector<const Category*> top;
@@ -135,18 +133,12 @@ CatIDs Section_Categories(const CategoryTree& tree, std::string_view section) {
   return ids;
 }
 
-ReportTable Build_PL(Session& session, const ReportRequest& request) {
-  return Build(session, request, Load_PL);
-}
-ReportTable Build_PLYTD(Session& session, const ReportRequest& request) {
-  return Build(session, request, Load_PLYTD);
-}
+ReportTable Build_PL(Session& session, const ReportRequest& request) { return Build(session, request, Load_PL); }
+ReportTable Build_PLYTD(Session& session, const ReportRequest& request) { return Build(session, request, Load_PLYTD); }
 ReportTable Build_PLPrev(Session& session, const ReportRequest& request) {
   return Build(session, request, Load_PLPrev);
 }
-ReportTable Build_PLCus(Session& session, const ReportRequest& request) {
-  return Build(session, request, Load_PLCus);
-}
+ReportTable Build_PLCus(Session& session, const ReportRequest& request) { return Build(session, request, Load_PLCus); }
 ReportTable Build_PLClass(Session& session, const ReportRequest& request) {
   return Build(session, request, Load_PLClass);
 }

@@ -11,8 +11,8 @@
 namespace tallymere {
 
 /// The sections in their order. On the expense side a debit is positive.
-inline constexpr std::array<std::string_view, 5> PL_Sections = {
-    "Income", "Other Income", "Cost of Goods Sold", "Expense", "Other Expense"};
+inline constexpr std::array<std::string_view, 5> PL_Sections = {"Income", "Other Income", "Cost of Goods Sold",
+                                                                "Expense", "Other Expense"};
 bool Is_Expense_Side(std::string_view AccountType);
 
 /// The top-level categories, by name, as every statement walks them.

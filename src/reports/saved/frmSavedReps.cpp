@@ -30,14 +30,11 @@ frmSavedReps::frmSavedReps(Shell& shell_of_frame) : Form(shell_of_frame, "frmSav
   on(cmdAction, "cmdAction_AfterClick", [this] { show_menu(); });
   on(cmdClose, "cmdClose_AfterClick", [this] { finish(false); });
   on(grdCustomers, &SSDBGrid::DblClick, "grdCustomers_DblClick", [this] { mnuShowSaveRep_Click(); });
-  on(grdCustomers, &SSDBGrid::MenuRequested, "grdCustomers_MouseUp", [this] {
-    shell.Popup("mnuSaveReps", *grdCustomers, {}, [this](const std::string& item) { chosen(item); });
-  });
+  on(grdCustomers, &SSDBGrid::MenuRequested, "grdCustomers_MouseUp",
+     [this] { shell.Popup("mnuSaveReps", *grdCustomers, {}, [this](const std::string& item) { chosen(item); }); });
 }
 
-void frmSavedReps::load() {
-  fill();
-}
+void frmSavedReps::load() { fill(); }
 
 void frmSavedReps::on_changed(const std::string& table) {
   if (table == "SavedReports") fill();

@@ -1,14 +1,13 @@
 #include "reports/saved/saved_reports.h"
 
-#include "core/values/date_range.h"
-#include "core/store/recordset.h"
 #include "core/ledger/tree_list.h"
+#include "core/store/recordset.h"
+#include "core/values/date_range.h"
 
 namespace tallymere {
 namespace {
 
-constexpr const char* fields =
-    "SELECT RowKey, ReportName, DateRange, Parent, Fields, Class, Item FROM SavedReports";
+constexpr const char* fields = "SELECT RowKey, ReportName, DateRange, Parent, Fields, Class, Item FROM SavedReports";
 
 SavedReport Read(const store::Row& row) {
   const auto text = [&](int column) { return std::string(row.text(column)); };
@@ -16,9 +15,7 @@ SavedReport Read(const store::Row& row) {
 }
 
 /// An unset range or tag is no text at all, as it was read.
-store::Value Text_Or_Null(const std::string& text) {
-  return text.empty() ? store::Value() : store::Value(text);
-}
+store::Value Text_Or_Null(const std::string& text) { return text.empty() ? store::Value() : store::Value(text); }
 
 void Write(store::Recordset& rows, const SavedReport& report) {
   rows["ReportName"] = report.ReportName;
@@ -65,8 +62,7 @@ std::optional<Fault> Check_Saved_Report(const SavedReport& report) {
 
 void Save_Report(Session& session, SavedReport& report) {
   store::Database& db = *session.dbCompany;
-  store::Transaction tx(db,
-                        (report.key ? "Saved report changed: " : "New saved report: ") + report.ReportName);
+  store::Transaction tx(db, (report.key ? "Saved report changed: " : "New saved report: ") + report.ReportName);
   auto rows = db.OpenRecordset("SELECT * FROM SavedReports WHERE RowKey = ?", {report.key});
   const bool there = !rows.empty();  // not any more, where another user deleted it: it is added again
   there ? rows.Edit() : rows.AddNew();

@@ -78,9 +78,8 @@ void Custom_Rows::add_column(const std::string& name) {
   if (!field && !is_balance) return;
   const std::string caption(Caption_Of_Field(name));
   const bool is_category = name == "Account" || name == "Category";
-  table_.columns.push_back({.caption = caption,
-                            .kind = is_balance ? Kind::Money : Kind_Of(field->type),
-                            .right = Is_Right(caption)});
+  table_.columns.push_back(
+      {.caption = caption, .kind = is_balance ? Kind::Money : Kind_Of(field->type), .right = Is_Right(caption)});
   Shows shows = is_balance         ? Shows::Balance
                 : name == "Amount" ? Shows::Amount
                 : is_category      ? Shows::CategoryName
@@ -94,21 +93,17 @@ Money Custom_Rows::Signed_Amount(Money Amount, Money Credit) const {
   return Credit.is_zero() != credit_positive_ ? Amount : -Amount;
 }
 
-void Custom_Rows::add_head(std::string_view name) {
-  table_.add_row("Bold").skip().text(name);
-}
+void Custom_Rows::add_head(std::string_view name) { table_.add_row("Bold").skip().text(name); }
 
 std::string Custom_Rows::select(std::string_view group) const {
-  return "SELECT " + std::string(group) + ", Transactions.TransNum, Transactions.Type, Credit" + fields_ +
-         " FROM ";
+  return "SELECT " + std::string(group) + ", Transactions.TransNum, Transactions.Type, Credit" + fields_ + " FROM ";
 }
 
-void Custom_Rows::Fill_Rows(std::string_view condition, const store::Database::Params& params,
-                            std::string_view order) {
+void Custom_Rows::Fill_Rows(std::string_view condition, const store::Database::Params& params, std::string_view order) {
   store::Database::Params all = {request_.from, request_.to};
   all.insert(all.end(), params.begin(), params.end());
-  db_.each(select("0") + "Transactions WHERE Date >= ?1 AND Date <= ?2" + std::string(condition) +
-               " ORDER BY " + std::string(order) + ", Transactions.RowKey",
+  db_.each(select("0") + "Transactions WHERE Date >= ?1 AND Date <= ?2" + std::string(condition) + " ORDER BY " +
+               std::string(order) + ", Transactions.RowKey",
            all, [&](const store::Row& row) { add_row(row); });
 }
 
@@ -146,8 +141,7 @@ void Custom_Rows::add_cell(ReportTable::Line& line, const Column& column, const 
       return;
     }
     case Shows::CategoryName:
-      line.text(row.text(column.at) == break_down ? std::string(break_down)
-                                                  : tree_.name(row.text(column.at)));
+      line.text(row.text(column.at) == break_down ? std::string(break_down) : tree_.name(row.text(column.at)));
       return;
     case Shows::Field:
       line.value(Content(row, column.at, column.type));

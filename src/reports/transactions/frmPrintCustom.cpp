@@ -5,8 +5,8 @@
 
 #include "core/values/date_range.h"
 #include "core/values/text.h"
-#include "reports/saved/frmModSaveReport.h"
 #include "reports/frame/frmSelectFields.h"
+#include "reports/saved/frmModSaveReport.h"
 #include "reports/saved/saved_reports.h"
 #include "reports/transactions/transaction_reports.h"
 #include "shell/widgets/grid/SSDBGrid.h"

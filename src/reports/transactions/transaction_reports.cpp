@@ -1,8 +1,8 @@
 #include "reports/transactions/transaction_reports.h"
 
 #include "core/ledger/ledger.h"
-#include "reports/transactions/custom_rows.h"
 #include "reports/profit/ledger_sums.h"
+#include "reports/transactions/custom_rows.h"
 
 namespace tallymere {
 namespace {
@@ -26,8 +26,7 @@ ReportTable Build(Session& session, const ReportRequest& request, const std::str
 
 ReportTable Build_Groups(Session& session, const ReportRequest& request, std::string_view field,
                          const std::vector<std::string>& names) {
-  return Build(session, request, "",
-               [&](Custom_Rows& rows, ReportTable&) { rows.Fill_Groups(field, names); });
+  return Build(session, request, "", [&](Custom_Rows& rows, ReportTable&) { rows.Fill_Groups(field, names); });
 }
 
 bool Credit_Is_Positive(std::string_view AccountType) {
@@ -38,8 +37,7 @@ bool Credit_Is_Positive(std::string_view AccountType) {
 /// The category's position when the day begins, positive on its own side.
 Money Balance_Before(store::Database& db, const CatIDs& family, Date day, bool credit_positive) {
   Money credits;
-  for (const auto& [id, amount] :
-       Sum_Category(db, family, {{Date(100, 1, 1), day.plus_days(-1)}, Basis::Accrual}))
+  for (const auto& [id, amount] : Sum_Category(db, family, {{Date(100, 1, 1), day.plus_days(-1)}, Basis::Accrual}))
     credits += amount;
   return credit_positive ? credits : -credits;
 }
@@ -79,8 +77,7 @@ std::vector<std::string> Pickable_Fields(store::Database& db) {
 }
 
 ReportTable Build_Date_Report(Session& session, const ReportRequest& request) {
-  return Build(session, request, "",
-               [](Custom_Rows& rows, ReportTable&) { rows.Fill_Rows("", {}, "Date, TransNum"); });
+  return Build(session, request, "", [](Custom_Rows& rows, ReportTable&) { rows.Fill_Rows("", {}, "Date, TransNum"); });
 }
 
 ReportTable Build_Customer_Report(Session& session, const ReportRequest& request) {

@@ -51,8 +51,7 @@ std::optional<std::string> frmLogin::accepted_user(const std::string& user) cons
 
 void frmLogin::cmdLogin_AfterClick() {
   const std::string user = cmbUser->text();
-  if (user.empty())
-    return show_fault({{"Please enter a User name.", "No User", Icon::Information}, "cmbUser"});
+  if (user.empty()) return show_fault({{"Please enter a User name.", "No User", Icon::Information}, "cmbUser"});
   const auto name = accepted_user(user);
   if (!name) return show_fault({{"Invlaid Login", "Access Denied", Icon::Critical}, "txtPassord"});
   session.CurrentUser = *name;

@@ -17,8 +17,7 @@ namespace {
 
 constexpr int tick = 200;    // milliseconds
 constexpr int shown = 2001;  // counted in whole ticks: the eleventh ends it
-const QColor ground(0x0f, 0x66, 0x73), ground_end(0x0a, 0x43, 0x4d), ink(0xff, 0xff, 0xff),
-    quiet(0xbf, 0xe0, 0xe5);
+const QColor ground(0x0f, 0x66, 0x73), ground_end(0x0a, 0x43, 0x4d), ink(0xff, 0xff, 0xff), quiet(0xbf, 0xe0, 0xe5);
 
 QLabel* line(const QString& text, qreal scale, bool bold, const QColor& color) {
   auto* label = new QLabel(text);
@@ -46,8 +45,8 @@ frmSplash::frmSplash(Shell& shell_of_frame) : Form(shell_of_frame, "frmSplash", 
 
 void frmSplash::build() {
   Label1 = named("Label1", line(QStringLiteral("Quillbrook Software Inc."), 1.0, false, quiet));
-  Label2 = named("Label2", line(QStringLiteral("Ver. %1").arg(QCoreApplication::applicationVersion()), 1.0,
-                                false, quiet));
+  Label2 =
+      named("Label2", line(QStringLiteral("Ver. %1").arg(QCoreApplication::applicationVersion()), 1.0, false, quiet));
   Label3 = named("Label3", line(QStringLiteral("Tallymere"), 3.2, true, ink));
   Label4 = named("Label4", line(QStringLiteral("Tallymere"), 3.2, true, ground_end));  // its shadow
   lblLoad = named("lblLoad", line(QStringLiteral("Loading"), 1.0, false, ink));
@@ -90,12 +89,8 @@ void frmSplash::leave() {
   finish(true);
 }
 
-void frmSplash::mousePressEvent(QMouseEvent*) {
-  leave();
-}
-void frmSplash::keyPressEvent(QKeyEvent*) {
-  leave();
-}
+void frmSplash::mousePressEvent(QMouseEvent*) { leave(); }
+void frmSplash::keyPressEvent(QKeyEvent*) { leave(); }
 
 void frmSplash::paintEvent(QPaintEvent*) {
   QPainter painter(this);

@@ -69,8 +69,8 @@ void frmStart::cmdOk_AfterClick() {
     commands_.Create_Company_At_Start();
     return finish(true);
   }
-  const bool came_up = optStart->checkedId() == Open ? commands_.Open_Company_At_Start()
-                                                     : commands_.Restore_Company_At_Start();
+  const bool came_up =
+      optStart->checkedId() == Open ? commands_.Open_Company_At_Start() : commands_.Restore_Company_At_Start();
   if (came_up) finish(true);
 }
 

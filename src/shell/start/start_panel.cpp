@@ -90,8 +90,7 @@ void StartPanel::paintEvent(QPaintEvent*) {
   painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), theme::unit, theme::unit);
 }
 
-void StartPanel::show_company(const QString& name, const QString& line,
-                              const std::vector<Shortcut>& shortcuts) {
+void StartPanel::show_company(const QString& name, const QString& line, const std::vector<Shortcut>& shortcuts) {
   name_->setText(name_->fontMetrics().elidedText(name, Qt::ElideRight, 320));
   line_->setText(line);
   buttons_->setContentsMargins(0, shortcuts.empty() ? 0 : 2 * theme::gap, 0, 0);

@@ -22,9 +22,7 @@ AddressEdit::AddressEdit(QWidget* parent) : QPlainTextEdit(parent) {
   setMinimumHeight(QFontMetrics(font()).lineSpacing() * 4 + theme::unit);
 }
 
-std::string AddressEdit::text() const {
-  return replace_all(toPlainText().toStdString(), "\n", "\r\n");
-}
+std::string AddressEdit::text() const { return replace_all(toPlainText().toStdString(), "\n", "\r\n"); }
 
 void AddressEdit::set_text(const std::string& text) {
   setPlainText(QString::fromStdString(replace_all(text, "\r\n", "\n")));

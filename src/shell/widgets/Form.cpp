@@ -24,8 +24,7 @@ namespace {
 
 void select_all(QWidget* control) {
   if (auto* line = qobject_cast<QLineEdit*>(control)) line->selectAll();
-  if (auto* combo = qobject_cast<QComboBox*>(control); combo && combo->lineEdit())
-    combo->lineEdit()->selectAll();
+  if (auto* combo = qobject_cast<QComboBox*>(control); combo && combo->lineEdit()) combo->lineEdit()->selectAll();
   if (auto* spin = qobject_cast<QAbstractSpinBox*>(control)) spin->selectAll();
   if (auto* plain = qobject_cast<QPlainTextEdit*>(control)) plain->selectAll();
   if (auto* rich = qobject_cast<QTextEdit*>(control)) rich->selectAll();
@@ -45,8 +44,7 @@ QWidget* next_field(const QWidget* window, QWidget* from) {
   for (QWidget* next = from->nextInFocusChain(); next && next != from; next = next->nextInFocusChain()) {
     const bool takes_tab = (next->focusPolicy() & Qt::TabFocus) == Qt::TabFocus;
     const bool inside_field = from->isAncestorOf(next) || next->focusProxy();
-    if (takes_tab && !inside_field && next->isEnabled() && next->isVisible() && window->isAncestorOf(next))
-      return next;
+    if (takes_tab && !inside_field && next->isEnabled() && next->isVisible() && window->isAncestorOf(next)) return next;
   }
   return nullptr;
 }
@@ -66,9 +64,7 @@ Form::Form(Shell& shell_of_frame, const char* name, Place place)
 
 Form::~Form() = default;
 
-QSize Form::sizeHint() const {
-  return window_memory::size_of(objectName()).value_or(QWidget::sizeHint());
-}
+QSize Form::sizeHint() const { return window_memory::size_of(objectName()).value_or(QWidget::sizeHint()); }
 
 bool Form::guard(const char* procedure, const std::function<void()>& work) {
   try {

@@ -60,9 +60,8 @@ class Form : public QWidget {
   /// Connects a signal to a handler under guard; the procedure is named as in the log ("cmdOk_AfterClick").
   template <typename Sender, typename Signal, typename Handler>
   void on(Sender* sender, Signal signal, const char* procedure, Handler handler) {
-    connect(sender, signal, this, [this, procedure, handler](auto&&... args) {
-      guard(procedure, [&] { call(handler, args...); });
-    });
+    connect(sender, signal, this,
+            [this, procedure, handler](auto&&... args) { guard(procedure, [&] { call(handler, args...); }); });
   }
   template <typename Handler>
   void on(QAbstractButton* button, const char* procedure, Handler handler) {
@@ -111,11 +110,7 @@ class Form : public QWidget {
 };
 
 /// std::string is UTF-8 everywhere; these are the two doors to Qt.
-inline QString qt(const std::string& text) {
-  return QString::fromStdString(text);
-}
-inline std::string utf8(const QString& text) {
-  return text.toStdString();
-}
+inline QString qt(const std::string& text) { return QString::fromStdString(text); }
+inline std::string utf8(const QString& text) { return text.toStdString(); }
 
 }  // namespace tallymere

@@ -13,9 +13,7 @@ MoneyEdit::MoneyEdit(QWidget* parent) : QLineEdit(parent) {
   connect(this, &QLineEdit::textChanged, this, [this] { mark_faulty(this, false); });
 }
 
-std::optional<Money> MoneyEdit::amount() const {
-  return Money::parse(text().toStdString());
-}
+std::optional<Money> MoneyEdit::amount() const { return Money::parse(text().toStdString()); }
 
 void MoneyEdit::set_amount(const std::optional<Money>& amount) {
   setText(amount ? QString::fromStdString(Format(*amount, mask_)) : QString());

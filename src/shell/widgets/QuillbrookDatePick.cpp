@@ -46,13 +46,10 @@ QuillbrookDatePick::QuillbrookDatePick(QWidget* parent) : QLineEdit(parent) {
   open_ = addAction(calendar_icon(palette().color(QPalette::Text)), QLineEdit::TrailingPosition);
   open_->setToolTip(QStringLiteral("Calendar (Alt+Down)"));
   connect(open_, &QAction::triggered, this, &QuillbrookDatePick::show_calendar);
-  connect(this, &QLineEdit::textEdited, this,
-          [this] { mark_faulty(this, !text().trimmed().isEmpty() && !typed()); });
+  connect(this, &QLineEdit::textEdited, this, [this] { mark_faulty(this, !text().trimmed().isEmpty() && !typed()); });
 }
 
-Date QuillbrookDatePick::value() const {
-  return maybe_value().value_or(clock_of(this).today());
-}
+Date QuillbrookDatePick::value() const { return maybe_value().value_or(clock_of(this).today()); }
 
 std::optional<Date> QuillbrookDatePick::maybe_value() const {
   if (const auto day = typed()) return day;
@@ -64,9 +61,7 @@ void QuillbrookDatePick::set_value(const std::optional<Date>& day) {
   show_value();
 }
 
-void QuillbrookDatePick::allow_blank(bool allowed) {
-  blank_allowed_ = allowed;
-}
+void QuillbrookDatePick::allow_blank(bool allowed) { blank_allowed_ = allowed; }
 
 std::optional<Date> QuillbrookDatePick::typed() const {
   return Date::parse(text().toStdString(), clock_of(this).today());
@@ -141,14 +136,12 @@ void QuillbrookDatePick::showEvent(QShowEvent* event) {
 /// On paper of another colour the sign stays visible.
 void QuillbrookDatePick::changeEvent(QEvent* event) {
   QLineEdit::changeEvent(event);
-  if (open_ && event->type() == QEvent::PaletteChange)
-    open_->setIcon(calendar_icon(palette().color(QPalette::Text)));
+  if (open_ && event->type() == QEvent::PaletteChange) open_->setIcon(calendar_icon(palette().color(QPalette::Text)));
 }
 
 void QuillbrookDatePick::show_calendar() {
   if (isReadOnly()) return;
-  auto* calendar =
-      new DateCalendar(this, value(), clock_of(this).today(), [this](Date day) { move_to(day); });
+  auto* calendar = new DateCalendar(this, value(), clock_of(this).today(), [this](Date day) { move_to(day); });
   connect(calendar, &DateCalendar::closed, this, &QuillbrookDatePick::CloseUp);
   calendar->open();
 }

@@ -24,7 +24,7 @@ class QuillbrookDatePick : public QLineEdit {
   Date value() const;                              ///< today when blank
   std::optional<Date> maybe_value() const;         ///< nothing when blank
   void set_value(const std::optional<Date>& day);  ///< by code: no Change
-  void allow_blank(bool allowed);  ///< false at first: an empty field goes back to the last good date
+  void allow_blank(bool allowed);                  ///< false at first: an empty field goes back to the last good date
 
   void show_calendar();
 

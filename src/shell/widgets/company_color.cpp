@@ -13,15 +13,13 @@ namespace {
 
 /// A colour as the company keeps it: red + 256 * green + 65536 * blue.
 QColor stored_color(int64_t value) {
-  return QColor(static_cast<int>(value & 255), static_cast<int>(value >> 8 & 255),
-                static_cast<int>(value >> 16 & 255));
+  return QColor(static_cast<int>(value & 255), static_cast<int>(value >> 8 & 255), static_cast<int>(value >> 16 & 255));
 }
 
 /// A light background chosen by day is turned to its dark counterpart on a dark desktop.
 QColor suited_to_scheme(const QColor& color) {
   if (!theme::is_dark() || color.lightness() < 128) return color;
-  return QColor::fromHsl(std::max(0, color.hslHue()), color.hslSaturation() / 2,
-                         std::max(26, 255 - color.lightness()));
+  return QColor::fromHsl(std::max(0, color.hslHue()), color.hslSaturation() / 2, std::max(26, 255 - color.lightness()));
 }
 
 /// What the eye makes of a colour, 0 to 1 (relative luminance of sRGB).
@@ -34,8 +32,7 @@ double luminance(const QColor& color) {
 
 QColor between(const QColor& one, const QColor& other, double share) {
   const auto mixed = [share](int a, int b) { return static_cast<int>(a + (b - a) * share); };
-  return QColor(mixed(one.red(), other.red()), mixed(one.green(), other.green()),
-                mixed(one.blue(), other.blue()));
+  return QColor(mixed(one.red(), other.red()), mixed(one.green(), other.green()), mixed(one.blue(), other.blue()));
 }
 
 }  // namespace

@@ -13,13 +13,9 @@ namespace tallymere {
 
 namespace {
 
-QDate q_date(Date day) {
-  return {day.year(), static_cast<int>(day.month()), static_cast<int>(day.day())};
-}
+QDate q_date(Date day) { return {day.year(), static_cast<int>(day.month()), static_cast<int>(day.day())}; }
 
-Date our_date(QDate day) {
-  return {day.year(), static_cast<unsigned>(day.month()), static_cast<unsigned>(day.day())};
-}
+Date our_date(QDate day) { return {day.year(), static_cast<unsigned>(day.month()), static_cast<unsigned>(day.day())}; }
 
 QCalendarWidget* month_of(Date shown, Date today, QWidget* parent) {
   auto* month = new QCalendarWidget(parent);

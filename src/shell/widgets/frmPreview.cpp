@@ -22,9 +22,7 @@ constexpr int around = 2 * theme::unit;  ///< blank around the sheet
 
 // --- the sheet
 
-PreviewSheet::PreviewSheet(QWidget* parent) : QWidget(parent) {
-  setAccessibleName(QStringLiteral("Page"));
-}
+PreviewSheet::PreviewSheet(QWidget* parent) : QWidget(parent) { setAccessibleName(QStringLiteral("Page")); }
 
 void PreviewSheet::show_page(const Pages* pages, int page) {
   pages_ = pages;
@@ -38,8 +36,7 @@ void PreviewSheet::set_room(QSize room, bool whole_page) {
   qreal scale = (room.width() - 2 * around) / paper.width();
   if (whole_page) scale = std::min(scale, (room.height() - 2 * around) / paper.height());
   const QSize page = (paper * std::max(scale, 0.01)).toSize();
-  resize(std::max(room.width(), page.width() + 2 * around),
-         std::max(room.height(), page.height() + 2 * around));
+  resize(std::max(room.width(), page.width() + 2 * around), std::max(room.height(), page.height() + 2 * around));
   setProperty("page", page);
   update();
 }
@@ -60,8 +57,7 @@ void PreviewSheet::paintEvent(QPaintEvent*) {
 
 // --- the window
 
-frmPreview::frmPreview(Shell& shell_of_frame, const QString& title, Lay_Out lay_out_pages,
-                       const QPageLayout& page)
+frmPreview::frmPreview(Shell& shell_of_frame, const QString& title, Lay_Out lay_out_pages, const QPageLayout& page)
     : Form(shell_of_frame, "frmPreview", Place::Above), title_(title), lay_out_(std::move(lay_out_pages)) {
   setWindowTitle(title);
   sheet_ = new PreviewSheet;

@@ -63,8 +63,7 @@ class frmPreview : public Form {
   PreviewSheet* sheet_;
   QScrollArea* scroll_;
   QLabel* lblPage;
-  QPushButton *cmdPrint, *cmdPDF, *cmdFirst, *cmdPrevious, *cmdNext, *cmdLast, *cmdLandscape, *cmdWidth,
-      *cmdClose;
+  QPushButton *cmdPrint, *cmdPDF, *cmdFirst, *cmdPrevious, *cmdNext, *cmdLast, *cmdLandscape, *cmdWidth, *cmdClose;
 };
 
 }  // namespace tallymere

@@ -8,9 +8,7 @@
 #include <QSvgRenderer>
 
 // The icons are linked in from a library: without this nobody would ask for them.
-static void load_resources() {
-  Q_INIT_RESOURCE(resources);
-}
+static void load_resources() { Q_INIT_RESOURCE(resources); }
 
 namespace tallymere {
 
@@ -66,8 +64,6 @@ QIcon Line_Icon(const QString& name) {
   return QIcon(new LineIconEngine(file.readAll()));
 }
 
-QIcon Program_Icon() {
-  return QIcon(path_of(QStringLiteral("tallymere")));
-}
+QIcon Program_Icon() { return QIcon(path_of(QStringLiteral("tallymere"))); }
 
 }  // namespace tallymere

@@ -17,9 +17,7 @@ constexpr int pdf_resolution = 1200;
 
 }  // namespace
 
-QSizeF Pages::size() const {
-  return page_.fullRect(QPageLayout::Inch).size() * twips;
-}
+QSizeF Pages::size() const { return page_.fullRect(QPageLayout::Inch).size() * twips; }
 
 QPageLayout Letter_Page(QPageLayout::Orientation orientation) {
   return QPageLayout(QPageSize(QPageSize::Letter), orientation, QMarginsF());
@@ -38,8 +36,7 @@ Keep_Going Told_By(ProgressBar& bar) {
   return [&bar](int done, int total) { return bar.at(done, total); };
 }
 
-Printed Print_Pages(const Pages& pages, QPagedPaintDevice& device, int from, int to,
-                    const Keep_Going& keep_going) {
+Printed Print_Pages(const Pages& pages, QPagedPaintDevice& device, int from, int to, const Keep_Going& keep_going) {
   QPainter painter;
   if (!painter.begin(&device)) return Printed::Refused;
   for (int page = from; page <= to; ++page) {

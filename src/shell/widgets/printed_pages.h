@@ -50,8 +50,7 @@ Keep_Going Told_By(ProgressBar& bar);  ///< shows the pages on a bar that can be
 
 enum class Printed { Whole, Stopped, Refused };
 /// Paints the pages `from` to `to` (from 0, both included) on a printer or PDF.
-Printed Print_Pages(const Pages& pages, QPagedPaintDevice& device, int from, int to,
-                    const Keep_Going& keep_going = {});
+Printed Print_Pages(const Pages& pages, QPagedPaintDevice& device, int from, int to, const Keep_Going& keep_going = {});
 
 /// false: stopped, and no file was written. Throws store::Error 3026 when it cannot be.
 bool Write_Pdf(const Pages& pages, const std::filesystem::path& file, const QString& title,

@@ -17,8 +17,7 @@ std::function<void(const std::string&)>& hook() {
 const QString& player() {
   static const QString found = [] {
     for (const char* name : {"pw-play", "paplay", "aplay"})
-      if (const QString path = QStandardPaths::findExecutable(QString::fromLatin1(name)); !path.isEmpty())
-        return path;
+      if (const QString path = QStandardPaths::findExecutable(QString::fromLatin1(name)); !path.isEmpty()) return path;
     return QString();
   }();
   return found;
@@ -26,17 +25,14 @@ const QString& player() {
 
 }  // namespace
 
-void Set_Sound_Hook(std::function<void(const std::string& file)> taker) {
-  hook() = std::move(taker);
-}
+void Set_Sound_Hook(std::function<void(const std::string& file)> taker) { hook() = std::move(taker); }
 
 void Play_Sound(const std::filesystem::path& folder, const std::string& file) {
   if (hook()) return hook()(file);
   std::error_code missing;
   const std::filesystem::path wave = folder / file;
   const bool playable = !player().isEmpty() && std::filesystem::exists(wave, missing);
-  if (!playable || !QProcess::startDetached(player(), {QString::fromStdString(wave.string())}))
-    QApplication::beep();
+  if (!playable || !QProcess::startDetached(player(), {QString::fromStdString(wave.string())})) QApplication::beep();
 }
 
 }  // namespace tallymere

@@ -16,20 +16,15 @@ namespace {
 
 /// The colours of one scheme, each where the eye meets it.
 struct Colors {
-  const char *window, *text, *sheet, *stripe, *button, *quiet, *accent, *on_accent, *link, *tip, *grid,
-      *faulty, *off;
+  const char *window, *text, *sheet, *stripe, *button, *quiet, *accent, *on_accent, *link, *tip, *grid, *faulty, *off;
 };
 constexpr Colors light{"#f2f5f6", "#1b2427", "#ffffff", "#f5f9fa", "#fbfcfc", "#66757a", "#0f6673",
                        "#ffffff", "#0b5c69", "#fffdf2", "#dde4e6", "#b3261e", "#9aa6aa"};
 constexpr Colors dark{"#20272a", "#e3eaec", "#171c1e", "#1c2325", "#2c3538", "#93a3a8", "#1f7a88",
                       "#ffffff", "#6cc7d4", "#2c3538", "#2e383b", "#ff8a80", "#67757a"};
 
-const Colors& colors() {
-  return theme::is_dark() ? dark : light;
-}
-QColor color(const char* name) {
-  return QColor(QLatin1String(name));
-}
+const Colors& colors() { return theme::is_dark() ? dark : light; }
+QColor color(const char* name) { return QColor(QLatin1String(name)); }
 
 QPalette palette_of(const Colors& c) {
   QPalette palette(color(c.button), color(c.window));
@@ -47,8 +42,7 @@ QPalette palette_of(const Colors& c) {
                                                                {QPalette::ToolTipText, c.text},
                                                                {QPalette::PlaceholderText, c.quiet}};
   for (const auto& [role, name] : roles) palette.setColor(role, color(name));
-  for (const auto role :
-       {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::HighlightedText})
+  for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::HighlightedText})
     palette.setColor(QPalette::Disabled, role, color(c.off));
   palette.setColor(QPalette::Disabled, QPalette::Base, color(c.window));
   palette.setColor(QPalette::Disabled, QPalette::Highlight, color(c.grid));
@@ -68,8 +62,7 @@ bool has_tabular_figures(const QFont& font) {
   return true;
 }
 
-QHBoxLayout* buttons_in_row(std::initializer_list<QPushButton*> left,
-                            std::initializer_list<QPushButton*> right) {
+QHBoxLayout* buttons_in_row(std::initializer_list<QPushButton*> left, std::initializer_list<QPushButton*> right) {
   auto* row = row_layout();
   for (QPushButton* button : left) row->addWidget(button);
   row->addStretch(1);
@@ -87,24 +80,12 @@ QString without_mnemonic(QString text) {
 
 namespace theme {
 
-bool is_dark() {
-  return desktop_is_dark();
-}
-QColor accent() {
-  return color(colors().accent);
-}
-QColor on_accent() {
-  return color(colors().on_accent);
-}
-QColor quiet_text() {
-  return color(colors().quiet);
-}
-QColor faulty() {
-  return color(colors().faulty);
-}
-QColor grid_line() {
-  return color(colors().grid);
-}
+bool is_dark() { return desktop_is_dark(); }
+QColor accent() { return color(colors().accent); }
+QColor on_accent() { return color(colors().on_accent); }
+QColor quiet_text() { return color(colors().quiet); }
+QColor faulty() { return color(colors().faulty); }
+QColor grid_line() { return color(colors().grid); }
 
 QFont tabular(const QFont& base) {
   if (has_tabular_figures(base)) return base;
@@ -119,8 +100,7 @@ QFont tabular(const QFont& base) {
 }  // namespace theme
 
 void apply_theme(QApplication& app, theme::Scheme scheme) {
-  const bool go_dark =
-      scheme == theme::Scheme::Dark || (scheme == theme::Scheme::Desktop && desktop_is_dark());
+  const bool go_dark = scheme == theme::Scheme::Dark || (scheme == theme::Scheme::Desktop && desktop_is_dark());
   app.setStyle(new ThemeStyle);
   app.setPalette(palette_of(go_dark ? dark : light));
   QFont font = QFontDatabase::systemFont(QFontDatabase::GeneralFont);
@@ -195,8 +175,7 @@ QHBoxLayout* button_row(std::initializer_list<QPushButton*> left, std::initializ
   return buttons_in_row(left, right);
 }
 
-QHBoxLayout* plain_button_row(std::initializer_list<QPushButton*> left,
-                              std::initializer_list<QPushButton*> right) {
+QHBoxLayout* plain_button_row(std::initializer_list<QPushButton*> left, std::initializer_list<QPushButton*> right) {
   return buttons_in_row(left, right);
 }
 

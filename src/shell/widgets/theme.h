@@ -54,8 +54,7 @@ QHBoxLayout* row_layout();
 /// button.
 QHBoxLayout* button_row(std::initializer_list<QPushButton*> left, std::initializer_list<QPushButton*> right);
 /// The same with no default button (lists and reports, where Enter belongs to the grid).
-QHBoxLayout* plain_button_row(std::initializer_list<QPushButton*> left,
-                              std::initializer_list<QPushButton*> right);
+QHBoxLayout* plain_button_row(std::initializer_list<QPushButton*> left, std::initializer_list<QPushButton*> right);
 /// A dialog of plain fields: these from the top, its buttons at the lower right, the last one the default.
 void lay_out_dialog(QWidget* dialog, QFormLayout* fields, std::initializer_list<QPushButton*> buttons);
 

@@ -16,7 +16,8 @@ class VisibleEdges {
  public:
   explicit VisibleEdges(const QStyleOption* option)
       : option_(const_cast<QStyleOption*>(option)), palette_(option->palette) {
-    if (palette_.color(QPalette::Window).lightness() < 128) option_->palette.setColor(QPalette::Window, QColor(0x7d, 0x8d, 0x93));
+    if (palette_.color(QPalette::Window).lightness() < 128)
+      option_->palette.setColor(QPalette::Window, QColor(0x7d, 0x8d, 0x93));
   }
   ~VisibleEdges() { option_->palette = palette_; }
   VisibleEdges(const VisibleEdges&) = delete;
@@ -71,8 +72,8 @@ void ThemeStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
   QProxyStyle::drawPrimitive(element, option, painter, widget);
 }
 
-void ThemeStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
-                                    QPainter* painter, const QWidget* widget) const {
+void ThemeStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+                                    const QWidget* widget) const {
   if (control != CC_ComboBox && control != CC_SpinBox)
     return QProxyStyle::drawComplexControl(control, option, painter, widget);
   const VisibleEdges edges(option);

@@ -8,15 +8,11 @@ namespace {
 
 bool enabled = false;
 
-QString key(const QString& window) {
-  return QStringLiteral("windows/%1/size").arg(window);
-}
+QString key(const QString& window) { return QStringLiteral("windows/%1/size").arg(window); }
 
 }  // namespace
 
-void set_enabled(bool on) {
-  enabled = on;
-}
+void set_enabled(bool on) { enabled = on; }
 
 std::optional<QSize> size_of(const QString& window) {
   if (!enabled) return std::nullopt;

@@ -3,9 +3,9 @@
 #include <fstream>
 
 #include "core/backup/clsHuffman.h"
+#include "core/backup/whole_file.h"
 #include "core/company/company.h"
 #include "core/company/folder.h"
-#include "core/backup/whole_file.h"
 #include "support/silent_prompts.h"
 #include "support/temp_folder.h"
 
@@ -120,8 +120,8 @@ TEST_F(BackupTest, AnUnsoundBackupLeavesTheCompanyOpenAsItWas) {
   std::ofstream(folder / "cut.cbk", std::ios::binary) << file.substr(0, file.size() - 3000);
   std::ofstream(folder / "page.cbk", std::ios::binary) << file.replace(4 + 2 * 4096, 4096, 4096, '\0');
 
-  for (const char* name : {"cut.cbk", "page.cbk", "checksum.cbk", "words.cbk", "empty.cbk", "model.cbk",
-                           "log.cbk", "missing.cbk"}) {
+  for (const char* name :
+       {"cut.cbk", "page.cbk", "checksum.cbk", "words.cbk", "empty.cbk", "model.cbk", "log.cbk", "missing.cbk"}) {
     EXPECT_THROW(Restore_Company(session, folder / name, folder / "Acme.cmf"), std::exception) << name;
     expect_still_open("Acme was here");
   }

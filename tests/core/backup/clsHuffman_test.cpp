@@ -18,9 +18,7 @@ namespace {
 namespace fs = std::filesystem;
 using Bytes = std::vector<std::uint8_t>;
 
-Bytes From_Text(std::string_view text) {
-  return {text.begin(), text.end()};
-}
+Bytes From_Text(std::string_view text) { return {text.begin(), text.end()}; }
 
 Bytes From_Hex(const std::string& hex) {
   Bytes bytes;
@@ -75,8 +73,7 @@ Bytes Even_Bytes(std::size_t times) {
 
 Bytes Random_Bytes(std::mt19937& random, std::size_t length, std::size_t values) {
   Bytes bytes(length);
-  for (auto& byte : bytes)
-    byte = static_cast<std::uint8_t>((random() % values) * (random() % values) / values);
+  for (auto& byte : bytes) byte = static_cast<std::uint8_t>((random() % values) * (random() % values) / values);
   return bytes;
 }
 
@@ -87,10 +84,8 @@ TEST(clsHuffman, BackupsOfEarlierVersionsStayReadableByteForByte) {
       {From_Text("ab"), "4845330d03020000000200610162010202"},
       {From_Text("aabbc"), "4845330d630500000003006101620263020e7c"},
       {From_Text("abracadabra"), "4845330d660b000000050061016203630364037203ba071a730d"},
-      {From_Text("mississippi river"),
-       "4845330d371100000008002004650469026d047003720373027604b33de1019fa6910dba05"},
-      {From_Hex("6161626161626161626300ff6300ff"),
-       "4845330d620f00000005000003610162036303ff03d30794d22f5f00"},
+      {From_Text("mississippi river"), "4845330d371100000008002004650469026d047003720373027604b33de1019fa6910dba05"},
+      {From_Hex("6161626161626161626300ff6300ff"), "4845330d620f00000005000003610162036303ff03d30794d22f5f00"},
       {Fibonacci_Bytes(11),
        "4845330d0ce80000000b00610a620a63096408650766066705680469036a026b01fffdffefeff7bd5b00"
        "fffdffefdfdfdfdfeff7fbfdbeeffbbeeffbde7befbdf7de7befddddddddddddddddddddddb66ddbb66ddbb66ddbb66d"
@@ -173,10 +168,9 @@ TEST(clsHuffman, ReadsForeignTables) {
 TEST(clsHuffman, OtherIdentifications) {
   auto coded = Encoded(From_Text("abracadabra"));
   coded[2] = '4';
-  EXPECT_EQ(
-      Decode_Message(coded),
-      "HuffmanDecode(): The data either was not compressed with HE3 or is corrupt (identification string not "
-      "found)");
+  EXPECT_EQ(Decode_Message(coded),
+            "HuffmanDecode(): The data either was not compressed with HE3 or is corrupt (identification string not "
+            "found)");
   for (const std::size_t at : {0U, 1U, 3U}) {  // then nobody looks at the third byte
     auto unknown = coded;
     unknown[at] = 'x';
@@ -232,8 +226,7 @@ TEST(clsHuffman, NoDamageDoesMoreThanFail) {
     auto bytes = Encoded(Random_Bytes(random, 2 + random() % 600, 2 + random() % 255));
     if (round % 3 != 0) bytes.resize(random() % (bytes.size() + 1));
     for (auto flips = random() % 4; flips > 0 && !bytes.empty(); --flips) {
-      const auto area =
-          random() % 2 ? bytes.size() : std::min<std::size_t>(bytes.size(), 40);  // mostly header
+      const auto area = random() % 2 ? bytes.size() : std::min<std::size_t>(bytes.size(), 40);  // mostly header
       bytes[random() % area] ^= static_cast<std::uint8_t>(1U << random() % 8);
     }
     const auto room = bytes.size() * 8;
@@ -255,8 +248,7 @@ class clsHuffmanFiles : public ::testing::Test {
   ~clsHuffmanFiles() override { fs::remove_all(folder); }
 
   void Write(const fs::path& path, const Bytes& bytes) {
-    std::ofstream(path, std::ios::binary)
-        .write(reinterpret_cast<const char*>(bytes.data()), std::ssize(bytes));
+    std::ofstream(path, std::ios::binary).write(reinterpret_cast<const char*>(bytes.data()), std::ssize(bytes));
   }
   Bytes Read(const fs::path& path) {
     std::ifstream file(path, std::ios::binary);
@@ -272,8 +264,7 @@ class clsHuffmanFiles : public ::testing::Test {
 };
 
 TEST_F(clsHuffmanFiles, OlderAndLongerFilesAreReplacedWhole) {
-  const auto data =
-      From_Text("To restore is to replace, not to write over the beginning of what stood there.");
+  const auto data = From_Text("To restore is to replace, not to write over the beginning of what stood there.");
   Write(plain, data);
   Write(packed, Bytes(5000, 'x'));
   Write(out, Bytes(5000, 'x'));
@@ -302,10 +293,8 @@ TEST_F(clsHuffmanFiles, AFailureLeavesTheDestination) {
   EXPECT_NE(decode().find("checksum did not match"), std::string::npos);
 
   Write(plain, {});
-  EXPECT_EQ(encode(folder / "nowhere" / "a.cbk"),
-            "clsHuffman.EncodeFile(): Destination file could not be written");
-  fs::resize_file(plain,
-                  std::uintmax_t{1} << 31);  // one byte more than the length field can say; takes no room
+  EXPECT_EQ(encode(folder / "nowhere" / "a.cbk"), "clsHuffman.EncodeFile(): Destination file could not be written");
+  fs::resize_file(plain, std::uintmax_t{1} << 31);  // one byte more than the length field can say; takes no room
   EXPECT_EQ(encode(out), "clsHuffman.EncodeFile(): The data is too long for HE3 (2147483647 bytes at most)");
   EXPECT_EQ(Read(out), From_Text("the company"));
   EXPECT_EQ(Files(), 3U);

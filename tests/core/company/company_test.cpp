@@ -43,8 +43,7 @@ TEST(Company, EveryFieldCanBeNamedInAQueryAsItStands) {
       auto rows = company.db().OpenRecordset("SELECT " + name + " FROM " + from + " WHERE " + name +
                                              " IS NOT NULL AND " + name + " <> '' ORDER BY " + name);
       EXPECT_TRUE(rows.has_field(name)) << from;
-      company.run("UPDATE " + from + " SET " + name + " = " + name + " WHERE " + from + "." + name + " = ?",
-                  {""});
+      company.run("UPDATE " + from + " SET " + name + " = " + name + " WHERE " + from + "." + name + " = ?", {""});
     }
   }
 }
@@ -91,8 +90,7 @@ TEST(Company, AnOlderFileIsBroughtUpToDateOnOpening) {
   EXPECT_EQ(acme.db().QueryDefs().size(), 1u);
   EXPECT_EQ(acme.db().value("SELECT Amount FROM Transactions WHERE TransNum = 7").money(), Money::dollars(7));
   EXPECT_EQ(acme.db().value("SELECT COUNT(*) FROM pragma_index_info('Transactions_Account')").integer(), 7);
-  EXPECT_EQ(acme.db().value("SELECT At FROM History ORDER BY RowKey DESC").text().substr(0, 10),
-            "2026-06-15");
+  EXPECT_EQ(acme.db().value("SELECT At FROM History ORDER BY RowKey DESC").text().substr(0, 10), "2026-06-15");
 }
 
 TEST(Company, StepsOfAnUpgradeRunOnceInOrderAndAllOrNothing) {

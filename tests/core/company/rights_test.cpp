@@ -26,8 +26,7 @@ TEST(Rights, OnlyTheExactNameAdminAdministers) {
   const Names refused = Refused(true, "admin", all);
   EXPECT_EQ(refused, Refused(true, "Karen", all));
   EXPECT_EQ(refused.size(), 21u);
-  for (const char* name :
-       {"mnuUsers", "mnuSwitchMode", "mnuRestore", "mnuCompany", "mnuImport", "lin", "mnuPL"})
+  for (const char* name : {"mnuUsers", "mnuSwitchMode", "mnuRestore", "mnuCompany", "mnuImport", "lin", "mnuPL"})
     EXPECT_TRUE(refused.contains(name)) << name;
   EXPECT_FALSE(refused.contains("mnuChecks"));
 }
@@ -38,24 +37,23 @@ TEST(Rights, EachFlagCarriesItsOwnGroupAlsoForAdmin) {
     Names refused;
   } cases[] = {
       {{.AR = false},
-       {"mnuInvoices", "mnuPO", "mnuPS", "mnuCreateEstimate", "mnuAR", "mnuCustomers", "mnuCusMes",
-        "btnInvoices", "btnCustomers"}},
+       {"mnuInvoices", "mnuPO", "mnuPS", "mnuCreateEstimate", "mnuAR", "mnuCustomers", "mnuCusMes", "btnInvoices",
+        "btnCustomers"}},
       {{.AP = false}, {"mnuBill", "mnuAP", "mnuVendors", "btnBills", "btnVendors"}},
       {{.BankCC = false},
-       {"mnuChecks", "mnuPayBill", "mnuPayments", "mnuDepositFunds", "mnuPrint", "L99", "mnuAccounts",
-        "btnChecks", "btnPayments", "btnAccounts"}},
+       {"mnuChecks", "mnuPayBill", "mnuPayments", "mnuDepositFunds", "mnuPrint", "L99", "mnuAccounts", "btnChecks",
+        "btnPayments", "btnAccounts"}},
       {{.Inventory = false},
        {"mnuInventory", "mnuItems", "mnuReportsInventory", "mnuPaySalesTax", "mnuSalesReport", "btnItems"}},
-      {{.Payroll = false},
-       {"mnuPayroll", "mnuRPayroll", "mnuPayItems", "mnuEmployee", "btnTime", "btnPayRoll"}},
+      {{.Payroll = false}, {"mnuPayroll", "mnuRPayroll", "mnuPayItems", "mnuEmployee", "btnTime", "btnPayRoll"}},
   };
   for (const auto& test : cases) EXPECT_EQ(Refused(true, "Admin", test.flags), test.refused);
 }
 
 TEST(Rights, CategoriesStayVisibleButCannotBeOpenedWithoutBanking) {
   for (const CommandRight& right : Apply_User_Rights(true, "Karen", none)) {
-    const bool greyed = right.name == "mnuAccounts" || right.name == "mnuSwitchMode" ||
-                        right.name == "mnuRestore" || right.name == "mnuCompany";
+    const bool greyed = right.name == "mnuAccounts" || right.name == "mnuSwitchMode" || right.name == "mnuRestore" ||
+                        right.name == "mnuCompany";
     EXPECT_EQ(right.property == CommandRight::Property::Enabled, greyed) << right.name;
   }
 }

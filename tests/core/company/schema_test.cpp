@@ -134,8 +134,8 @@ std::set<std::string> values(const std::vector<Row>& rows, const std::string& fi
 }
 
 const std::regex& form_of(FieldType type) {
-  static const std::regex any("[^]*"), whole("-?\\d{1,9}"), money("-?\\d{1,9}\\.\\d\\d"),
-      number("-?\\d+(\\.\\d+)?"), date("(1[0-2]|[1-9])/(3[01]|[12]\\d|[1-9])/\\d{4}"), flag("Yes|No");
+  static const std::regex any("[^]*"), whole("-?\\d{1,9}"), money("-?\\d{1,9}\\.\\d\\d"), number("-?\\d+(\\.\\d+)?"),
+      date("(1[0-2]|[1-9])/(3[01]|[12]\\d|[1-9])/\\d{4}"), flag("Yes|No");
   switch (type) {
     case FieldType::Text:
     case FieldType::Memo:
@@ -202,8 +202,7 @@ TEST(ShippedRows, LinksOfTheModelResolve) {
 TEST(ShippedRows, FixedCategoriesStand) {
   std::map<std::string, std::pair<std::string, std::string>> found;
   for (const Row& row : model("Accounts")) {
-    if (!row.at("CatID").ends_with("SS"))
-      found[row.at("CatID")] = {row.at("AccountName"), row.at("AccountType")};
+    if (!row.at("CatID").ends_with("SS")) found[row.at("CatID")] = {row.at("AccountName"), row.at("AccountType")};
   }
   const decltype(found) expected = {{"AR1", {"Accounts Receivable", "Accounts Receivable"}},
                                     {"AP1", {"Accounts Payable", "Accounts Payable"}},
@@ -245,11 +244,9 @@ TEST(ShippedRows, EveryPreferenceAndColourStands) {
       {"Feed", {"Single Sheet", "Continuous Sheets"}},
       {"Style", {"Original", "Custom"}},
       {"SalesBase", {"Cash", "Accural"}}};
-  for (const auto& [key, states] : allowed)
-    EXPECT_TRUE(states.contains(prefs[key])) << key << ": " << prefs[key];
+  for (const auto& [key, states] : allowed) EXPECT_TRUE(states.contains(prefs[key])) << key << ": " << prefs[key];
   for (const char* key : {"FinanceAPR", "LogoPath", "ItemSort"}) EXPECT_TRUE(prefs.contains(key)) << key;
-  EXPECT_EQ(values(model("Colors"), "Items"),
-            (std::set<std::string>{"MainBack", "RegBack", "CheckBack", "BillBack"}));
+  EXPECT_EQ(values(model("Colors"), "Items"), (std::set<std::string>{"MainBack", "RegBack", "CheckBack", "BillBack"}));
   for (const std::string& colour : column(model("Colors"), "Color")) EXPECT_LE(std::stol(colour), 0xFFFFFF);
 }
 
@@ -270,15 +267,13 @@ TEST(ShippedRows, FederalItemsCanBeCalculatedAndPosted) {
   for (const Row& row : rows) {
     const std::string& name = row.at("Name");
     ASSERT_TRUE(expected.contains(name)) << name;
-    EXPECT_EQ((std::array{row.at("TaxPaid"), row.at("DefaultRate"), row.at("DefaultLimit"),
-                          row.at("UnempTaxRate")}),
+    EXPECT_EQ((std::array{row.at("TaxPaid"), row.at("DefaultRate"), row.at("DefaultLimit"), row.at("UnempTaxRate")}),
               expected.at(name))
         << name;
     EXPECT_EQ(row.at("Type"), "Federal Tax") << name;
     EXPECT_EQ(type_of[row.at("LiabilityAcct")], "Current Liability") << name;
     // only what the employer pays is an expense; a withheld tax is part of the wage already
-    EXPECT_EQ(type_of[row.at("ExpenseAcct")], row.at("TaxPaid") == "Employer Paid Tax" ? "Expense" : "")
-        << name;
+    EXPECT_EQ(type_of[row.at("ExpenseAcct")], row.at("TaxPaid") == "Employer Paid Tax" ? "Expense" : "") << name;
   }
   EXPECT_EQ(values(rows, "Name"), values(model("PreTaxSet"), "PreTax"));
 }
@@ -296,9 +291,7 @@ std::map<std::string, std::vector<Row>> by_status(const std::string& table, cons
   return groups;
 }
 
-double number(const Row& row, const std::string& field) {
-  return std::stod(row.at(field));
-}
+double number(const Row& row, const std::string& field) { return std::stod(row.at(field)); }
 
 // Each bracket ends where the next begins, with the tax that the one below has reached by then.
 void expect_joined(const std::string& table, const std::vector<Row>& rows, double slack) {
@@ -317,8 +310,8 @@ void expect_joined(const std::string& table, const std::vector<Row>& rows, doubl
 }
 
 TEST(TaxTables, BracketsAscendAndJoin) {
-  for (const char* table : {"FedDaily", "FedWeekly", "FedBiWeekly", "FedSemiMonthly", "FedMonthly",
-                            "FedQuarterly", "FedSemiAnnual", "FedAnnual"}) {
+  for (const char* table : {"FedDaily", "FedWeekly", "FedBiWeekly", "FedSemiMonthly", "FedMonthly", "FedQuarterly",
+                            "FedSemiAnnual", "FedAnnual"}) {
     for (const auto& [status, rows] : by_status(table, "FedStatus")) expect_joined(table, rows, 0.0101);
   }
   for (const char* table : {"MNWithhold", "WIWithhold", "MOWithhold"}) {
@@ -337,8 +330,7 @@ TEST(TaxTables, NoStatusOrWageWalksOffATable) {
     EXPECT_EQ(values(shared(table), "Status"), statuses) << table;
     for (const auto& [status, rows] : by_status(table, "Status")) {
       const bool has_top = rows.back().contains("AmountUnder");
-      EXPECT_EQ(number(rows.back(), has_top ? "AmountUnder" : "AmountOver"), 999999999)
-          << table << ", " << status;
+      EXPECT_EQ(number(rows.back(), has_top ? "AmountUnder" : "AmountOver"), 999999999) << table << ", " << status;
     }
   }
   EXPECT_EQ(values(shared("FedAnnual"), "FedStatus"), three);
@@ -347,12 +339,12 @@ TEST(TaxTables, NoStatusOrWageWalksOffATable) {
 
 TEST(TaxTables, EveryVendorBoxHasAThreshold) {
   const auto boxes = values(shared("Threshold"), "Box");
-  for (const char* box : {"Rents", "Royalties", "Other Income", "Federal Income Tax withheld",
-                          "Fishing Boat proceeds", "Medical health care Payments", "Nonemployee compensation",
-                          "Substitute payments in lieu of dividens or interest", "Crop insurance proceeds",
-                          "Excess golden parachute payments", "Gross proceeds paid to an attorney",
-                          "Intrest Income", "Early withdrawl penalty", "Intrest on U.S. Savings Bonds",
-                          "Investments expenses", "Foreign tax paid"}) {
+  for (const char* box :
+       {"Rents", "Royalties", "Other Income", "Federal Income Tax withheld", "Fishing Boat proceeds",
+        "Medical health care Payments", "Nonemployee compensation",
+        "Substitute payments in lieu of dividens or interest", "Crop insurance proceeds",
+        "Excess golden parachute payments", "Gross proceeds paid to an attorney", "Intrest Income",
+        "Early withdrawl penalty", "Intrest on U.S. Savings Bonds", "Investments expenses", "Foreign tax paid"}) {
     EXPECT_TRUE(boxes.contains(box)) << box;
   }
 }
@@ -362,8 +354,7 @@ TEST(TaxTables, EveryPayPeriodHasAColumnAndAnAllowance) {
     EXPECT_TRUE(has_field("INWithHoldA", period) && has_field("INWithHoldB", period)) << period;
   }
   EXPECT_EQ(shared("FedWithholdAllowance").size(), 8u);
-  for (const std::string& rate : column(shared("FedUnRates"), "Rate"))
-    EXPECT_LT(std::stod(rate), 0.1) << rate;
+  for (const std::string& rate : column(shared("FedUnRates"), "Rate")) EXPECT_LT(std::stod(rate), 0.1) << rate;
 }
 
 }  // namespace

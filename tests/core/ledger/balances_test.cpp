@@ -18,9 +18,7 @@ void Post(TestCompany& company, const std::string& account, const Value& date, c
               {Next_TransNum(company.db()), account, date, debit, credit});
 }
 
-Money D(int64_t dollars) {
-  return Money::dollars(dollars);
-}
+Money D(int64_t dollars) { return Money::dollars(dollars); }
 
 /// "Balance/LastYearEndBal" of a category, "null" where unset.
 std::string Figures(TestCompany& company, const std::string& id) {
@@ -157,16 +155,14 @@ class RowByRow {
     Money balance = recalc_all_ ? Money() : carried.money();
     std::string condition = "(Account = '" + id + "'" + (which == Categories::All ? below(id) : "") + ")";
     if (!recalc_all_) condition += " AND Date >= #1/1/2026#";
-    auto rows =
-        db_.OpenRecordset("SELECT * FROM Transactions WHERE " + condition + " ORDER BY Date,TransNum");
+    auto rows = db_.OpenRecordset("SELECT * FROM Transactions WHERE " + condition + " ORDER BY Date,TransNum");
     bool marker = recalc_all_;
     if (rows.Eof() && marker) carried = balance;
     if (!rows.Eof() && this_year(rows)) carried = balance, marker = false;
     while (!rows.Eof()) {
       if (recalc_all_ || this_year(rows)) balance += effect(rows);
       rows.MoveNext();
-      if (which == Categories::Bank && recalc_all_ && !rows.Eof() && before_this_year(rows))
-        carried = balance;
+      if (which == Categories::Bank && recalc_all_ && !rows.Eof() && before_this_year(rows)) carried = balance;
       if (!rows.Eof() && marker && this_year(rows)) carried = balance, marker = false;
       if (rows.Eof() && marker) carried = balance;
     }
@@ -217,12 +213,10 @@ class RandomLedger {
       ids.push_back("c" + std::to_string(at));
       std::string parent = at > 0 && chance(60) ? ids[pick(ids.size() - 1)] : "";
       company.add_category(ids.back(), types[pick(5)], parent, chance(15));
-      if (chance(50))
-        company.run("UPDATE Accounts SET LastYearEndBal = ? WHERE CatID = ?", {amount(), ids.back()});
+      if (chance(50)) company.run("UPDATE Accounts SET LastYearEndBal = ? WHERE CatID = ?", {amount(), ids.back()});
     }
     // Few rows, so that accounts without rows before, in or after this year all come up.
-    for (size_t rows = pick(40); rows > 0; --rows)
-      Post(company, ids[pick(ids.size())], day(), amount(), amount());
+    for (size_t rows = pick(40); rows > 0; --rows) Post(company, ids[pick(ids.size())], day(), amount(), amount());
     all_at_once.commit();
   }
 
@@ -233,8 +227,7 @@ class RandomLedger {
   size_t pick(size_t count) { return std::uniform_int_distribution<size_t>(0, count - 1)(random_); }
   bool chance(size_t percent) { return pick(100) < percent; }
   Value amount() {
-    return chance(40) ? chance(50) ? Value() : Value(Money())
-                      : Value(Money::from_units(int64_t(pick(9'000'000))));
+    return chance(40) ? chance(50) ? Value() : Value(Money()) : Value(Money::from_units(int64_t(pick(9'000'000))));
   }
   Value day() {
     if (chance(5)) return {};
@@ -279,9 +272,8 @@ TEST(UpdateAccounts, AgreesWithTheWalkRowByRow) {
 
 void Sell(TestCompany& company, const std::string& name, const std::string& type, const Value& debit,
           const Value& credit, const std::string& account = "AR1") {
-  company.run(
-      "INSERT INTO Transactions (TransNum, Type, Name, Account, Debit, Credit) VALUES (1, ?, ?, ?, ?, ?)",
-      {type, name, account, debit, credit});
+  company.run("INSERT INTO Transactions (TransNum, Type, Name, Account, Debit, Credit) VALUES (1, ?, ?, ?, ?, ?)",
+              {type, name, account, debit, credit});
 }
 
 std::string Balance_Of(TestCompany& company, const std::string& table, const std::string& name) {
@@ -302,8 +294,7 @@ TEST(UpdateCustomers, OweTheirInvoicesLessTheirPayments) {
   Sell(company, "Paid up", "Payment", {}, D(10));
   Sell(company, "Gone", "Invoice", D(10), {});
   Update_Customers(*company.session);
-  EXPECT_EQ(Balance_Of(company, "Customers", "O'Brien"), "75")
-      << "a row with a debit does not count its credit";
+  EXPECT_EQ(Balance_Of(company, "Customers", "O'Brien"), "75") << "a row with a debit does not count its credit";
   EXPECT_EQ(Balance_Of(company, "Customers", "Paid up"), "0");
   EXPECT_EQ(Balance_Of(company, "Customers", "Idle"), "0");
   EXPECT_EQ(Balance_Of(company, "Customers", "Gone"), "55");

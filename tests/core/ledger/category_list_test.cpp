@@ -15,12 +15,10 @@ class CategoryListTest : public ::testing::Test {
     db->Execute("DELETE FROM Accounts");
     clear.commit();
   }
-  void category(const char* id, const char* name, const char* type, const char* parent = "",
-                bool dormant = false) {
+  void category(const char* id, const char* name, const char* type, const char* parent = "", bool dormant = false) {
     store::Transaction add(*db, "category");
-    db->Execute(
-        "INSERT INTO Accounts (CatID, AccountName, AccountType, ParentAccount, Dormant) VALUES (?,?,?,?,?)",
-        {id, name, type, parent, dormant});
+    db->Execute("INSERT INTO Accounts (CatID, AccountName, AccountType, ParentAccount, Dormant) VALUES (?,?,?,?,?)",
+                {id, name, type, parent, dormant});
     add.commit();
   }
   void item(const char* name, const char* type, const char* parent, bool dormant = false) {
@@ -79,8 +77,7 @@ TEST_F(CategoryListTest, TheDropDownOrdersTopRowsByTheTextOfTheirType) {
   category("3SS", "Odd", "A type of its own");
   category("4SS", "Visa", "Credit Card");
   category("5SS", "Fuel", "Expense", "4SS");
-  EXPECT_EQ(shown(Make_Expense_List(*db), &CategoryRow::AccountName),
-            "Odd\nChecking\nVisa\n     Fuel\nRent\n");
+  EXPECT_EQ(shown(Make_Expense_List(*db), &CategoryRow::AccountName), "Odd\nChecking\nVisa\n     Fuel\nRent\n");
 }
 
 TEST_F(CategoryListTest, ItemsByNameOrByTypeWithTheirSubItems) {

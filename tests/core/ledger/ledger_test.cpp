@@ -83,8 +83,7 @@ TEST(Ledger, TypesHaveASide) {
 }
 
 TEST(Ledger, CountsLinesWhateverEndsThem) {
-  const std::pair<const char*, int> cases[] = {
-      {"", 1}, {"a", 1}, {"a\r\nb\r\n", 3}, {"a\rb\nc", 3}, {"\n\n", 3}};
+  const std::pair<const char*, int> cases[] = {{"", 1}, {"a", 1}, {"a\r\nb\r\n", 3}, {"a\rb\nc", 3}, {"\n\n", 3}};
   for (const auto& [text, lines] : cases) EXPECT_EQ(Count_Text_Lines(text), lines) << text;
 }
 

@@ -53,7 +53,9 @@ TEST_F(Processes, AKilledWriterLeavesNoHalfDocumentAndLosesNoneItToldOf) {
   }
   auto& db = opened();
   for (const Finding& finding : Verify_Company(db)) ADD_FAILURE() << finding.check << ": " << finding.what;
-  EXPECT_EQ(db.value("SELECT COUNT(*) FROM (SELECT 1 FROM Transactions GROUP BY TransNum HAVING COUNT(*) <> 3)").integer(), 0);
+  EXPECT_EQ(
+      db.value("SELECT COUNT(*) FROM (SELECT 1 FROM Transactions GROUP BY TransNum HAVING COUNT(*) <> 3)").integer(),
+      0);
   for (int64_t number : safe)
     EXPECT_EQ(db.value("SELECT COUNT(*) FROM Transactions WHERE TransNum = ?", {number}).integer(), 3) << number;
   EXPECT_GE(safe.size(), 25u);

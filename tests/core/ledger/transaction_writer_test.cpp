@@ -12,16 +12,11 @@ using testing::TestCompany;
 const Date today(2026, 6, 15);
 
 /// A check over one expense, as its window would write it.
-int64_t Write_Check(Session& session, int64_t number, int dollars, const Probe& probe = {},
-                    bool cleared = false) {
-  Transaction_Writer rows(session,
-                          {.TransNum = number,
-                           .Type = "Check",
-                           .Date = today,
-                           .Number = "1042",
-                           .Name = "Acme Supply",
-                           .Cleared = cleared},
-                          probe);
+int64_t Write_Check(Session& session, int64_t number, int dollars, const Probe& probe = {}, bool cleared = false) {
+  Transaction_Writer rows(
+      session,
+      {.TransNum = number, .Type = "Check", .Date = today, .Number = "1042", .Name = "Acme Supply", .Cleared = cleared},
+      probe);
   Money total = Money::dollars(dollars);
   rows.add({.Account = "0SS", .Category = "9SS", .Credit = total, .Amount = total, .Memo = "Paper"});
   rows.add({.Account = "9SS", .Category = "0SS", .Debit = total, .Amount = total, .Class = "Office"});
@@ -32,8 +27,8 @@ int64_t Write_Check(Session& session, int64_t number, int dollars, const Probe& 
 /// "account debit credit cleared;" for each row of a transaction, in writing order.
 std::string Ledger_Of(store::Database& db, int64_t number) {
   std::string text;
-  db.each("SELECT Account, Debit, Credit, Cleared FROM Transactions WHERE TransNum = ? ORDER BY RowKey",
-          {number}, [&](const store::Row& row) {
+  db.each("SELECT Account, Debit, Credit, Cleared FROM Transactions WHERE TransNum = ? ORDER BY RowKey", {number},
+          [&](const store::Row& row) {
             text += std::string(row.text(0)) + " " + row.money(1).to_text() + " " + row.money(2).to_text() +
                     (row.flag(3) ? " cleared;" : ";");
           });
@@ -63,9 +58,8 @@ TEST(TransactionWriter, RepeatsTheHeadAndFillsOneSide) {
 
 TEST(TransactionWriter, EveryFieldOfALedgerRowReachesItsColumn) {
   TestCompany company;
-  Transaction_Writer rows(
-      *company.session,
-      {.TransNum = 3, .Type = "a", .Date = today, .Number = "b", .Name = "c", .Address = "d"});
+  Transaction_Writer rows(*company.session,
+                          {.TransNum = 3, .Type = "a", .Date = today, .Number = "b", .Name = "c", .Address = "d"});
   rows.add({.Account = "e",
             .Category = "f",
             .Debit = Money::dollars(1),
@@ -102,14 +96,13 @@ TEST(TransactionWriter, EveryFieldOfALedgerRowReachesItsColumn) {
   auto row = company.db().OpenRecordset("SELECT * FROM Transactions WHERE TransNum = 3");
   std::string all;
   for (const auto& field : row.Fields()) all += field.name + "=" + row[field.name].text() + " ";
-  EXPECT_EQ(
-      all,
-      "TransNum=3 Type=a Date=6/15/2026 Number=b Name=m Address=d ShippingAddress=n Memo=g Account=e "
-      "Category=f "
-      "Debit=1 Credit=2 Amount=3 Class=i Cleared=True Paid=True PaidBy=l AmountReceived=6 SourceName=h "
-      "Item=j "
-      "ItemDescription=k Qty=4.5 SalePrice=5 Taxable=True Terms=o DueDate=1/2/2026 PONum=p ShipDate=1/3/2026 "
-      "FOB=q Via=r Rep=s PayMethod=t PaidThrough=1/4/2026 SSNum=u PayrollItem=v PayPeriod=w Hours=7.5 ");
+  EXPECT_EQ(all,
+            "TransNum=3 Type=a Date=6/15/2026 Number=b Name=m Address=d ShippingAddress=n Memo=g Account=e "
+            "Category=f "
+            "Debit=1 Credit=2 Amount=3 Class=i Cleared=True Paid=True PaidBy=l AmountReceived=6 SourceName=h "
+            "Item=j "
+            "ItemDescription=k Qty=4.5 SalePrice=5 Taxable=True Terms=o DueDate=1/2/2026 PONum=p ShipDate=1/3/2026 "
+            "FOB=q Via=r Rep=s PayMethod=t PaidThrough=1/4/2026 SSNum=u PayrollItem=v PayPeriod=w Hours=7.5 ");
 }
 
 TEST(TransactionWriter, ReplacesAllRowsAndKeepsThemCleared) {
@@ -180,14 +173,13 @@ TEST(TransactionWriter, TheRowOfASetIsAProbeToo) {
   auto shown = company.db().OpenRecordset("SELECT * FROM Transactions WHERE TransNum = 1 ORDER BY RowKey");
   Probe probe(shown);
   EXPECT_EQ(Write_Check(*company.session, 1, 26, probe), 1);
-  EXPECT_TRUE(Save_Or_Conflict([&] { Write_Check(*company.session, 1, 27, probe); }))
-      << "those rows are gone";
+  EXPECT_TRUE(Save_Or_Conflict([&] { Write_Check(*company.session, 1, 27, probe); })) << "those rows are gone";
   EXPECT_EQ(Ledger_Of(company.db(), 1), "0SS 0 26;9SS 26 0;");
 }
 
 TEST(TransactionWriter, ALockedFileSaysTryAgainLater) {
-  auto conflict = Save_Or_Conflict(
-      [] { throw store::Error(store::errors::locked, "Could not update; currently locked."); });
+  auto conflict =
+      Save_Or_Conflict([] { throw store::Error(store::errors::locked, "Could not update; currently locked."); });
   ASSERT_TRUE(conflict);
   EXPECT_FALSE(conflict->reload);
   EXPECT_EQ(conflict->box.text, "Could not update; currently locked. Try Again later.");
@@ -212,8 +204,7 @@ TEST(TransactionWriter, AFailureInTheMiddleLeavesTheOldRows) {
                                  Probe::Of(company.db(), 1));
   }
   EXPECT_EQ(Ledger_Of(company.db(), 1), "0SS 0 25;9SS 25 0;") << "without commit nothing has happened";
-  EXPECT_THROW(Save_Or_Conflict([&] { company.db().OpenRecordset("SELECT * FROM NoSuchTable"); }),
-               store::Error)
+  EXPECT_THROW(Save_Or_Conflict([&] { company.db().OpenRecordset("SELECT * FROM NoSuchTable"); }), store::Error)
       << "other faults are not conflicts";
 }
 
@@ -223,8 +214,7 @@ TEST(TransactionWriter, RewritesAFewFieldsOfAllRows) {
   Write_Check(*company.session, 2, 40);
   EXPECT_EQ(Rewrite_Fields(*company.session, 1, {{"Number", "77"}, {"Date", "6/14/2026"}}), 2);
   EXPECT_EQ(company.db()
-                .OpenRecordset(
-                    "SELECT * FROM Transactions WHERE TransNum = 1 AND Number = '77' AND Date = #6/14/2026#")
+                .OpenRecordset("SELECT * FROM Transactions WHERE TransNum = 1 AND Number = '77' AND Date = #6/14/2026#")
                 .RecordCount(),
             2);
   EXPECT_EQ(company.db().OpenRecordset("SELECT * FROM Transactions WHERE Number = '1042'").RecordCount(), 2);

@@ -2,8 +2,8 @@
 
 #include "core/ledger/balances.h"
 #include "core/ledger/ledger.h"
-#include "core/store/history.h"
 #include "core/ledger/transaction_writer.h"
+#include "core/store/history.h"
 #include "support/test_company.h"
 
 namespace tallymere {
@@ -45,9 +45,7 @@ class Undo : public ::testing::Test {
       return refused.what();
     }
   }
-  int64_t count(const std::string& what) {
-    return company.db().value("SELECT COUNT(*) FROM " + what).integer();
-  }
+  int64_t count(const std::string& what) { return company.db().value("SELECT COUNT(*) FROM " + what).integer(); }
 
   TestCompany company;
   int64_t number = 0;
@@ -95,8 +93,7 @@ TEST_F(Undo, BringsNothingBackWhereAnotherStandsOrItsCategoryIsGone) {
   post("rent");
   int64_t removed = remove(number);
   int64_t next = post("bank");
-  ASSERT_EQ(company.db().value("SELECT MAX(TransNum) FROM Transactions").integer(), 1)
-      << "the number is free again";
+  ASSERT_EQ(company.db().value("SELECT MAX(TransNum) FROM Transactions").integer(), 1) << "the number is free again";
   EXPECT_NE(undo(removed).find("is another one by now"), std::string::npos) << "two documents never merge";
   EXPECT_EQ(count("Transactions"), 2);
   EXPECT_EQ(undo(next), "");
@@ -114,8 +111,7 @@ TEST_F(Undo, OfAnEditPutsTheEarlierRowsBack) {
   post("rent");
   const Probe probe = Probe::Of(company.db(), number);
   {
-    Transaction_Writer rows(*company.session, {.TransNum = number, .Type = "Check", .Date = Date(2026, 3, 2)},
-                            probe);
+    Transaction_Writer rows(*company.session, {.TransNum = number, .Type = "Check", .Date = Date(2026, 3, 2)}, probe);
     rows.add({.Account = "food", .Debit = Money::dollars(9)});
     rows.commit();
   }

@@ -15,7 +15,8 @@ class HistoryOf : public ::testing::Test {
     db->set_author({[] { return "Ann"; }, [] { return "2026-01-02 10:11:12"; }});
     db->set_caches([](auto&, auto& field) { return field == "Balance"; });
     Transaction make(*db, "make");
-    db->CreateTableDef(TableDef{"Accounts", {}, {}}.CreateField("Name", FieldType::Text).CreateField("Balance", FieldType::Money));
+    db->CreateTableDef(
+        TableDef{"Accounts", {}, {}}.CreateField("Name", FieldType::Text).CreateField("Balance", FieldType::Money));
     make.commit();
   }
   int64_t act(const std::string& what, const std::string& sql) {
@@ -37,7 +38,8 @@ class HistoryOf : public ::testing::Test {
   }
   std::string names() {
     std::string list;
-    db->each("SELECT Name FROM Accounts ORDER BY RowKey", {}, [&](const Row& row) { list += row.text(0), list += ' '; });
+    db->each("SELECT Name FROM Accounts ORDER BY RowKey", {},
+             [&](const Row& row) { list += row.text(0), list += ' '; });
     return list;
   }
   tallymere::testing::TempFolder folder;
@@ -120,7 +122,8 @@ TEST_F(HistoryOf, LongTextsAndEveryKindOfValueComeBackWhole) {
   auto fill = [&](const std::string& notes, double rate) {
     Transaction tx(*db, "fill");
     db->Execute("DELETE FROM Accounts");
-    db->Execute("INSERT INTO Accounts (Name, Balance, Notes, Rate, Since) VALUES ('', -1, ?, ?, ?)", {notes, rate, Date(1999, 12, 31)});
+    db->Execute("INSERT INTO Accounts (Name, Balance, Notes, Rate, Since) VALUES ('', -1, ?, ?, ?)",
+                {notes, rate, Date(1999, 12, 31)});
     tx.commit();
   };
   fill(story, 2.0);

@@ -68,7 +68,8 @@ TEST_F(Store, FieldsComeBackAsTheyWereTyped) {
   EXPECT_TRUE((*bills)["Paid"].flag());
   EXPECT_EQ((*bills)["Qty"].number(), 0.1);
   EXPECT_EQ(bills->Fields().size(), 5u) << "the hidden key is not a field";
-  EXPECT_EQ(db->value("SELECT Paid FROM Bills WHERE Due = #2/29/2024# AND Name LIKE 'ünï*' OR Paid = False").text(), "");
+  EXPECT_EQ(db->value("SELECT Paid FROM Bills WHERE Due = #2/29/2024# AND Name LIKE 'ünï*' OR Paid = False").text(),
+            "");
   EXPECT_EQ(db->value("SELECT Amount FROM Bills WHERE Paid = True").money(), Money::from_units(12345678));
   EXPECT_EQ(Number_Of([&] { (*bills)["Nmae"]; }), errors::no_such_field);
   bills->Edit();
@@ -142,7 +143,8 @@ TEST_F(Store, ALockThatStaysIs3218AndNothingIsWritten) {
 
 TEST_F(Store, ADynasetKeepsItsOrderFindsAndPassesOverTheDeleted) {
   for (int i = 1; i <= 5; ++i) add("Bill " + std::to_string(i), Money::dollars(i));
-  auto set = db->OpenRecordset("SELECT Name, Amount FROM Bills WHERE Amount > ? ORDER BY Amount DESC", {Money::dollars(1)});
+  auto set =
+      db->OpenRecordset("SELECT Name, Amount FROM Bills WHERE Amount > ? ORDER BY Amount DESC", {Money::dollars(1)});
   EXPECT_EQ(set.RecordCount(), 4);
   EXPECT_TRUE(set.FindFirst("Name = ?", {"bill 3"}));
   EXPECT_EQ(set["Amount"].money(), Money::dollars(3));
@@ -221,8 +223,7 @@ TEST_F(Store, WhatWasUndoneCanBeSavedAgain) {
   other->Execute("UPDATE Bills SET Amount = ?", {Money::dollars(8)});
   theirs.commit();
   Transaction late(*db, "late");
-  EXPECT_EQ(Number_Of([&] { write(Money::dollars(9)); }), errors::data_changed)
-      << "another user's work still counts";
+  EXPECT_EQ(Number_Of([&] { write(Money::dollars(9)); }), errors::data_changed) << "another user's work still counts";
 }
 
 TEST_F(Store, NothingIsWrittenOnceTheEngineUndidTheWholeByItself) {
@@ -303,8 +304,10 @@ TEST_F(Store, WrongFilesGetAClearErrorAndStayUntouched) {
   std::ofstream(folder / "empty.cmf");
   EXPECT_EQ(open("text.cmf", FileKind::Company, ""), errors::not_a_database);
   EXPECT_EQ(open("empty.cmf", FileKind::Company, ""), errors::not_a_database);
-  EXPECT_EQ(Number_Of([&] { Database::CreateDatabase(folder / "text.cmf", FileKind::Company); }), errors::database_exists);
-  EXPECT_EQ(Number_Of([&] { Database::CreateDatabase(folder / "no/such/a.cmf", FileKind::Company); }), errors::bad_path);
+  EXPECT_EQ(Number_Of([&] { Database::CreateDatabase(folder / "text.cmf", FileKind::Company); }),
+            errors::database_exists);
+  EXPECT_EQ(Number_Of([&] { Database::CreateDatabase(folder / "no/such/a.cmf", FileKind::Company); }),
+            errors::bad_path);
 }
 
 TEST_F(Store, DefinitionsReadBackAsTheyWereMade) {

@@ -45,15 +45,13 @@ constexpr Sample samples[] = {
     {"1000000", "One million  and 00/100"},
     {"1000100", "One million One hundred  and 00/100"},
     {"11016018", "Eleven million Sixteen thousand Eighteen and 00/100"},
-    {"21474836.47",
-     "Twenty-One million Four hundred Seventy-Four thousand Eight hundred Thirty-Six and 47/100"},
+    {"21474836.47", "Twenty-One million Four hundred Seventy-Four thousand Eight hundred Thirty-Six and 47/100"},
 };
 
 TEST(AmountInWords, FollowsTheDigitsOnTheCheckAndOnItsWindow) {
   const NumberWords words = English();
   for (const Sample& sample : samples) {
-    EXPECT_EQ(Without_Filler(Amount_In_Words(words, *Money::parse(sample.typed))), sample.words)
-        << sample.typed;
+    EXPECT_EQ(Without_Filler(Amount_In_Words(words, *Money::parse(sample.typed))), sample.words) << sample.typed;
     EXPECT_EQ(Without_Filler(Check_Amount_In_Words(words, sample.typed).words), sample.words) << sample.typed;
   }
 }
@@ -72,8 +70,7 @@ TEST(AmountInWords, PrintsWhatHasNoWordsInFigures) {
   EXPECT_EQ(Without_Filler(Amount_In_Words(words, Money::dollars(999'999'999, 99))),
             "Nine hundred Ninety-Nine million Nine hundred Ninety-Nine thousand Nine hundred Ninety-Nine and "
             "99/100");
-  EXPECT_EQ(Without_Filler(Amount_In_Words(words, Money::dollars(1'000'000'000, 7))),
-            "1,000,000,000 and 07/100");
+  EXPECT_EQ(Without_Filler(Amount_In_Words(words, Money::dollars(1'000'000'000, 7))), "1,000,000,000 and 07/100");
 }
 
 TEST(AmountInWords, TidiesWhatWasTyped) {
@@ -102,13 +99,9 @@ TEST(AmountInWords, RefusesWhatTheWindowCannotHold) {
   const NumberWords words = English();
   const Box decimals{"Max number of decimal places is 2", "To many Decimals", Icon::Information};
   const Box large{"Number is to large to compute", "Number to large", Icon::Critical};
-  const std::pair<const char*, Box> cases[] = {{"1.005", decimals},
-                                               {"99999999999.125", decimals},
-                                               {"21474836.48", large},
-                                               {"21,474,837", large},
-                                               {"twelve", large},
-                                               {"1.2.3", decimals},
-                                               {"99999999999999999999", large}};
+  const std::pair<const char*, Box> cases[] = {
+      {"1.005", decimals}, {"99999999999.125", decimals}, {"21474836.48", large},         {"21,474,837", large},
+      {"twelve", large},   {"1.2.3", decimals},           {"99999999999999999999", large}};
   for (const auto& [typed, box] : cases) {
     auto amount = Check_Amount_In_Words(words, typed);
     ASSERT_TRUE(amount.fault) << typed;

@@ -8,18 +8,12 @@
 namespace tallymere {
 namespace {
 
-const std::vector<std::string> names = {
-    "Auto Expense", "     Fuel", "     fuel, Diesel", "Office Supplies", "Off-site", "Café Rent", ""};
+const std::vector<std::string> names = {"Auto Expense", "     Fuel", "     fuel, Diesel", "Office Supplies", "Off-site",
+                                        "Café Rent",    ""};
 
-std::string_view at(int row) {
-  return names[static_cast<size_t>(row)];
-}
-Completion complete(std::string_view typed) {
-  return Complete(typed, static_cast<int>(names.size()), at);
-}
-int find(std::string_view text) {
-  return Find_Whole(text, static_cast<int>(names.size()), at);
-}
+std::string_view at(int row) { return names[static_cast<size_t>(row)]; }
+Completion complete(std::string_view typed) { return Complete(typed, static_cast<int>(names.size()), at); }
+int find(std::string_view text) { return Find_Whole(text, static_cast<int>(names.size()), at); }
 
 TEST(Completion, TakesTheFirstNameInListOrderWhateverItsCaseOrIndentation) {
   struct Case {
@@ -28,10 +22,9 @@ TEST(Completion, TakesTheFirstNameInListOrderWhateverItsCaseOrIndentation) {
     const char* text;
     const char* proposed;
   };
-  for (const Case& c :
-       {Case{"off", 3, "Office Supplies", "ice Supplies"}, Case{"OFF-", 4, "Off-site", "site"},
-        Case{"fuel", 1, "Fuel", ""}, Case{"Fuel,", 2, "fuel, Diesel", " Diesel"},
-        Case{"  fu", 1, "Fuel", "el"}, Case{"Café", 5, "Café Rent", " Rent"}}) {
+  for (const Case& c : {Case{"off", 3, "Office Supplies", "ice Supplies"}, Case{"OFF-", 4, "Off-site", "site"},
+                        Case{"fuel", 1, "Fuel", ""}, Case{"Fuel,", 2, "fuel, Diesel", " Diesel"},
+                        Case{"  fu", 1, "Fuel", "el"}, Case{"Café", 5, "Café Rent", " Rent"}}) {
     const Completion found = complete(c.typed);
     EXPECT_EQ(found.row, c.row) << c.typed;
     EXPECT_EQ(found.text, c.text);

@@ -12,9 +12,7 @@
 namespace tallymere {
 namespace {
 
-std::string text_of(const std::optional<Date>& date) {
-  return date ? date->to_iso() : "none";
-}
+std::string text_of(const std::optional<Date>& date) { return date ? date->to_iso() : "none"; }
 
 TEST(Date, ReadsTypedDates) {
   const Date today(2024, 5, 6);
@@ -42,8 +40,7 @@ TEST(Date, RefusesWhatIsNoDate) {
 }
 
 TEST(Date, IsoTextIsExact) {
-  for (const char* iso : {"0100-01-01", "2024-02-29", "9999-12-31"})
-    EXPECT_EQ(text_of(Date::from_iso(iso)), iso);
+  for (const char* iso : {"0100-01-01", "2024-02-29", "9999-12-31"}) EXPECT_EQ(text_of(Date::from_iso(iso)), iso);
   for (const char* text :
        {"", "2024-2-29", "2023-02-29", "2024/02/29", "2024-02-29 ", "24-02-29", "0099-01-01", "+024-02-29"})
     EXPECT_FALSE(Date::from_iso(text)) << text;

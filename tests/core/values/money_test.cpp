@@ -118,9 +118,8 @@ TEST(Money, NeverWrapsAround) {
 
 TEST(Money, ConvertsDoublesHalfToEven) {
   const std::vector<std::pair<double, std::int64_t>> cases = {
-      {0.1, 1000},  {-0.1, -1000},  {0.00005, 0},      {0.00015, 2},
-      {0.00025, 2}, {-0.00015, -2}, {0.000050001, 1},  {1.00005, 10000},
-      {1e-300, 0},  {5e-324, 0},    {0.1 + 0.2, 3000}, {1e14, 1000000000000000000},
+      {0.1, 1000},      {-0.1, -1000},    {0.00005, 0}, {0.00015, 2}, {0.00025, 2},      {-0.00015, -2},
+      {0.000050001, 1}, {1.00005, 10000}, {1e-300, 0},  {5e-324, 0},  {0.1 + 0.2, 3000}, {1e14, 1000000000000000000},
       {-0.0, 0}};
   for (const auto& [value, units] : cases) EXPECT_EQ(Money::from_double(value).units(), units) << value;
   EXPECT_EQ(Money::dollars(-1234, 56).to_double(), -1234.56);
@@ -163,8 +162,7 @@ TEST(Money, SharesExactlyUntilTheLastStep) {
                          {5, 1, -2, -2},
                          {most.units(), most.units(), most.units(), most.units()},
                          {least.units(), least.units(), least.units(), least.units()}})
-    EXPECT_EQ(Money::from_units(amount).share(Money::from_units(part), Money::from_units(whole)).units(),
-              share)
+    EXPECT_EQ(Money::from_units(amount).share(Money::from_units(part), Money::from_units(whole)).units(), share)
         << amount << " * " << part << " / " << whole;
   EXPECT_THROW(Money::dollars(1).share(Money::dollars(1), Money()), std::domain_error);
 }

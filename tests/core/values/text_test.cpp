@@ -49,8 +49,8 @@ TEST(Text, ReplacesEachOnce) {
 TEST(Text, KnowsNumbers) {
   for (const char* text : {"0", " 12 ", "-1.5", "+.5", "5.", "$1,234.50", "-$3", "$-3", "1,23,4"})
     EXPECT_TRUE(is_numeric(text)) << text;
-  for (const char* text : {"", " ", ".", "$", "-", "--1", "$$1", "1-", "1$", "1.2.3", "1.2,3", ",1", "1 2",
-                           "12 monkeys", "8/32", ".-5"})
+  for (const char* text :
+       {"", " ", ".", "$", "-", "--1", "$$1", "1-", "1$", "1.2.3", "1.2,3", ",1", "1 2", "12 monkeys", "8/32", ".-5"})
     EXPECT_FALSE(is_numeric(text)) << text;
 }
 

@@ -11,8 +11,8 @@ namespace {
 TEST(Tsv, CellsComeBackAsTheyWereMeant) {
   const Tsv table = Parse_Tsv("Name\tNotes\r\nA\\tB\tone\\ntwo\\\\n\r\n\t\nlast\tno line feed", "Class.tsv");
   EXPECT_EQ(table.fields, (std::vector<std::string>{"Name", "Notes"}));
-  EXPECT_EQ(table.rows, (std::vector<std::vector<std::string>>{
-                            {"A\tB", "one\ntwo\\n"}, {"", ""}, {"last", "no line feed"}}));
+  EXPECT_EQ(table.rows,
+            (std::vector<std::vector<std::string>>{{"A\tB", "one\ntwo\\n"}, {"", ""}, {"last", "no line feed"}}));
   EXPECT_EQ(Parse_Tsv("Name\n\n", "Class.tsv").rows, (std::vector<std::vector<std::string>>{{""}}));
   EXPECT_TRUE(Parse_Tsv("Name", "Class.tsv").rows.empty());
 }

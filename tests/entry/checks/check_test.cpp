@@ -92,8 +92,8 @@ TEST(Checks, TheFirstMistakeInOrderStopsTheSave) {
          check.expenses.back().CatID = "0SS";
        }},
       {"Transaction does not Balance", "No Balance", [](Check& check) { check.expenses.clear(); }},
-      {"Cannot Assign Category to Transaction that is also the Category that you are editing.",
-       "Invalid Category", [](Check& check) { check.expenses.back().CatID = check.BankID; }},
+      {"Cannot Assign Category to Transaction that is also the Category that you are editing.", "Invalid Category",
+       [](Check& check) { check.expenses.back().CatID = check.BankID; }},
       {"Please enter a Item for this Expense", "No Category",
        [](Check& check) {
          check.Tab = CheckTab::Items;
@@ -145,8 +145,7 @@ TEST(Checks, SeveralExpensesBreakDownInGridOrder) {
                     {.Category = "b", .Amount = -Dollars(5), .CatID = "40SS"},
                     {}};
   const int64_t number = Saved(*company.session, check);
-  EXPECT_EQ(Rows_Of(company.db(), number, sides),
-            "0SS|<-Break Down->|0|25|25\n46SS|0SS|30|0|30\n40SS|0SS|-5|0|-5\n");
+  EXPECT_EQ(Rows_Of(company.db(), number, sides), "0SS|<-Break Down->|0|25|25\n46SS|0SS|30|0|30\n40SS|0SS|-5|0|-5\n");
 }
 
 TEST(Checks, ItemLinesPostToTheirItemsCategory) {
@@ -273,8 +272,7 @@ TEST(Checks, ChecksOfOtherWindowsGetOnlyTheirFewFields) {
   };
   for (const Case& kind : cases) {
     EntryCompany company;
-    const int64_t number =
-        company.write(kind.type, Date(2025, 1, 5), "0SS", "AP1", Dollars(10), "Payee", "Print");
+    const int64_t number = company.write(kind.type, Date(2025, 1, 5), "0SS", "AP1", Dollars(10), "Payee", "Print");
     company.session->RecalcAll = false;
     Check check = *Load_Check(*company.session, number);
     check.Number = "77";
@@ -303,10 +301,8 @@ TEST(Checks, EachKindShowsWhatItPaid) {
 
   Transaction_Writer pay(session, {.Type = "Paycheck", .Date = day, .Name = "Ann"});
   pay.add({.Account = "0SS", .Credit = Dollars(70), .Amount = Dollars(70)});
-  pay.add(
-      {.Account = "40SS", .Debit = Dollars(50), .PayrollItem = "Salary", .PayPeriod = "Weekly", .Hours = 40});
-  pay.add(
-      {.Account = "40SS", .Debit = Dollars(20), .PayrollItem = "Bonus", .PayPeriod = "Weekly", .Hours = 2.5});
+  pay.add({.Account = "40SS", .Debit = Dollars(50), .PayrollItem = "Salary", .PayPeriod = "Weekly", .Hours = 40});
+  pay.add({.Account = "40SS", .Debit = Dollars(20), .PayrollItem = "Bonus", .PayPeriod = "Weekly", .Hours = 2.5});
   pay.commit();
   const Check paycheck = *Load_Check(session, pay.number());
   EXPECT_EQ(paycheck.PayPeriod, "Weekly");
@@ -351,8 +347,7 @@ TEST(Checks, WhatWasSavedIsWhatLoads) {
 
   check.expenses.clear();
   check.Tab = CheckTab::Items;
-  check.items = {
-      {.Item = "Bolt", .Quantity = 2, .Cost = Dollars(12, 50), .Amount = Dollars(25), .CatID = "3SS"}};
+  check.items = {{.Item = "Bolt", .Quantity = 2, .Cost = Dollars(12, 50), .Amount = Dollars(25), .CatID = "3SS"}};
   check.TransNum = 0;
   const Check items = *Load_Check(*company.session, Saved(*company.session, check));
   EXPECT_EQ(items.Tab, CheckTab::Items);
@@ -380,10 +375,10 @@ TEST(Checks, TheWalkGoesByDateWithinItsBandOfNumbers) {
     const char* type;
     Date date;
   };
-  for (const Row& row : {Row{2, "Check", Date(2026, 3, 1)}, Row{3, "Paycheck", Date(2026, 1, 1)},
-                         Row{4, "Invoice", Date(2026, 2, 1)}, Row{5, "Billcheck", Date(2026, 3, 1)},
-                         Row{6, "Liabilitycheck", Date(2026, 2, 1)}, Row{1001, "Check", Date(2026, 1, 15)},
-                         Row{1005, "Check", Date(2026, 4, 1)}})
+  for (const Row& row :
+       {Row{2, "Check", Date(2026, 3, 1)}, Row{3, "Paycheck", Date(2026, 1, 1)}, Row{4, "Invoice", Date(2026, 2, 1)},
+        Row{5, "Billcheck", Date(2026, 3, 1)}, Row{6, "Liabilitycheck", Date(2026, 2, 1)},
+        Row{1001, "Check", Date(2026, 1, 15)}, Row{1005, "Check", Date(2026, 4, 1)}})
     company.write(row.type, row.date, "0SS", "40SS", Dollars(1), "", "", row.number);
 
   EXPECT_EQ(Walk_All(session, 3, true), "1001 6 2 5 +");  // 1005 is a thousand from 5

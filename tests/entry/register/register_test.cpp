@@ -2,8 +2,8 @@
 
 #include <functional>
 
-#include "support/entry_company.h"
 #include "entry/register/register_entry.h"
+#include "support/entry_company.h"
 
 namespace tallymere {
 namespace {
@@ -415,9 +415,7 @@ TEST(Registers, GoToLeadsToTheWindowOfTheType) {
       {"Liabilitycheck", "frmCheck"}, {"Inv Adjust", ""},
   };
   for (const auto& [type, window] : types)
-    EXPECT_EQ(
-        Go_To(*company.session, company.write(type, Date(2026, 1, 1), "0SS", "40SS", Dollars(1))).window,
-        window);
+    EXPECT_EQ(Go_To(*company.session, company.write(type, Date(2026, 1, 1), "0SS", "40SS", Dollars(1))).window, window);
 }
 
 TEST(Registers, DeletingAsksFirstAndSparesPayments) {

@@ -2,9 +2,9 @@
 #include <fstream>
 #include <sstream>
 
-#include "support/report_books.h"
 #include "reports/frame/report_file.h"
 #include "support/child_process.h"
+#include "support/report_books.h"
 
 namespace tallymere {
 namespace {
@@ -61,8 +61,7 @@ TEST(Paint, LongWideAndEmptyTablesFindTheirPages) {
   const int upright = painter.pages_of(Table(400, 1, "short"));
   EXPECT_GT(upright, 7);
   EXPECT_LT(upright, 12);
-  EXPECT_GT(painter.pages_of(Table(400, 3, "a memo of many words that wraps to several lines on any page")),
-            upright);
+  EXPECT_GT(painter.pages_of(Table(400, 3, "a memo of many words that wraps to several lines on any page")), upright);
   EXPECT_GT(painter.pages_of(Table(3, 30, "nothing shrinks so far")), 2);
   EXPECT_EQ(painter.pages_of(Table(1, 1, std::string(20000, 'x'))), 1);  // taller than a page, but it ends
 }

@@ -4,9 +4,9 @@
 #include <sstream>
 
 #include "core/store/error.h"
-#include "support/report_books.h"
 #include "reports/frame/report_file.h"
 #include "support/child_process.h"
+#include "support/report_books.h"
 
 namespace tallymere {
 namespace {
@@ -70,8 +70,8 @@ TEST(Renderers, CsvQuotesAndKeepsPlainValues) {
 
 TEST(Renderers, TheClipboardTakesAllOrTheChosenRows) {
   EXPECT_EQ(Tab_Separated(Motley(), {1, 2}), "a\\tb<&>\t3/5/2026\t2.5\t-1.2345\r\n\t\t4\t1000\r\n");
-  EXPECT_TRUE(Tab_Separated(Motley()).starts_with(
-      "Name\tDate\tJan 2026 Qty\tJan 2026 Amount\r\nMüller, \"Bob\"  Line 2\t"));
+  EXPECT_TRUE(
+      Tab_Separated(Motley()).starts_with("Name\tDate\tJan 2026 Qty\tJan 2026 Amount\r\nMüller, \"Bob\"  Line 2\t"));
 }
 
 TEST(ReportFile, IsReadBackAsItWas) {
@@ -93,8 +93,7 @@ TEST(ReportFile, WhatIsCutShortOrForeignIsRefused) {
        {std::string(), written.substr(0, written.size() - 4), "tallymere-report 2\nend\n" + written,
         std::string("tallymere-report 1\nrow\t\t\tseven\nend\n"),
         std::string("tallymere-report 1\nrow\t\t\t7\tq1\nend\n"),
-        std::string("tallymere-report 1\ncolumn\tmoney\t1\nend\n"),
-        std::string("tallymere-report 1\nrow\t\\\nend\n"),
+        std::string("tallymere-report 1\ncolumn\tmoney\t1\nend\n"), std::string("tallymere-report 1\nrow\t\\\nend\n"),
         std::string("tallymere-report 1\nrow\t\t\t7\ty2026-02-30\nend\n")}) {
     std::istringstream in(bad);
     EXPECT_THROW(Read_Report_File(in), store::Error) << bad;
@@ -112,8 +111,8 @@ TEST(Xlsx, HasRealNumbersAndDates) {
   const auto file = folder.path() / "report.xlsx";
   Write_Xlsx(Motley(), file);
   const std::string sheet = Unzipped(file, "xl/worksheets/sheet1.xml");
-  for (auto expected : {"<v>-1.2345</v>", "<v>46086</v>", "<v>2.5</v>", "a\\tb&lt;&amp;&gt;",
-                        "Müller, \"Bob\"", "A \"Report\"", ">Jan 2026<", "t=\"b\""})
+  for (auto expected : {"<v>-1.2345</v>", "<v>46086</v>", "<v>2.5</v>", "a\\tb&lt;&amp;&gt;", "Müller, \"Bob\"",
+                        "A \"Report\"", ">Jan 2026<", "t=\"b\""})
     EXPECT_NE(sheet.find(expected), std::string::npos) << expected << " in " << sheet;
   const std::string styles = Unzipped(file, "xl/styles.xml");
   for (auto expected : {"formatCode=\"$0.00\"", "m/d/yyyy", "<u/>"})
@@ -194,8 +193,7 @@ TEST(ReportCommand, PrintsWhatTheBuilderBuilds) {
   books.post({1, "Deposit", Date(2025, 5, 1), "Sales", {}, D(12)});
   auto run = [&](std::vector<std::string> words) {
     words.insert(words.begin(), {CLI_PROGRAM, "report"});
-    for (auto word :
-         {"--company", books.session->CompanyPath.c_str(), "--folder", books.folder.path().c_str()})
+    for (auto word : {"--company", books.session->CompanyPath.c_str(), "--folder", books.folder.path().c_str()})
       words.push_back(word);
     ChildProcess child(words);
     std::string said = child.rest();
@@ -203,17 +201,16 @@ TEST(ReportCommand, PrintsWhatTheBuilderBuilds) {
   };
   EXPECT_TRUE(run({"pl", "--range", "Last Year", "--today", "6/15/2026", "--format", "csv"})
                   .starts_with("0:,Amount\r\nIncome,\r\n     Sales,12\r\nTotal Income,12\r\n"));
-  EXPECT_NE(run({"AcctRep", "--category", "sales", "--from", "1/1/2025", "--title", "Ours"})
-                .find("0:Ours\nAcme\n1/1/2025"),
-            std::string::npos);
+  EXPECT_NE(
+      run({"AcctRep", "--category", "sales", "--from", "1/1/2025", "--title", "Ours"}).find("0:Ours\nAcme\n1/1/2025"),
+      std::string::npos);
   EXPECT_EQ(run({"AcctRep", "--category", "none"}), "2:");
   EXPECT_EQ(run({"PL", "--range", "Someday"}), "2:");
   EXPECT_EQ(run({"PL", "--name", "Zoe"}), "2:");  // no option of this report
   EXPECT_EQ(run({"PL", "--format", "xlsx"}), "2:");
   const auto out = books.folder.path() / "out.xlsx";
-  EXPECT_EQ(
-      run({"PL", "--range", "Last Year", "--today", "6/15/2026", "--format", "xlsx", "--out", out.string()}),
-      "0:");
+  EXPECT_EQ(run({"PL", "--range", "Last Year", "--today", "6/15/2026", "--format", "xlsx", "--out", out.string()}),
+            "0:");
   EXPECT_NE(Unzipped(out, "xl/worksheets/sheet1.xml").find("<v>12</v>"), std::string::npos);
 }
 

@@ -1,7 +1,7 @@
 #include "reports/frame/widest_texts.h"
 
-#include "support/report_books.h"
 #include "reports/frame/graph_spans.h"
+#include "support/report_books.h"
 
 namespace tallymere {
 namespace {
@@ -59,8 +59,8 @@ TEST(WidestTexts, PickingColumnsKeepsRowsKeysAndGroups) {
   table.set_cell_style(2, 3, "Underline");
   table.go_to = ReportTable::GoTo::Category;
   const ReportTable picked = Pick_Columns(table, {false, true, false, true});
-  EXPECT_EQ(testing::Lines(picked), (std::vector<std::string>{"A very long section head that stands alone",
-                                                              "Ann|0", "Total|-98765"}));
+  EXPECT_EQ(testing::Lines(picked),
+            (std::vector<std::string>{"A very long section head that stands alone", "Ann|0", "Total|-98765"}));
   EXPECT_EQ(picked.key(0).number, 9);
   EXPECT_EQ(picked.style(2, 2), "Underline");
   EXPECT_EQ(picked.go_to, ReportTable::GoTo::Category);
@@ -76,8 +76,7 @@ TEST(GraphSpans, MonthsGoTogetherByTheCalendar) {
   const auto shown = [&](int months) {
     std::string text;
     for (const Graph_Span& span : Graph_Spans(graph, months))
-      text += span.label + "/" + std::to_string(span.year) + "=" +
-              Graph_Text(span.income, Graph_Scale::Full) + " ";
+      text += span.label + "/" + std::to_string(span.year) + "=" + Graph_Text(span.income, Graph_Scale::Full) + " ";
     return text;
   };
   EXPECT_TRUE(shown(1).starts_with("Nov/2024=10 Dec/2024=10 Jan/2025=10 "));
@@ -99,8 +98,7 @@ TEST(GraphSpans, AxisStepsAndAmountsReadEasily) {
 }
 
 TEST(GraphSpans, SmallExpensesGoTogetherWithoutLoss) {
-  const std::vector<PL_Graph::Slice> slices = {
-      {"Rent", D(50)}, {"Fuel", D(20)}, {"Post", D(5)}, {"Other", D(3)}};
+  const std::vector<PL_Graph::Slice> slices = {{"Rent", D(50)}, {"Fuel", D(20)}, {"Post", D(5)}, {"Other", D(3)}};
   const auto kept = Largest_Slices(slices, 2);
   ASSERT_EQ(kept.size(), 2u);
   EXPECT_EQ(kept[1].AccountName, "Other");

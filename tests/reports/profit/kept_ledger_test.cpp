@@ -17,11 +17,7 @@ class KeptLedgerTest : public ::testing::Test {
     read();
   }
   void sell(int64_t number, Money amount) {
-    books.post({.TransNum = number,
-                .Type = "Deposit",
-                .day = Date(2026, 3, 1),
-                .Account = "Sales",
-                .Credit = amount});
+    books.post({.TransNum = number, .Type = "Deposit", .day = Date(2026, 3, 1), .Account = "Sales", .Credit = amount});
   }
   void read() {
     while (KeptLedger::Read_Ahead(books.db())) {

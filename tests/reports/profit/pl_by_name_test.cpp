@@ -33,11 +33,9 @@ TEST(ProfitAndLossByName, CountsResultRowsOfThePeriodWithTheDebitAskedFirst) {
   books.post({5, "Check", june, "Rent", D(1000), {}, "Zoe"});
   EXPECT_EQ(Lines(books.report("PLCusSum", may, may_end)), (Strings{"Abel|70", "Idle|0", "Zoe|-5"}));
   EXPECT_EQ(Lines(books.report("PLVenSum", may, may_end)), (Strings{"Zoe|5"}));
-  EXPECT_EQ(Lines(books.report("PLCusSum", may, may_end, Basis::Cash)),
-            (Strings{"Abel|0", "Idle|0", "Zoe|-5"}));
+  EXPECT_EQ(Lines(books.report("PLCusSum", may, may_end, Basis::Cash)), (Strings{"Abel|0", "Idle|0", "Zoe|-5"}));
   ReportTable table = books.report("PLCusSum", may, may_end);
-  EXPECT_EQ(table.heading.title + "," + table.columns[2].caption,
-            "Customer Income Summary,5/1/2026 - 5/31/2026");
+  EXPECT_EQ(table.heading.title + "," + table.columns[2].caption, "Customer Income Summary,5/1/2026 - 5/31/2026");
   EXPECT_EQ(table.go_to, ReportTable::GoTo::Nowhere);
 }
 
@@ -48,11 +46,11 @@ TEST(ProfitAndLossByName, DetailTurnsRoundTheRowsThatLowerTheTotal) {
   books.post({3, "Invoice", may, "Sales", {}, D(7), "Zoe"});
   books.post({4, "Bill", may, "Rent", D(20), {}, "Zoe"});
   books.post({5, "Bill", may, "Rent", {}, D(5), "Zoe", "", true});
-  EXPECT_EQ(Lines(books.report("PLCusDetail", may, may_end)),
-            (Strings{"Abel", "     Check|5/1/2026|||Sales|<-Break Down->|-30",
-                     "     Invoice|5/31/2026||door|Sales|AR1|100", "Abel||||||70", "", "Zoe",
-                     "     Invoice|5/1/2026|||Sales||7", "     Bill|5/1/2026|||Rent||-20",
-                     "     Bill|5/1/2026|||Rent||5", "Zoe||||||-8", ""}));
+  EXPECT_EQ(
+      Lines(books.report("PLCusDetail", may, may_end)),
+      (Strings{"Abel", "     Check|5/1/2026|||Sales|<-Break Down->|-30", "     Invoice|5/31/2026||door|Sales|AR1|100",
+               "Abel||||||70", "", "Zoe", "     Invoice|5/1/2026|||Sales||7", "     Bill|5/1/2026|||Rent||-20",
+               "     Bill|5/1/2026|||Rent||5", "Zoe||||||-8", ""}));
   EXPECT_EQ(Lines(books.report("PLVenDetail", may, may_end, Basis::Cash)),
             (Strings{"Zoe", "     Bill|5/1/2026|||Rent||-5", "Zoe||||||-5", ""}));
 }

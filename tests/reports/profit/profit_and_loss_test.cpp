@@ -11,8 +11,7 @@ using testing::Line_Of;
 using testing::Lines;
 using Strings = std::vector<std::string>;
 
-const Date new_year(2026, 1, 1), may(2026, 5, 1), may_end(2026, 5, 31), june(2026, 6, 10),
-    last_may(2025, 5, 20);
+const Date new_year(2026, 1, 1), may(2026, 5, 1), may_end(2026, 5, 31), june(2026, 6, 10), last_may(2025, 5, 20);
 
 /// Sales with two levels below it, and one category for each other section.
 struct PLBooks : Books {
@@ -76,8 +75,7 @@ TEST(ProfitAndLoss, SectionsRollUpAndNetIncomeFollows) {
     std::string label = table.text(row, 1);
     bool plain = label.starts_with(" ") || table.is_spacer(row);
     EXPECT_EQ(table.style(row), plain ? "" : "sBold") << label;
-    EXPECT_EQ(table.key(row).text,
-              plain ? label.substr(std::min(label.size(), label.find_first_not_of(' '))) : "");
+    EXPECT_EQ(table.key(row).text, plain ? label.substr(std::min(label.size(), label.find_first_not_of(' '))) : "");
   }
 }
 
@@ -119,8 +117,7 @@ TEST(ProfitAndLoss, CustomerAndClassColumnsCountTwiceTheirTotalOnce) {
   books.post({3, "Deposit", may, "Web", {}, D(2), "nobody"});
   books.post({4, "Check", may, "Rent", D(1), {}, "Zoe", "", false, "East"});
   ReportTable table = books.report("PLCus", may, may_end);
-  EXPECT_EQ(table.columns[2].caption + table.columns[3].caption + table.columns[4].caption +
-                table.columns[5].caption,
+  EXPECT_EQ(table.columns[2].caption + table.columns[3].caption + table.columns[4].caption + table.columns[5].caption,
             "AbelO'HaraZoeTotal");
   EXPECT_EQ(Line_Of(table, "Sales"), "Sales|0|10|5|17");
   EXPECT_EQ(Line_Of(table, "Total Income"), "Total Income|0|30|5|17");
@@ -147,8 +144,7 @@ TEST(ProfitAndLoss, DetailListsTheRowsOfEachCategoryWithAllBelow) {
                "Invoice|6/10/2026||Zoe|late|East|Bank|20", "     Sales|||||||22", "          Shop",
                "Invoice|5/1/2026||Abel|||<-Break Down->|3", "Deposit|5/1/2026||||||1",
                "Invoice|6/10/2026||Zoe|late|East|Bank|20", "          Shop|||||||22", "               Web",
-               "Invoice|5/1/2026||Abel|||<-Break Down->|3", "Deposit|5/1/2026||||||1",
-               "               Web|||||||2"}));
+               "Invoice|5/1/2026||Abel|||<-Break Down->|3", "Deposit|5/1/2026||||||1", "               Web|||||||2"}));
   EXPECT_EQ(Line_Of(table, "Total Income"), "Total Income|||||||22");
   EXPECT_EQ(Line_Of(table, "Net Income"), "Net Income|||||||22");
 }
@@ -221,11 +217,11 @@ TEST(CashIncome, CountsInTheProportionOfWhatWasPaidInThePeriod) {
     Money total, income, paid;
     std::string cash;
   };
-  for (const Case& c : {Case{"in part", D(1000), D(1000), D(400), "400"},
-                        Case{"in part, with tax on top", D(1100), D(1000), D(550), "500"},
-                        Case{"whole", D(1000), D(1000), D(1000), "1000"},
-                        Case{"more than whole", D(1000), D(1000), D(3000), "1000"},
-                        Case{"rounded to the ten-thousandth", D(3), D(1), D(1), "0.3333"}}) {
+  for (const Case& c :
+       {Case{"in part", D(1000), D(1000), D(400), "400"},
+        Case{"in part, with tax on top", D(1100), D(1000), D(550), "500"},
+        Case{"whole", D(1000), D(1000), D(1000), "1000"}, Case{"more than whole", D(1000), D(1000), D(3000), "1000"},
+        Case{"rounded to the ten-thousandth", D(3), D(1), D(1), "0.3333"}}) {
     CashBooks books;
     books.invoice(1, c.total, c.income, "2;", false);
     books.payment(2, june, c.paid);
@@ -267,8 +263,7 @@ TEST(CashIncome, OtherRowsCountByTheirOwnDateUnlessMarkedPaid) {
   books.post({2, "Check", june, "Sales", D(4)});
   books.post({3, "Deposit", june, "Sales", {}, D(1000), "", "", true});  // paid, by nothing
   books.post({4, "Deposit", may, "Sales", {}, D(500)});
-  books.post(
-      {5, "Deposit", june, "Sales", {}, D(7), "", "", false, "", "", "", D(-2)});  // Amount decides, absolute
+  books.post({5, "Deposit", june, "Sales", {}, D(7), "", "", false, "", "", "", D(-2)});  // Amount decides, absolute
   EXPECT_EQ(books.figure("Sales", june, june), "Sales|8");
   books.invoice(6, D(70), D(70), "", false);
   EXPECT_EQ(books.figure("Sales", may, may_end), "Sales|500");
@@ -284,10 +279,8 @@ TEST(CashExpense, CountsABillPaidByThePeriodsEnd) {
   };
   for (const Case& c :
        {Case{"unpaid", "", false, may, "0"}, Case{"paid in the period", "2;", true, may_end, "60"},
-        Case{"paid after it", "2;", true, june, "0"},
-        Case{"the first payment decides", "2;3;", true, may_end, "60"},
-        Case{"the payment is gone", "99;", true, may, "60"},
-        Case{"no payment is named", "", true, may, "60"}}) {
+        Case{"paid after it", "2;", true, june, "0"}, Case{"the first payment decides", "2;3;", true, may_end, "60"},
+        Case{"the payment is gone", "99;", true, may, "60"}, Case{"no payment is named", "", true, may, "60"}}) {
     CashBooks books;
     books.bill(1, c.PaidBy, c.Paid);
     books.post({2, "Billcheck", c.paid_on, "AP1", D(60)});

@@ -69,8 +69,7 @@ struct RowByRow {
     const Texts ids = scope(id);
     std::vector<const Posting*> found;
     for (const Posting& row : rows) {
-      if (std::find(ids.begin(), ids.end(), row.Account) == ids.end() || row.day < from || row.day > to)
-        continue;
+      if (std::find(ids.begin(), ids.end(), row.Account) == ids.end() || row.day < from || row.day > to) continue;
       if (!filter || *filter == (key == "PLCus" ? row.Name : row.Class)) found.push_back(&row);
     }
     if (key == "PLDetail")
@@ -80,8 +79,8 @@ struct RowByRow {
     Money sum;
     for (const Posting* row : found) {
       if (key == "PLDetail")
-        lines.push_back(row->Type + "|" + row->day.to_text() + "||" + row->Name + "|" + row->Memo + "|" +
-                        row->Class + "|" + name_of(row->Category) + "|" + amount_of(*row).to_text());
+        lines.push_back(row->Type + "|" + row->day.to_text() + "||" + row->Name + "|" + row->Memo + "|" + row->Class +
+                        "|" + name_of(row->Category) + "|" + amount_of(*row).to_text());
       if (!counted(*row)) continue;
       if (basis == Basis::Cash && row->Type == "Bill" && contains(row->PaidBy, ";")) {
         const Posting* payment = first_row(split(row->PaidBy, ";")[0]);
@@ -208,8 +207,7 @@ struct RowByRow {
       for (const Posting& row : rows)
         if (row.Name == name && row.day >= start && row.day <= end) found.push_back(&row);
       if (found.empty()) continue;
-      std::stable_sort(found.begin(), found.end(),
-                       [](auto* a, auto* b) { return a->TransNum < b->TransNum; });
+      std::stable_sort(found.begin(), found.end(), [](auto* a, auto* b) { return a->TransNum < b->TransNum; });
       if (detail) lines.push_back(name);
       Money sum;
       for (const Posting* row : found) sum += name_row(*row, vendor, detail);
@@ -219,8 +217,7 @@ struct RowByRow {
   }
 
   Money name_row(const Posting& row, bool vendor, bool detail) {
-    auto account =
-        std::find_if(accounts.begin(), accounts.end(), [&](auto& a) { return a.CatID == row.Account; });
+    auto account = std::find_if(accounts.begin(), accounts.end(), [&](auto& a) { return a.CatID == row.Account; });
     if (!counted(row) || account == accounts.end()) return {};
     const std::string& type = account->AccountType;
     if (type != "Cost of Goods Sold" && !contains(type, "Income") && !contains(type, "Expense")) return {};
@@ -234,9 +231,8 @@ struct RowByRow {
       change = row.Debit;
     }
     if (detail)
-      lines.push_back("     " + row.Type + "|" + row.day.to_text() + "||" + row.Memo + "|" + account->CatID +
-                      "|" + name_of(row.Category) + "|" +
-                      (lowers ? -amount_of(row) : amount_of(row)).to_text());
+      lines.push_back("     " + row.Type + "|" + row.day.to_text() + "||" + row.Memo + "|" + account->CatID + "|" +
+                      name_of(row.Category) + "|" + (lowers ? -amount_of(row) : amount_of(row)).to_text());
     return lowers ? -change : change;
   }
 };

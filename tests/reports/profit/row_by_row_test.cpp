@@ -31,18 +31,16 @@ class Random_Ledger {
     ledger.classes = {"East", "West"};
     ledger.accounts = {{"AR1", "Accounts Receivable", ""}, {"Bank", "Bank", ""}};
     for (int at = 0, count = 4 + pick(12); at < count; ++at) add_account(ledger, at);
-    for (int number = 1, count = 10 + pick(25); number <= count; ++number)
-      add_transaction(ledger, number, count);
+    for (int number = 1, count = 10 + pick(25); number <= count; ++number) add_transaction(ledger, number, count);
     std::shuffle(ledger.rows.begin(), ledger.rows.end(), engine_);
   }
 
  private:
   void add_account(RowByRow& ledger, int at) {
-    static const std::vector<std::string> types = {
-        "Income", "Income", "Other Income", "Cost of Goods Sold", "Expense", "Other Expense", "Bank"};
+    static const std::vector<std::string> types = {"Income",  "Income",        "Other Income", "Cost of Goods Sold",
+                                                   "Expense", "Other Expense", "Bank"};
     std::string parent = chance(50) ? any(ledger.accounts).CatID : "";
-    ledger.accounts.push_back(
-        {std::string(1, static_cast<char>('a' + (at * 7) % 26)) + "cat", any(types), parent});
+    ledger.accounts.push_back({std::string(1, static_cast<char>('a' + (at * 7) % 26)) + "cat", any(types), parent});
   }
 
   std::string paid_by(int numbers) {
@@ -81,8 +79,7 @@ void Write(Books& books, const RowByRow& ledger) {
   store::Transaction tx(books.db(), "A random ledger", store::Transaction::History::Summary);
   for (auto table : {"Accounts", "Transactions", "Customers", "Vendors", "Class"})
     books.db().Execute(std::string("DELETE FROM ") + table);
-  for (const auto& account : ledger.accounts)
-    books.add(account.CatID, account.AccountType, account.ParentAccount);
+  for (const auto& account : ledger.accounts) books.add(account.CatID, account.AccountType, account.ParentAccount);
   for (const auto& row : ledger.rows) books.post(row);
   for (const auto& name : ledger.customers) books.add_customer(name);
   for (const auto& name : ledger.vendors) books.add_vendor(name);
@@ -93,8 +90,8 @@ void Write(Books& books, const RowByRow& ledger) {
 /// Compares every variant with the plain reading; the number of lines that hold a figure.
 int Compare(Books& books, const RowByRow& ledger, const std::string& note) {
   int figures = 0;
-  for (std::string key : {"PL", "PLYTD", "PLPrev", "PLCus", "PLClass", "PLDetail", "PLCusSum", "PLCusDetail",
-                          "PLVenSum", "PLVenDetail"})
+  for (std::string key :
+       {"PL", "PLYTD", "PLPrev", "PLCus", "PLClass", "PLDetail", "PLCusSum", "PLCusDetail", "PLVenSum", "PLVenDetail"})
     for (Basis basis : {Basis::Cash, Basis::Accrual}) {
       RowByRow slow = ledger;
       slow.key = key;
@@ -102,8 +99,7 @@ int Compare(Books& books, const RowByRow& ledger, const std::string& note) {
       Find_Report(key)->window == "frmPrintPL2" ? slow.Load_Standard() : slow.Load_Names();
       EXPECT_EQ(testing::Lines(books.report(key, slow.start, slow.end, basis)), slow.lines)
           << key << (basis == Basis::Cash ? " cash, " : " accrual, ") << note;
-      for (const std::string& line : slow.lines)
-        figures += line.find_first_of("123456789") != std::string::npos;
+      for (const std::string& line : slow.lines) figures += line.find_first_of("123456789") != std::string::npos;
     }
   return figures;
 }

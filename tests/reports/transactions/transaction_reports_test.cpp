@@ -39,8 +39,7 @@ struct ReportBooks : Books {
 TEST(TransactionReports, ACategoryIsPositiveOnItsOwnSideAndTakesInItsSubtree) {
   ReportBooks books;
   ReportTable bank = books.listed("AcctRep", "Type,Account,Category,Amount,Balance,", "category", "Bank");
-  EXPECT_EQ(Lines(bank),
-            (Strings{"Deposit|Till|<-Break Down->|100|100", "Check|Bank|Rent|-40|60", "", "TOTAL|||60"}));
+  EXPECT_EQ(Lines(bank), (Strings{"Deposit|Till|<-Break Down->|100|100", "Check|Bank|Rent|-40|60", "", "TOTAL|||60"}));
   EXPECT_EQ(bank.heading.title, "Category Report: Bank");
   EXPECT_EQ(bank.columns[2].caption + bank.columns[3].caption, "Category<-Break Down->");
   EXPECT_EQ(bank.columns[3].right, false);
@@ -48,8 +47,7 @@ TEST(TransactionReports, ACategoryIsPositiveOnItsOwnSideAndTakesInItsSubtree) {
   EXPECT_EQ(bank.style(0), "Small");
   EXPECT_EQ(bank.key(1).text, "Check");
   EXPECT_EQ(bank.key(1).number, 3);
-  EXPECT_EQ(Lines(books.listed("PrintAcctRep", "Amount,Balance,", "category", "Card")),
-            (Strings{"15|15", "", "15"}));
+  EXPECT_EQ(Lines(books.listed("PrintAcctRep", "Amount,Balance,", "category", "Card")), (Strings{"15|15", "", "15"}));
 }
 
 TEST(TransactionReports, TheRunningBalanceStartsFromTheDayBefore) {
@@ -84,8 +82,7 @@ TEST(TransactionReports, NamesEachHaveTheirHead) {
   EXPECT_EQ(books.listed("Customer", "Type,").notice, "No Customers to Report");
   for (auto name : {"Zoe", "Idle", "Abel"}) books.add_customer(name);
   ReportTable table = books.listed("Customer", "TransNum,Amount,");
-  EXPECT_EQ(Lines(table),
-            (Strings{"Abel", "2|100", "Idle", "Zoe", "1|-15", "3|-40", "3|40", "", "TOTAL|85"}));
+  EXPECT_EQ(Lines(table), (Strings{"Abel", "2|100", "Idle", "Zoe", "1|-15", "3|-40", "3|40", "", "TOTAL|85"}));
   EXPECT_EQ(table.style(0), "Bold");
   EXPECT_EQ(table.notice, "");
   books.run("DELETE FROM PayrollItems");

@@ -47,8 +47,7 @@ SSDBCombo* GridDelegate::list_editor(QWidget* parent, const QModelIndex& index) 
   return combo;
 }
 
-QWidget* GridDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&,
-                                    const QModelIndex& index) const {
+QWidget* GridDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&, const QModelIndex& index) const {
   const GridColumn& column = grid_.column(index.column());
   QLineEdit* line = nullptr;
   QWidget* editor = nullptr;
@@ -78,8 +77,7 @@ void GridDelegate::setEditorData(QWidget* editor, const QModelIndex& index) cons
   if (auto* combo = qobject_cast<SSDBCombo*>(editor)) {
     const int ids = grid_.column(index.column()).id_column;
     const std::string id = ids < 0 ? std::string() : grid_.text(index.row(), ids);
-    if (id.empty() || !combo->set_id(id))
-      combo->set_text(text.toStdString());  // two sub-categories may share a name
+    if (id.empty() || !combo->set_id(id)) combo->set_text(text.toStdString());  // two sub-categories may share a name
     combo->lineEdit()->selectAll();
   } else if (auto* day = qobject_cast<QuillbrookDatePick*>(editor)) {
     day->set_value(Date::parse(text.toStdString()));
@@ -94,8 +92,7 @@ void GridDelegate::setModelData(QWidget* editor, QAbstractItemModel*, const QMod
   grid_.take(index.row(), index.column(), typed_in(editor), combo ? combo->row() : -1);
 }
 
-void GridDelegate::updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,
-                                        const QModelIndex&) const {
+void GridDelegate::updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option, const QModelIndex&) const {
   editor->setGeometry(option.rect);
 }
 
@@ -104,8 +101,7 @@ bool GridDelegate::eventFilter(QObject* watched, QEvent* event) {
   if (editor && event->type() == QEvent::KeyPress) {
     const auto* key = static_cast<QKeyEvent*>(event);
     const bool enter = key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter;
-    if (enter && key->modifiers() & Qt::ControlModifier)
-      return false;  // the window's, which ends the writing
+    if (enter && key->modifiers() & Qt::ControlModifier) return false;  // the window's, which ends the writing
     if (enter) {
       Q_EMIT commitData(editor);
       Q_EMIT closeEditor(editor, EditNextItem);
@@ -128,8 +124,7 @@ void GridDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelInd
   }
 }
 
-void GridDelegate::paint_check(QPainter* painter, const QStyleOptionViewItem& option,
-                               const QModelIndex& index) const {
+void GridDelegate::paint_check(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const {
   if (grid_.cells().is_new_line(index.row())) return;
   QStyle* style = grid_.style();
   QStyleOptionViewItem box = option;
@@ -142,20 +137,17 @@ void GridDelegate::paint_check(QPainter* painter, const QStyleOptionViewItem& op
 }
 
 /// As under a column of figures that is added up.
-void GridDelegate::paint_rule(QPainter* painter, const QStyleOptionViewItem& option,
-                              const QModelIndex& index) const {
+void GridDelegate::paint_rule(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const {
   const auto look = grid_.cells().find_style(index.row(), index.column());
   const bool amount = grid_.column(index.column()).kind == Kind::money;
   if (!look || !look->rule || !amount || index.data().toString().isEmpty()) return;
   painter->save();
   painter->setPen(option.palette.color(QPalette::Text));
-  painter->drawLine(option.rect.left() + theme::unit, option.rect.top(), option.rect.right() - 2,
-                    option.rect.top());
+  painter->drawLine(option.rect.left() + theme::unit, option.rect.top(), option.rect.right() - 2, option.rect.top());
   painter->restore();
 }
 
-void GridDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
-                         const QModelIndex& index) const {
+void GridDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const {
   QStyledItemDelegate::paint(painter, option, index);
   if (is_check(grid_, index)) paint_check(painter, option, index);
   paint_rule(painter, option, index);

@@ -122,30 +122,28 @@ void GridHeader::paintSection(QPainter* painter, const QRect& rect, int column) 
   painter->fillRect(head, palette().color(QPalette::Window));
   painter->setPen(theme::grid_line());
   painter->drawLine(head.bottomLeft(), head.bottomRight());
-  painter->drawLine(head.right(), head.top() + theme::unit / 2, head.right(),
-                    head.bottom() - theme::unit / 2);
+  painter->drawLine(head.right(), head.top() + theme::unit / 2, head.right(), head.bottom() - theme::unit / 2);
   painter->setPen(palette().color(QPalette::WindowText));
   painter->setFont(head_font());
   QRect room = head.adjusted(side, 0, -side, 0);
   if (isSortIndicatorShown() && sortIndicatorSection() == column) {
     QStyleOptionHeader arrow;
     arrow.initFrom(this);
-    arrow.sortIndicator = sortIndicatorOrder() == Qt::AscendingOrder ? QStyleOptionHeader::SortDown
-                                                                     : QStyleOptionHeader::SortUp;
+    arrow.sortIndicator =
+        sortIndicatorOrder() == Qt::AscendingOrder ? QStyleOptionHeader::SortDown : QStyleOptionHeader::SortUp;
     const int size = theme::unit + 4;
     const bool right =
         (model()->headerData(column, Qt::Horizontal, Qt::TextAlignmentRole).toInt() & Qt::AlignRight) != 0;
-    arrow.rect = QRect(right ? room.left() - size / 2 : room.right() - size / 2, head.center().y() - size / 2,
-                       size, size);
+    arrow.rect =
+        QRect(right ? room.left() - size / 2 : room.right() - size / 2, head.center().y() - size / 2, size, size);
     style()->drawPrimitive(QStyle::PE_IndicatorHeaderArrow, &arrow, painter, this);
     right ? room.setLeft(room.left() + size) : room.setRight(room.right() - size);
   }
   const int align = model()->headerData(column, Qt::Horizontal, Qt::TextAlignmentRole).toInt();
   const QString caption = model()->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
   const bool one_line = !caption.contains(QLatin1Char('\n'));
-  painter->drawText(
-      room, align,
-      one_line ? QFontMetrics(head_font()).elidedText(caption, Qt::ElideRight, room.width()) : caption);
+  painter->drawText(room, align,
+                    one_line ? QFontMetrics(head_font()).elidedText(caption, Qt::ElideRight, room.width()) : caption);
   painter->restore();
 }
 

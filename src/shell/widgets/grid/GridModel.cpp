@@ -99,8 +99,7 @@ store::Value GridModel::value_of(const std::string& text, Kind kind) const {
 void GridModel::insert(int row, const GridRow& content) {
   const bool last = row >= rows();
   if (!last) read_all();
-  const int place =
-      last ? rows() + (new_line_ ? 1 : 0) : row;  // the new line turns into the row; another one follows
+  const int place = last ? rows() + (new_line_ ? 1 : 0) : row;  // the new line turns into the row; another one follows
   if (!filling_) beginInsertRows({}, place, place);
   rows_.insert(rows_.begin() + std::min(row, rows()), made(content));
   if (filling_) return;
@@ -132,9 +131,7 @@ int GridModel::sort_rows(int column, bool descending, int follow) {
   read_all();
   std::vector<size_t> order(rows_.size());
   std::iota(order.begin(), order.end(), size_t{0});
-  const auto key = [&](size_t row) -> const store::Value& {
-    return rows_[row].values[static_cast<size_t>(column)];
-  };
+  const auto key = [&](size_t row) -> const store::Value& { return rows_[row].values[static_cast<size_t>(column)]; };
   std::stable_sort(order.begin(), order.end(), [&](size_t a, size_t b) {
     return descending ? precedes(key(b), key(a)) : precedes(key(a), key(b));
   });

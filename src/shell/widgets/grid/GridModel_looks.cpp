@@ -11,13 +11,9 @@ namespace tallymere {
 namespace {
 
 /// An amount whose writer gave it a look of its own ("$5.00", "(5.00)", "7%") keeps it.
-bool has_own_look(const std::string& text) {
-  return text.find_first_of("$(%") != std::string::npos;
-}
+bool has_own_look(const std::string& text) { return text.find_first_of("$(%") != std::string::npos; }
 
-bool is_figures(Kind kind) {
-  return kind == Kind::money || kind == Kind::number;
-}
+bool is_figures(Kind kind) { return kind == Kind::money || kind == Kind::number; }
 
 /// Blanks as wide as figures stand for the decimals that others in the column have.
 QString lined_up(const std::string& amount, int decimals) {
@@ -105,8 +101,7 @@ QVariant GridModel::data(const QModelIndex& index, int role) const {
   const int column = index.column();
   if (role == Qt::TextAlignmentRole)
     return QVariant::fromValue(alignment_of(columns_[static_cast<size_t>(column)].kind));
-  if (!has(row, column))
-    return role == Qt::DisplayRole || role == Qt::EditRole ? QVariant(QString()) : QVariant();
+  if (!has(row, column)) return role == Qt::DisplayRole || role == Qt::EditRole ? QVariant(QString()) : QVariant();
   switch (role) {
     case Qt::DisplayRole:
       return for_the_eye(row, column);
@@ -134,9 +129,7 @@ QVariant GridModel::headerData(int section, Qt::Orientation orientation, int rol
   return {};
 }
 
-int GridModel::rowCount(const QModelIndex& parent) const {
-  return parent.isValid() ? 0 : rows() + (new_line_ ? 1 : 0);
-}
+int GridModel::rowCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : rows() + (new_line_ ? 1 : 0); }
 
 int GridModel::columnCount(const QModelIndex& parent) const {
   return parent.isValid() ? 0 : static_cast<int>(columns_.size());
@@ -146,8 +139,8 @@ Qt::ItemFlags GridModel::flags(const QModelIndex& index) const {
   if (!index.isValid()) return Qt::NoItemFlags;
   const Qt::ItemFlags shown = Qt::ItemIsEnabled | Qt::ItemIsSelectable;
   const GridColumn& column = columns_[static_cast<size_t>(index.column())];
-  const bool fixed = read_only || column.locked || column.kind == Kind::check ||
-                     (may_edit && !may_edit(index.row(), index.column()));
+  const bool fixed =
+      read_only || column.locked || column.kind == Kind::check || (may_edit && !may_edit(index.row(), index.column()));
   return fixed ? shown : shown | Qt::ItemIsEditable;
 }
 

@@ -67,25 +67,17 @@ void SSDBCombo::take_list(SSDBDropDown* list) {
   connect(list, &SSDBDropDown::modelReset, this, [this] { set_text(kept_); });
 }
 
-void SSDBCombo::set_list_only(bool only) {
-  list_only_ = only;
-}
+void SSDBCombo::set_list_only(bool only) { list_only_ = only; }
 
-std::string SSDBCombo::text() const {
-  return currentText().toStdString();
-}
+std::string SSDBCombo::text() const { return currentText().toStdString(); }
 
 bool SSDBCombo::holds(int row) const {
   return row >= 0 && row < list_->rows() && same_text(list_->text(row), Without_Indent(text()));
 }
 
-int SSDBCombo::row() const {
-  return holds(chosen_) ? chosen_ : list_->find(text());
-}
+int SSDBCombo::row() const { return holds(chosen_) ? chosen_ : list_->find(text()); }
 
-std::string SSDBCombo::id() const {
-  return list_->id(row());
-}
+std::string SSDBCombo::id() const { return list_->id(row()); }
 
 void SSDBCombo::set_text(const std::string& text) {
   chosen_ = list_->find(text);
@@ -141,8 +133,7 @@ void SSDBCombo::keyPressEvent(QKeyEvent* event) {
                event->key() != Qt::Key_Delete && event->key() != Qt::Key_Tab;
   if (event->key() == Qt::Key_Down && plain && count() > 0) return showPopup();
   if (event->key() == Qt::Key_Up && plain) return event->accept();
-  if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
-    return event->ignore();  // the window goes on
+  if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) return event->ignore();  // the window goes on
   QComboBox::keyPressEvent(event);
 }
 
@@ -161,9 +152,7 @@ void SSDBCombo::focusOutEvent(QFocusEvent* event) {
   Q_EMIT LostFocus();
 }
 
-void SSDBCombo::wheelEvent(QWheelEvent* event) {
-  event->ignore();
-}  // scrolling past must not change an entry
+void SSDBCombo::wheelEvent(QWheelEvent* event) { event->ignore(); }  // scrolling past must not change an entry
 
 void SSDBCombo::size_popup() {
   auto* table = static_cast<QTableView*>(view());

@@ -20,9 +20,7 @@ class SSDBCombo : public QComboBox {
   SSDBDropDown& list() const { return *list_; }
   void set_list(SSDBDropDown* shared);
   void set_columns(std::vector<ListColumn> columns) { list_->set_columns(std::move(columns)); }
-  void AddItem(const std::string& tab_separated, const std::string& id = {}) {
-    list_->AddItem(tab_separated, id);
-  }
+  void AddItem(const std::string& tab_separated, const std::string& id = {}) { list_->AddItem(tab_separated, id); }
   void RemoveAll() { list_->RemoveAll(); }
   /// Only names of the list can be chosen; typing jumps to them.
   void set_list_only(bool only);

@@ -22,9 +22,7 @@ void SSDBDropDown::AddItem(const std::string& tab_separated, const std::string& 
   endInsertRows();
 }
 
-void SSDBDropDown::RemoveAll() {
-  set_items({});
-}
+void SSDBDropDown::RemoveAll() { set_items({}); }
 
 void SSDBDropDown::set_items(const std::vector<Item>& items) {
   beginResetModel();
@@ -60,9 +58,7 @@ Completion SSDBDropDown::complete(const std::string& typed) const {
   return Complete(typed, rows(), [this](int row) { return std::string_view(name(row)); });
 }
 
-int SSDBDropDown::rowCount(const QModelIndex& parent) const {
-  return parent.isValid() ? 0 : rows();
-}
+int SSDBDropDown::rowCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : rows(); }
 
 int SSDBDropDown::columnCount(const QModelIndex& parent) const {
   return parent.isValid() ? 0 : static_cast<int>(columns_.size());
@@ -75,8 +71,7 @@ QVariant SSDBDropDown::data(const QModelIndex& index, int role) const {
     case Qt::EditRole:
       return QString::fromStdString(text(index.row(), index.column()));
     case Qt::DisplayRole:
-      return QString::fromStdString(index.column() == 0 ? name(index.row())
-                                                        : text(index.row(), index.column()));
+      return QString::fromStdString(index.column() == 0 ? name(index.row()) : text(index.row(), index.column()));
     case Qt::TextAlignmentRole:
       return QVariant::fromValue((money ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
     default:

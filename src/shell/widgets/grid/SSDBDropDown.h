@@ -37,9 +37,7 @@ class SSDBDropDown : public QAbstractTableModel {
   void set_items(const std::vector<Item>& items);
 
   int rows() const { return static_cast<int>(items_.size()); }
-  const std::string& name(int row) const {
-    return items_[static_cast<size_t>(row)].cells.front();
-  }                                                 ///< indented
+  const std::string& name(int row) const { return items_[static_cast<size_t>(row)].cells.front(); }  ///< indented
   std::string text(int row, int column = 0) const;  ///< without the indentation; "" outside
   std::string id(int row) const;                    ///< "" for no row
 

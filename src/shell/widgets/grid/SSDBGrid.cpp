@@ -12,8 +12,7 @@
 
 namespace tallymere {
 
-SSDBGrid::SSDBGrid(QWidget* parent)
-    : QTableView(parent), model_(new GridModel(this)), header_(new GridHeader(this)) {
+SSDBGrid::SSDBGrid(QWidget* parent) : QTableView(parent), model_(new GridModel(this)), header_(new GridHeader(this)) {
   setModel(model_);
   setHorizontalHeader(header_);
   setItemDelegate(new GridDelegate(*this));
@@ -40,12 +39,8 @@ SSDBGrid::SSDBGrid(QWidget* parent)
 
 SSDBGrid::~SSDBGrid() = default;
 
-SSDBGrid::Fill::Fill(SSDBGrid& grid) : grid_(grid) {
-  grid_.model_->begin_fill();
-}
-SSDBGrid::Fill::~Fill() {
-  grid_.model_->end_fill();
-}
+SSDBGrid::Fill::Fill(SSDBGrid& grid) : grid_(grid) { grid_.model_->begin_fill(); }
+SSDBGrid::Fill::~Fill() { grid_.model_->end_fill(); }
 
 // --- columns ---
 
@@ -61,18 +56,10 @@ void SSDBGrid::set_columns(std::vector<GridColumn> columns) {
   set_widths();
 }
 
-void SSDBGrid::set_groups(std::vector<GridGroup> groups) {
-  header_->set_groups(std::move(groups));
-}
-const std::vector<GridGroup>& SSDBGrid::groups() const {
-  return header_->groups();
-}
-int SSDBGrid::columns() const {
-  return model_->columnCount();
-}
-const GridColumn& SSDBGrid::column(int column) const {
-  return model_->columns()[static_cast<size_t>(column)];
-}
+void SSDBGrid::set_groups(std::vector<GridGroup> groups) { header_->set_groups(std::move(groups)); }
+const std::vector<GridGroup>& SSDBGrid::groups() const { return header_->groups(); }
+int SSDBGrid::columns() const { return model_->columnCount(); }
+const GridColumn& SSDBGrid::column(int column) const { return model_->columns()[static_cast<size_t>(column)]; }
 
 int SSDBGrid::column_named(const std::string& caption) const {
   for (int column = 0; column < columns(); ++column)
@@ -85,9 +72,7 @@ void SSDBGrid::set_caption(int column, const std::string& caption) {
   Q_EMIT model_->headerDataChanged(Qt::Horizontal, column, column);
 }
 
-void SSDBGrid::set_locked(int column, bool locked) {
-  model_->column(column).locked = locked;
-}
+void SSDBGrid::set_locked(int column, bool locked) { model_->column(column).locked = locked; }
 void SSDBGrid::set_decimals(const std::vector<int>& decimals) {
   for (size_t at = 0; at < decimals.size(); ++at) model_->column(static_cast<int>(at)).decimals = decimals[at];
 }
@@ -133,8 +118,7 @@ void SSDBGrid::share_widths() {
   for (size_t at = 0; at < sharing.size(); ++at) {
     const int left = static_cast<int>(sharing.size() - at);
     const int least = least_[static_cast<size_t>(sharing[at])];
-    const int share =
-        std::max({room / left, header_->width_for(sharing[at]), least > 0 ? least : char_width(12)});
+    const int share = std::max({room / left, header_->width_for(sharing[at]), least > 0 ? least : char_width(12)});
     setColumnWidth(sharing[at], share);
     room -= share;
   }
@@ -148,9 +132,7 @@ void SSDBGrid::set_natural_widths(std::vector<int> natural, std::vector<int> lea
   spread_widths();
 }
 
-void SSDBGrid::set_keeps_sum(bool keeps_sum) {
-  keeps_sum_ = keeps_sum;
-}
+void SSDBGrid::set_keeps_sum(bool keeps_sum) { keeps_sum_ = keeps_sum; }
 
 int SSDBGrid::natural_width() const {
   int width = verticalScrollBar()->sizeHint().width() + 2 * frameWidth();
@@ -257,21 +239,13 @@ void SSDBGrid::set_rows(int count, GridModel::Provider provider) {
   model_->set_rows(count, std::move(provider));
 }
 
-int SSDBGrid::rows() const {
-  return model_->rows();
-}
+int SSDBGrid::rows() const { return model_->rows(); }
 
 // --- cells ---
 
-std::string SSDBGrid::text(int row, int column) const {
-  return model_->text(row, column);
-}
-store::Value SSDBGrid::value(int row, int column) const {
-  return model_->value(row, column);
-}
-bool SSDBGrid::checked(int row, int column) const {
-  return model_->flag(row, column);
-}
+std::string SSDBGrid::text(int row, int column) const { return model_->text(row, column); }
+store::Value SSDBGrid::value(int row, int column) const { return model_->value(row, column); }
+bool SSDBGrid::checked(int row, int column) const { return model_->flag(row, column); }
 
 void SSDBGrid::set_text(int row, int column, const std::string& text) {
   if (model_->is_new_line(row) && !text.empty()) model_->insert(row, {});
@@ -303,9 +277,7 @@ int SSDBGrid::Row() const {
   return chosen.empty() ? -1 : chosen.front();
 }
 
-int SSDBGrid::Col() const {
-  return currentIndex().column();
-}
+int SSDBGrid::Col() const { return currentIndex().column(); }
 
 void SSDBGrid::go_to(int row, int column) {
   const QScopedValueRollback code(by_code_, true);
@@ -317,9 +289,7 @@ void SSDBGrid::go_to(int row, int column) {
   if (cell.isValid()) scrollTo(cell);
 }
 
-void SSDBGrid::set_cell(int row, int column) {
-  go_to(std::clamp(row, 0, std::max(model_->rowCount() - 1, 0)), column);
-}
+void SSDBGrid::set_cell(int row, int column) { go_to(std::clamp(row, 0, std::max(model_->rowCount() - 1, 0)), column); }
 
 void SSDBGrid::set_Row(int row) {
   int column = std::max(Col(), 0);
@@ -331,8 +301,7 @@ std::vector<int> SSDBGrid::selected_rows() const {
   std::vector<int> chosen;
   for (const QModelIndex& index : selectionModel()->selectedRows())
     if (index.row() < rows()) chosen.push_back(index.row());
-  if (!selects_rows() && currentIndex().row() >= 0 && currentIndex().row() < rows())
-    chosen = {currentIndex().row()};
+  if (!selects_rows() && currentIndex().row() >= 0 && currentIndex().row() < rows()) chosen = {currentIndex().row()};
   std::sort(chosen.begin(), chosen.end());
   return chosen;
 }
@@ -341,8 +310,7 @@ void SSDBGrid::select_rows(const std::vector<int>& chosen) {
   const QScopedValueRollback code(by_code_, true);
   clearSelection();
   for (auto row = chosen.rbegin(); row != chosen.rend(); ++row)  // the first comes last: it is in view
-    selectionModel()->setCurrentIndex(model_->index(*row, 0),
-                                      QItemSelectionModel::Select | QItemSelectionModel::Rows);
+    selectionModel()->setCurrentIndex(model_->index(*row, 0), QItemSelectionModel::Select | QItemSelectionModel::Rows);
 }
 
 // --- what the user may do ---
@@ -354,8 +322,7 @@ void SSDBGrid::settle_modes() {
                    : list ? SingleSelection
                           : NoSelection);  // entry grids light a cell, not a row
   setTabKeyNavigation(false);              // Tab is ours, see focusNextPrevChild
-  setEditTriggers(model_->read_only ? EditTriggers(NoEditTriggers)
-                                    : DoubleClicked | EditKeyPressed | AnyKeyPressed);
+  setEditTriggers(model_->read_only ? EditTriggers(NoEditTriggers) : DoubleClicked | EditKeyPressed | AnyKeyPressed);
 }
 
 void SSDBGrid::set_multi_select(bool allowed) {
@@ -368,18 +335,10 @@ void SSDBGrid::set_read_only(bool read_only) {
   settle_modes();
 }
 
-void SSDBGrid::set_new_line(bool allowed) {
-  model_->set_new_line(allowed);
-}
-void SSDBGrid::set_delete(bool allowed) {
-  delete_ = allowed;
-}
-void SSDBGrid::set_sorting(bool allowed) {
-  header_->setSortIndicatorShown(allowed);
-}
-void SSDBGrid::set_may_edit(std::function<bool(int, int)> may_edit) {
-  model_->may_edit = std::move(may_edit);
-}
+void SSDBGrid::set_new_line(bool allowed) { model_->set_new_line(allowed); }
+void SSDBGrid::set_delete(bool allowed) { delete_ = allowed; }
+void SSDBGrid::set_sorting(bool allowed) { header_->setSortIndicatorShown(allowed); }
+void SSDBGrid::set_may_edit(std::function<bool(int, int)> may_edit) { model_->may_edit = std::move(may_edit); }
 
 void SSDBGrid::set_empty_hint(const QString& text) {
   hint_ = text;
@@ -398,24 +357,12 @@ void SSDBGrid::sort_clicked(int column) {
 
 // --- looks ---
 
-void SSDBGrid::define_style(const std::string& name, const GridStyle& style) {
-  model_->define_style(name, style);
-}
-void SSDBGrid::set_row_style(int row, const std::string& style) {
-  model_->set_style(row, style);
-}
-void SSDBGrid::set_cell_style(int row, int column, const std::string& style) {
-  model_->set_style(row, column, style);
-}
-std::string SSDBGrid::row_style(int row) const {
-  return model_->style(row, -1);
-}
-std::string SSDBGrid::cell_style(int row, int column) const {
-  return model_->style(row, column);
-}
-void SSDBGrid::set_row_loaded(std::function<void(int)> hook) {
-  model_->row_loaded = std::move(hook);
-}
+void SSDBGrid::define_style(const std::string& name, const GridStyle& style) { model_->define_style(name, style); }
+void SSDBGrid::set_row_style(int row, const std::string& style) { model_->set_style(row, style); }
+void SSDBGrid::set_cell_style(int row, int column, const std::string& style) { model_->set_style(row, column, style); }
+std::string SSDBGrid::row_style(int row) const { return model_->style(row, -1); }
+std::string SSDBGrid::cell_style(int row, int column) const { return model_->style(row, column); }
+void SSDBGrid::set_row_loaded(std::function<void(int)> hook) { model_->row_loaded = std::move(hook); }
 
 void SSDBGrid::set_sheet_color(const QColor& color) {
   if (!color.isValid()) return setPalette({});
@@ -431,8 +378,7 @@ QSize SSDBGrid::sizeHint() const {
   int width = verticalScrollBar()->sizeHint().width() + 2 * frameWidth();
   for (int column = 0; column < columns(); ++column)
     if (!isColumnHidden(column)) width += columnWidth(column);
-  const int height =
-      header_->sizeHint().height() + 8 * verticalHeader()->defaultSectionSize() + 2 * frameWidth();
+  const int height = header_->sizeHint().height() + 8 * verticalHeader()->defaultSectionSize() + 2 * frameWidth();
   return {std::min(width, 110 * theme::unit), height};
 }
 
@@ -445,8 +391,7 @@ void SSDBGrid::changeEvent(QEvent* event) {
 }
 
 void SSDBGrid::showEvent(QShowEvent* event) {
-  if (qobject_cast<QStackedWidget*>(parentWidget()))
-    setFrameShape(NoFrame);  // a tab's page has an edge already
+  if (qobject_cast<QStackedWidget*>(parentWidget())) setFrameShape(NoFrame);  // a tab's page has an edge already
   QTableView::showEvent(event);
 }
 

@@ -72,7 +72,7 @@ class SSDBGrid : public QTableView {
   void set_value(int row, int column, const store::Value& value);
   bool checked(int row, int column) const;
   int list_row(int row,
-               int column) const;  ///< of the column's drop-down: where the cell's text stands; -1: nowhere
+               int column) const;        ///< of the column's drop-down: where the cell's text stands; -1: nowhere
   bool Valid() const { return valid_; }  ///< the text last typed or picked in a drop-down cell is in its list
   void set_Valid(bool valid) { valid_ = valid; }
 
@@ -112,7 +112,7 @@ class SSDBGrid : public QTableView {
   std::string row_style(int row) const;
   std::string cell_style(int row, int column) const;       ///< the cell's own, else the row's
   void set_row_loaded(std::function<void(int row)> hook);  ///< styles a row when it is first shown or read
-  void set_sheet_color(const QColor& color);  ///< a register's own paper; an invalid colour: the theme's
+  void set_sheet_color(const QColor& color);               ///< a register's own paper; an invalid colour: the theme's
 
   // --- as the user does it, signals and all (for tools that drive windows) ---
   bool type_text(int row, int column, const std::string& text);  ///< false: refused or locked

@@ -9,8 +9,8 @@
 #include <QTimer>
 
 #include "core/values/text.h"
-#include "shell/widgets/grid/GridDelegate.h"
 #include "shell/widgets/QuillbrookDatePick.h"
+#include "shell/widgets/grid/GridDelegate.h"
 #include "shell/widgets/grid/SSDBGrid.h"
 
 namespace tallymere {
@@ -74,8 +74,7 @@ bool SSDBGrid::type_text(int row, int column, const std::string& text) {
 }
 
 bool SSDBGrid::toggle(int row, int column) {
-  const bool fixed =
-      model_->read_only || this->column(column).locked || this->column(column).kind != Kind::check;
+  const bool fixed = model_->read_only || this->column(column).locked || this->column(column).kind != Kind::check;
   if (fixed || row < 0 || row >= rows() || (model_->may_edit && !model_->may_edit(row, column))) return false;
   return take(row, column, checked(row, column) ? "0" : "-1", -1);
 }
@@ -137,9 +136,8 @@ void SSDBGrid::remove_selected() {
 // --- keys ---
 
 bool SSDBGrid::is_stop(int row, int column) const {
-  return !isColumnHidden(column) &&
-         ((model_->index(row, column).flags() & Qt::ItemIsEditable) ||
-          (this->column(column).kind == Kind::check && !this->column(column).locked));
+  return !isColumnHidden(column) && ((model_->index(row, column).flags() & Qt::ItemIsEditable) ||
+                                     (this->column(column).kind == Kind::check && !this->column(column).locked));
 }
 
 QModelIndex SSDBGrid::next_cell(const QModelIndex& from, int step) const {
@@ -152,8 +150,7 @@ QModelIndex SSDBGrid::next_cell(const QModelIndex& from, int step) const {
 }
 
 QModelIndex SSDBGrid::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) {
-  if (!model_->read_only &&
-      (action == QAbstractItemView::MoveNext || action == QAbstractItemView::MovePrevious))
+  if (!model_->read_only && (action == QAbstractItemView::MoveNext || action == QAbstractItemView::MovePrevious))
     return next_cell(currentIndex(), action == QAbstractItemView::MoveNext ? 1 : -1);
   return QTableView::moveCursor(action, modifiers);
 }
@@ -238,8 +235,7 @@ void SSDBGrid::mousePressEvent(QMouseEvent* event) {
   const bool was_here = cell.isValid() && cell == currentIndex() && hasFocus();
   QTableView::mousePressEvent(event);
   if (event->button() != Qt::LeftButton || !was_here || !(cell.flags() & Qt::ItemIsEditable)) return;
-  const bool on_arrow =
-      column(cell.column()).list && GridDelegate::arrow_of(visualRect(cell)).contains(place);
+  const bool on_arrow = column(cell.column()).list && GridDelegate::arrow_of(visualRect(cell)).contains(place);
   if (!on_arrow || !open_list(cell)) edit(cell);
 }
 
@@ -247,8 +243,7 @@ void SSDBGrid::mouseReleaseEvent(QMouseEvent* event) {
   QTableView::mouseReleaseEvent(event);
   const QModelIndex cell = indexAt(event->position().toPoint());
   if (event->button() == Qt::RightButton) return request_menu(cell.row(), event->globalPosition().toPoint());
-  if (event->button() == Qt::LeftButton && cell.isValid() && cell == currentIndex())
-    toggle(cell.row(), cell.column());
+  if (event->button() == Qt::LeftButton && cell.isValid() && cell == currentIndex()) toggle(cell.row(), cell.column());
 }
 
 void SSDBGrid::mouseDoubleClickEvent(QMouseEvent* event) {

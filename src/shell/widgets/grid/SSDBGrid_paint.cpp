@@ -46,15 +46,14 @@ void SSDBGrid::paint_frozen(QPainter& painter, int row, int column) {
   const QModelIndex cell = model_->index(row, column);
   QStyleOptionViewItem option;
   initViewItemOption(&option);
-  option.rect =
-      QRect(header_->sectionPosition(column), rowViewportPosition(row), columnWidth(column), rowHeight(row));
+  option.rect = QRect(header_->sectionPosition(column), rowViewportPosition(row), columnWidth(column), rowHeight(row));
   for (int over = 1; over < columnSpan(row, column); ++over)
     option.rect.setWidth(option.rect.width() + columnWidth(column + over));
   if (selectionModel()->isSelected(cell)) option.state |= QStyle::State_Selected;
   if (alternatingRowColors() && row % 2 == 1) option.features |= QStyleOptionViewItem::Alternate;
-  painter.fillRect(option.rect,
-                   palette().brush(option.features & QStyleOptionViewItem::Alternate ? QPalette::AlternateBase
-                                                                                     : QPalette::Base));
+  painter.fillRect(
+      option.rect,
+      palette().brush(option.features & QStyleOptionViewItem::Alternate ? QPalette::AlternateBase : QPalette::Base));
   itemDelegate()->paint(&painter, option, cell);
 }
 
