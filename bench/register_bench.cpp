@@ -4,6 +4,7 @@
 #include "core/company/folder.h"
 #include "core/ledger/ledger.h"
 #include "entry/register/register.h"
+#include "support/places.h"
 #include "support/silent_prompts.h"
 #include "support/temp_folder.h"
 
@@ -13,7 +14,7 @@ namespace {
 /// A bank with two hundred thousand rows over ten years.
 struct LongRegister {
   LongRegister() {
-    Prepare_Folder(folder.path(), DATA_DIR);
+    Prepare_Folder(folder.path(), testing::data_folder);
     Main(session);
     New_Company(session, "Acme");
     Open_Company_File(session, Company_Path(session, "Acme"));

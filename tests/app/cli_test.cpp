@@ -4,6 +4,7 @@
 #include <fstream>
 
 #include "support/child_process.h"
+#include "support/places.h"
 #include "support/temp_folder.h"
 
 namespace tallymere {
@@ -16,7 +17,7 @@ class CommandLine : public ::testing::Test {
   /// Output and error stream together.
   std::string run(const std::string& words) {
     testing::ChildProcess child({"/bin/sh", "-c",
-                                 "cd '" + folder.path().string() + "' && '" CLI_PROGRAM "' " + words +
+                                 "cd '" + folder.path().string() + "' && '" + testing::cli_program + "' " + words +
                                      (words.ends_with("--help") ? "" : " --folder .") + " 2>&1"});
     std::string output = child.rest();
     exit_code = child.wait_for_end();

@@ -7,6 +7,7 @@
 
 #include "core/company/company.h"
 #include "core/company/folder.h"
+#include "support/places.h"
 #include "support/temp_folder.h"
 
 namespace tallymere::testing {
@@ -51,7 +52,7 @@ class ScriptedPrompts : public Prompts {
 /// A program's folder with one open company, and as many users of it as a test wants.
 struct TestCompany {
   explicit TestCompany(Date today = Date(2026, 6, 15)) : clock(Clock::standing_on(today)) {
-    Prepare_Folder(folder.path(), DATA_DIR);
+    Prepare_Folder(folder.path(), testing::data_folder);
     session = user();
     New_Company(*session, "Acme");
     open(*session);

@@ -71,7 +71,7 @@ std::string references_text() {
 
 constexpr std::string_view introduction =
     "# Schema\n\n"
-    "Made from `src/core/schema*.cpp` by `Schema_Document()`; change it there.\n\n"
+    "Made from `src/core/company/schema*.cpp` by `Schema_Document()`; change it there.\n\n"
     "Version VERSION. Every table also has a hidden whole-number key. Money is stored as whole "
     "ten-thousandths, a date\n"
     "as ISO text, a flag as 0 or -1; text compares without case, and null and empty text read alike. A field "

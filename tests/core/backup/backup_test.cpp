@@ -6,6 +6,7 @@
 #include "core/backup/whole_file.h"
 #include "core/company/company.h"
 #include "core/company/folder.h"
+#include "support/places.h"
 #include "support/silent_prompts.h"
 #include "support/temp_folder.h"
 
@@ -29,7 +30,7 @@ TEST(BackupName, LosesPointsAndCommasInTheWholePathWithoutCbk) {
 class BackupTest : public ::testing::Test {
  protected:
   void SetUp() override {
-    Prepare_Folder(folder.path(), DATA_DIR);
+    Prepare_Folder(folder.path(), testing::data_folder);
     Main(session);
     make("Acme");
     open("Acme");

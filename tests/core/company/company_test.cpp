@@ -117,9 +117,9 @@ TEST(Company, TheProgramsFolderIsPreparedOnceAndAMissingShipmentIsSaidPlainly) {
   TempFolder folder;
   EXPECT_THROW(Prepare_Folder(folder.path(), folder / "nowhere"), store::Error);
   EXPECT_TRUE(fs::is_empty(folder.path()));
-  Prepare_Folder(folder.path(), DATA_DIR);
+  Prepare_Folder(folder.path(), testing::data_folder);
   auto made = fs::last_write_time(folder / "Model.mdb");
-  Prepare_Folder(folder.path(), DATA_DIR);
+  Prepare_Folder(folder.path(), testing::data_folder);
   EXPECT_EQ(fs::last_write_time(folder / "Model.mdb"), made);
 }
 

@@ -17,6 +17,7 @@
 
 #include "core/company/schema_doc.h"
 #include "core/values/tsv.h"
+#include "support/places.h"
 
 namespace tallymere {
 namespace {
@@ -94,7 +95,7 @@ TEST(Schema, TablesAreFoundInAnyCaseAndByWeek) {
 }
 
 TEST(Schema, DocumentIsUpToDate) {
-  std::ifstream in(std::filesystem::path(DOCS_DIR) / "schema.md", std::ios::binary);
+  std::ifstream in(testing::docs_folder / "schema.md", std::ios::binary);
   const std::string shipped{std::istreambuf_iterator<char>(in), {}};
   EXPECT_TRUE(shipped == Schema_Document()) << "docs/schema.md is not what Schema_Document() gives";
 }
@@ -114,12 +115,10 @@ std::vector<Row> rows_of(const std::filesystem::path& file) {
   return rows;
 }
 
-std::vector<Row> model(const std::string& table) {
-  return rows_of(std::filesystem::path(DATA_DIR) / "model" / (table + ".tsv"));
-}
+std::vector<Row> model(const std::string& table) { return rows_of(testing::data_folder / "model" / (table + ".tsv")); }
 
 std::vector<Row> shared(const std::string& table) {
-  return rows_of(std::filesystem::path(DATA_DIR) / "accounts" / (table + ".tsv"));
+  return rows_of(testing::data_folder / "accounts" / (table + ".tsv"));
 }
 
 std::vector<std::string> column(const std::vector<Row>& rows, const std::string& field) {
@@ -172,7 +171,7 @@ void expect_rows_fit(const TableDef& table, const std::filesystem::path& file) {
 TEST(ShippedRows, EveryCellFitsItsField) {
   for (const auto& [folder, tables] :
        {std::pair{"model", company_tables()}, std::pair{"accounts", accounts_tables()}}) {
-    for (const auto& entry : std::filesystem::directory_iterator(std::filesystem::path(DATA_DIR) / folder)) {
+    for (const auto& entry : std::filesystem::directory_iterator(testing::data_folder / folder)) {
       const std::string name = entry.path().stem().string();
       const auto table = std::ranges::find(tables, name, &TableDef::name);
       ASSERT_NE(table, tables.end()) << folder << '/' << name;
@@ -189,7 +188,7 @@ TEST(ShippedRows, EverySharedTableHasRows) {
 
 TEST(ShippedRows, LinksOfTheModelResolve) {
   for (const Reference& link : references()) {
-    const std::filesystem::path folder = std::filesystem::path(DATA_DIR) / "model";
+    const std::filesystem::path folder = testing::data_folder / "model";
     const std::string from(link.from_table), to(link.to_table), to_field(link.to_field);
     if (!link.condition.empty() || !exists(folder / (from + ".tsv"))) continue;
     const auto targets = values(model(to), to_field);

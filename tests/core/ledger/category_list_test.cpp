@@ -1,6 +1,7 @@
 #include "core/ledger/category_list.h"
 
 #include "core/company/folder.h"
+#include "support/places.h"
 #include "support/temp_folder.h"
 
 namespace tallymere {
@@ -9,7 +10,7 @@ namespace {
 class CategoryListTest : public ::testing::Test {
  protected:
   void SetUp() override {
-    Prepare_Folder(folder.path(), DATA_DIR);
+    Prepare_Folder(folder.path(), testing::data_folder);
     db = Open_Current(folder / "Model.mdb", store::FileKind::Model);
     store::Transaction clear(*db, "clear");
     db->Execute("DELETE FROM Accounts");

@@ -21,8 +21,8 @@ class Processes : public ::testing::Test {
   }
   std::unique_ptr<ChildProcess> writer(const std::string& payee, int times) {
     return std::make_unique<ChildProcess>(std::vector<std::string>{
-        CLI_PROGRAM, "enter", "--folder", acme.folder.path().string(), "--company", path(), "--name", payee, "--from",
-        "Checking", "--to", "Rent=100,Office Supplies=25.50", "--times", std::to_string(times)});
+        testing::cli_program, "enter", "--folder", acme.folder.path().string(), "--company", path(), "--name", payee,
+        "--from", "Checking", "--to", "Rent=100,Office Supplies=25.50", "--times", std::to_string(times)});
   }
   std::string path() { return (acme.folder / "Acme.cmf").string(); }
   store::Database& opened() {

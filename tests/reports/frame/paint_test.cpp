@@ -4,6 +4,7 @@
 
 #include "reports/frame/report_file.h"
 #include "support/child_process.h"
+#include "support/places.h"
 #include "support/report_books.h"
 
 namespace tallymere {
@@ -20,7 +21,7 @@ struct Painter {
   fs::path table = folder.path() / "table", pdf = folder.path() / "out.pdf";
 
   int paint(const fs::path& to) {
-    const fs::path program = fs::path(CLI_PROGRAM).parent_path() / "tallymere-paint";
+    const fs::path program = fs::path(testing::cli_program).parent_path() / "tallymere-paint";
     ChildProcess child({program.string(), table.string(), to.string()});
     return child.wait_for_end();
   }

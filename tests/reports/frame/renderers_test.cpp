@@ -6,6 +6,7 @@
 #include "core/store/error.h"
 #include "reports/frame/report_file.h"
 #include "support/child_process.h"
+#include "support/places.h"
 #include "support/report_books.h"
 
 namespace tallymere {
@@ -192,7 +193,7 @@ TEST(ReportCommand, PrintsWhatTheBuilderBuilds) {
   books.add("Sales", "Income");
   books.post({1, "Deposit", Date(2025, 5, 1), "Sales", {}, D(12)});
   auto run = [&](std::vector<std::string> words) {
-    words.insert(words.begin(), {CLI_PROGRAM, "report"});
+    words.insert(words.begin(), {testing::cli_program, "report"});
     for (auto word : {"--company", books.session->CompanyPath.c_str(), "--folder", books.folder.path().c_str()})
       words.push_back(word);
     ChildProcess child(words);
