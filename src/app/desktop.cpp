@@ -40,6 +40,7 @@ int run_box(QWidget* above, const Box& box, QMessageBox::StandardButtons buttons
   text.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
   QMessageBox dialog(icon_of(box.icon), qt(box.title), text, buttons, above);
   dialog.setTextFormat(Qt::PlainText);
+  dialog.setInformativeText(qt(box.detail));
   dialog.setDefaultButton(usual);
   return dialog.exec();
 }

@@ -6,7 +6,10 @@
 
 namespace tallymere::cli {
 
-void Console::box(const Box& box) { std::cerr << box.text << '\n'; }
+void Console::box(const Box& box) {
+  std::cerr << box.text << "\n";
+  if (!box.detail.empty()) std::cerr << box.detail << "\n";
+}
 
 bool Console::ask(const Box& box, Buttons) {
   std::cerr << box.text << " No.\n";

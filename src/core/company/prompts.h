@@ -15,6 +15,7 @@ struct Box {
   std::string text;
   std::string title;
   Icon icon = Icon::Information;
+  std::string detail = {};  ///< one plain line below: which document, which file, what to do; or nothing
 };
 
 /// Something the user must put right: the box to show and the control to go to.
