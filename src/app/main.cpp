@@ -1,4 +1,5 @@
 #include <QApplication>
+#include <QBuffer>
 #include <QCommandLineParser>
 #include <QMessageBox>
 #include <QTimer>
@@ -6,6 +7,7 @@
 
 #include "app/desktop.h"
 #include "app/windows.h"
+#include "core/backup/whole_file.h"
 #include "core/company/company.h"
 #include "core/company/folder.h"
 #include "core/company/program_folder.h"
@@ -44,11 +46,22 @@ Arguments read_arguments(const QApplication& app) {
   return {utf8(parser.positionalArguments().value(0)), utf8(parser.value(screenshot)), utf8(parser.value(folder))};
 }
 
+bool write_picture(const QPixmap& picture, const std::string& file) {
+  try {
+    QBuffer drawn;
+    picture.save(&drawn, "PNG");
+    Write_Whole(file, [&](std::ostream& out) { out.write(drawn.data().constData(), drawn.data().size()); });
+    return true;
+  } catch (const std::exception& fault) {
+    qWarning("%s", fault.what());
+    return false;
+  }
+}
+
 /// Draws the frame once it has settled. Nobody is there to answer what comes up on the way.
 void draw_and_exit(frmMain& frame, const std::string& file, bool opened) {
   QTimer::singleShot(600, &frame, [&frame, file, opened] {
-    const bool drawn = frame.grab().save(qt(file));
-    if (!drawn) qWarning("The picture could not be written: %s", file.c_str());
+    const bool drawn = write_picture(frame.grab(), file);
     QApplication::exit(drawn && opened ? 0 : 1);
   });
 }

@@ -114,10 +114,10 @@ class frmMain : public QMainWindow, public Shell, public CompanyCommands {
   void mnuTaxCheck_Click();
   void mnuExit_Click();
   bool Open_Company(const std::string& path, bool at_start);
-  bool Log_In(bool at_start);
+  bool Log_In();
   bool Ask_Password();
   bool Ask_User();
-  void Withdraw(bool forget_path);
+  void Company_Went(bool at_start);
   void company_came_up();
   void Apply_User_Rights();
   void caption_switch_mode();

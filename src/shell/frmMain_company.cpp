@@ -4,8 +4,10 @@
 #include <QTimer>
 #include <QToolBar>
 
-#include "core/backup/backup.h"
+#include "core/backup/restore.h"
 #include "core/company/company.h"
+#include "core/company/company_name.h"
+#include "core/company/login.h"
 #include "core/company/rights.h"
 #include "core/store/recordset.h"
 #include "shell/frmMain.h"
@@ -19,12 +21,6 @@ namespace tallymere {
 namespace {
 
 constexpr const char* company_filter = "Company Files (*.cmf)|*.cmf";
-
-std::string field_of_company(store::Database& company, const char* field) {
-  const auto info = company.OpenTable("CompanyInfo");
-  info->MoveFirst();
-  return (*info)[field].text();
-}
 
 }  // namespace
 
@@ -70,24 +66,27 @@ void frmMain::mnuOpenCompany_Click() {
 
 bool frmMain::Open_Company(const std::string& path, bool at_start) {
   Open_Company_File(session, path);
-  if (!Log_In(at_start)) return false;
-  Hide_All();
-  Set_Recordsets(session);
+  try {
+    if (!Log_In()) return Company_Went(at_start), false;
+    Hide_All();
+    Set_Recordsets(session);
+  } catch (...) {
+    Company_Went(at_start);  // never half open
+    throw;
+  }
   company_came_up();
   return true;
 }
 
-bool frmMain::Log_In(bool at_start) {
-  session.MultiUser = field_of_company(*session.dbCompany, "UserMode") != "Single";
-  if (!session.MultiUser) {
-    session.CurrentUser.clear();
-    Apply_User_Rights();
-    const bool locked = !field_of_company(*session.dbCompany, "Password").empty();
-    if (locked && !Ask_Password()) return Withdraw(at_start), false;
+bool frmMain::Log_In() {
+  const Entrance entrance = Entrance_Of(*session.dbCompany);
+  if (entrance == Entrance::User) {
+    if (!Ask_User()) return false;
   } else {
-    if (!Ask_User()) return Withdraw(true), false;
-    Apply_User_Rights();
+    if (entrance == Entrance::Password && !Ask_Password()) return false;
+    Enter_As(session, std::nullopt);
   }
+  Apply_User_Rights();
   caption_switch_mode();
   return true;
 }
@@ -102,12 +101,18 @@ bool frmMain::Ask_User() {
   return Run_Modal(asking);
 }
 
-/// A company that was not let in is closed again. The path of one whose password was refused while another
-/// company was open stays, and with it the menus; its windows say that no company is open.
-void frmMain::Withdraw(bool forget_path) {
+/// No company is open any more: one that nobody was let in to, or that could not be opened again. Where frmStart is
+/// not up already it comes, for there is no other way on.
+void frmMain::Company_Went(bool at_start) {
   Timer1->stop();
-  Close_Company_File(session);
-  if (forget_path) session.CompanyPath.clear();
+  Leave_Company(session);
+  Apply_User_Rights();
+  caption_switch_mode();
+  Disable_Menus();
+  Toolbar1->setEnabled(false);
+  show_title();
+  show_background();
+  if (!at_start) show_start();
 }
 
 void frmMain::Apply_User_Rights() {
@@ -169,8 +174,7 @@ bool frmMain::Create_Company(const std::string& name) {
   if (session.LastCompanyError == store::errors::database_exists) return false;
   Open_Company_File(session, Company_Path(session, name));
   Set_Recordsets(session);
-  session.MultiUser = false;
-  session.CurrentUser.clear();
+  Enter_As(session, std::nullopt);
   Apply_User_Rights();
   caption_switch_mode();
   company_came_up();
@@ -181,7 +185,7 @@ bool frmMain::Create_Company(const std::string& name) {
 
 bool frmMain::Backup() {
   if (!session.dbCompany) throw store::Error(store::errors::file_not_found, "No company is open.");
-  const std::string file = session.prompts.save_file(Backup_Filter, field_of_company(*session.dbCompany, "Name"));
+  const std::string file = session.prompts.save_file(Backup_Filter, Proposed_Backup_Name(session));
   return !file.empty() && Backup_Company(session, file);
 }
 
@@ -190,13 +194,14 @@ void frmMain::mnuBackup_Click() { Backup(); }
 bool frmMain::Restore_Company_At_Start() {
   const auto name = session.prompts.input("Restore Name", "Please Enter the File Name for the Company to restore to.");
   if (!name || name->empty()) return false;
+  if (const auto fault = Company_Name_Fault(*name)) return session.prompts.box(*fault), false;
   const auto target = Company_Path(session, *name);
   const std::string file = session.prompts.open_file(Backup_Filter, session.folder.string());
-  if (file.empty() || !Restore_Company(session, file, target)) return false;
-  session.CompanyFile = *name;
+  if (file.empty() || !Restore_Company(session, {.backup = file, .target = target})) return false;
   Hourglass hourglass(session.prompts);
   Set_Recordsets(session);
   Apply_User_Rights();
+  caption_switch_mode();
   company_came_up();
   return true;
 }
@@ -204,9 +209,14 @@ bool frmMain::Restore_Company_At_Start() {
 void frmMain::mnuRestore_Click() {
   const std::string file = session.prompts.open_file(Backup_Filter, session.folder.string());
   if (file.empty()) return;
-  const std::string shown_name = session.CompanyFile;
-  if (!Restore_Company(session, file, session.CompanyPath, [this] { return Hide_All(); })) return;
-  session.CompanyFile = shown_name;
+  try {
+    if (!Restore_Company(session,
+                         {.backup = file, .target = session.CompanyPath, .let_go = [this] { return Hide_All(); }}))
+      return;
+  } catch (...) {
+    if (!session.company_open()) Company_Went(false);
+    throw;
+  }
   Hourglass hourglass(session.prompts);
   Set_Recordsets(session);
   Timer1->start();

@@ -3,6 +3,8 @@
 #include <filesystem>
 #include <fstream>
 
+#include "core/company/folder.h"
+#include "core/company/passwords.h"
 #include "support/child_process.h"
 #include "support/places.h"
 #include "support/temp_folder.h"
@@ -18,10 +20,15 @@ class CommandLine : public ::testing::Test {
   std::string run(const std::string& words) {
     testing::ChildProcess child({"/bin/sh", "-c",
                                  "cd '" + folder.path().string() + "' && '" + testing::cli_program + "' " + words +
-                                     (words.ends_with("--help") ? "" : " --folder .") + " 2>&1"});
+                                     (words.ends_with("--help") || words.ends_with("true") ? "" : " --folder .") +
+                                     " 2>&1"});
     std::string output = child.rest();
     exit_code = child.wait_for_end();
     return output;
+  }
+  std::string content(const std::string& name) {
+    std::ifstream in(folder / name);
+    return {std::istreambuf_iterator<char>(in), {}};
   }
   testing::TempFolder folder;
   int exit_code = -1;
@@ -67,7 +74,8 @@ TEST_F(CommandLine, WhatCannotBeDoneIsSaidAndExits1) {
   };
   const Case cases[] = {
       {"new Acme", "Company name already exisits."},
-      {"new ../Acme", "error 3044"},
+      {"new ../Acme", "cannot hold the character /"},
+      {"new '  '", "Please Enter a Name For the New Company"},
       {"verify --company gone.cmf", "error 3024"},
       {"verify --company folder.cmf", "error 3051"},
       {"verify --company words.cmf",
@@ -78,6 +86,10 @@ TEST_F(CommandLine, WhatCannotBeDoneIsSaidAndExits1) {
       {"enter --company Acme.cmf --name A --from Nowhere --to Rent=1", "there is no category \"Nowhere\""},
       {"restore --backup gone.cbk --company Acme.cmf", "Source file does not exist"},
       {"backup --company Acme.cmf --out nowhere/acme", "nowhere/acme.cbk"},
+      {"report PL --company Acme.cmf --format csv --out Model.mdb", "'Model.mdb' holds a database"},
+      {"report PL --company Acme.cmf --format pdf --out Acme.cmf", "'Acme.cmf' is a file that Tallymere works on"},
+      {"report PL --company Acme.cmf --format xlsx --out ErrorLog.txt",
+       "'ErrorLog.txt' is a file that Tallymere works on"},
   };
   for (const Case& c : cases) {
     EXPECT_NE(run(c.words).find(c.said), std::string::npos) << c.words << "\n" << run(c.words);
@@ -85,6 +97,92 @@ TEST_F(CommandLine, WhatCannotBeDoneIsSaidAndExits1) {
   }
   EXPECT_EQ(run("verify --company Acme.cmf"), "All is well.\n");
   EXPECT_EQ(exit_code, 0);
+}
+
+/// What the caller gets to read is what is kept, and whoever reads nothing is not told that all went well.
+TEST_F(CommandLine, SavedIsSaidOfWhatIsKeptAndAnOutputThatFailsIsAFailure) {
+  const std::string enter = "enter --company Acme.cmf --name A --from Checking --to Rent=1 --times 400";
+  const auto kept = [&] {
+    const auto db = Open_Current(folder / "Acme.cmf", store::FileKind::Company);
+    return db->value("SELECT COUNT(DISTINCT TransNum) FROM Transactions").integer();
+  };
+  // The company's file may grow by some kilobytes only.
+  const auto blocks = std::to_string(std::filesystem::file_size(folder / "Acme.cmf") / 512 + 60);
+  run("verify --company Acme.cmf --folder . ; trap '' XFSZ; ulimit -f " + blocks + "; '" + testing::cli_program + "' " +
+      enter + " --folder . > told; echo $? > code; true");
+  EXPECT_EQ(content("code"), "1\n");
+  const std::string told = content("told");
+  EXPECT_EQ(std::count(told.begin(), told.end(), '\n'), kept());
+  EXPECT_GT(kept(), 3);
+  EXPECT_TRUE(told.ends_with("saved " + std::to_string(kept()) + "\n"));
+
+  // A reader that goes: the work stops where nobody hears of it any more.
+  run("verify --company Acme.cmf --folder . ; ( '" + testing::cli_program + "' " + enter +
+      " --folder . ; echo $? > code ) | head -n 1 > told; true");
+  EXPECT_EQ(content("code"), "1\n");
+  EXPECT_LT(kept(), 800);
+  EXPECT_EQ(run("verify --company Acme.cmf"), "All is well.\n");
+
+  for (const char* words :
+       {"figures --company Acme.cmf", "history --company Acme.cmf", "verify --company Acme.cmf",
+        "report PL --company Acme.cmf", "report", "schema", "help", "backup --company Acme.cmf --out a"})
+    for (const char* nowhere : {" > /dev/full", " >&-"}) {
+      run(std::string(words) + (words == std::string("help") ? "" : " --folder .") + nowhere +
+          "; echo $? > code; true");
+      EXPECT_EQ(content("code"), "1\n") << words << nowhere;
+    }
+  EXPECT_EQ(content("ErrorLog.txt"), "") << "a closed stream's number went to a file";
+  EXPECT_EQ(run("verify --company Acme.cmf"), "All is well.\n");
+}
+
+TEST_F(CommandLine, AnOutputDisturbsNoNeighbour) {
+  for (const char* name : {"u.pdf.report", "u.pdf.new", "u.csv.part"}) std::ofstream(folder / name) << "mine";
+  run("report PL --company Acme.cmf --format pdf --out u.pdf");
+  run("report PL --company Acme.cmf --format csv --out u.csv");
+  EXPECT_EQ(exit_code, 0);
+  for (const char* name : {"u.pdf.report", "u.pdf.new", "u.csv.part"}) EXPECT_EQ(content(name), "mine");
+  for (const auto& entry : std::filesystem::directory_iterator(folder.path()))
+    EXPECT_FALSE(entry.path().filename().string().starts_with(".")) << entry.path();
+}
+
+TEST_F(CommandLine, ACompanyWithAPasswordAsksForIt) {
+  const auto write = [&](const char* sql, const std::string& password) {
+    const auto db = Open_Current(folder / "Acme.cmf", store::FileKind::Company);
+    store::Transaction tx(*db, "Set up by a test");
+    db->Execute(sql, {Hash_Password(password)});
+    tx.commit();
+  };
+  std::ofstream(folder / "right") << "Rain 7\nnext line\n";
+  std::ofstream(folder / "anns") << "Sun\r\n";
+  std::ofstream(folder / "wrong") << "rain 7\n";
+  const std::string verify = "verify --company Acme.cmf --folder . ";
+  struct Case {
+    std::string words, said;
+  };
+  const auto check = [&](std::initializer_list<Case> cases) {
+    for (const Case& c : cases) {
+      const std::string said = run(verify + c.words + " 2>&1; echo $? >code; true");
+      EXPECT_NE(said.find(c.said), std::string::npos) << c.words << ": " << said;
+      EXPECT_EQ(content("code"), c.said == "All is well." ? "0\n" : "1\n") << c.words;
+    }
+  };
+  write("UPDATE CompanyInfo SET Password = ?", "Rain 7");
+  check({{"< right", "All is well."},
+         {"--password-fd 5 5< right < /dev/null", "All is well."},
+         {"< wrong", "Incorrect Password"},
+         {"< /dev/null", "asks for a password"},
+         {"<&-", "asks for a password"},
+         {"--password-fd 9", "asks for a password"}});
+  write("INSERT INTO Users (UserName, Password) VALUES ('Ann', ?)", "Sun");
+  write("UPDATE CompanyInfo SET UserMode = 'Multi', Password = ?", "");
+  check({{"--user admin < /dev/null", "All is well."},
+         {"--user ann < anns", "All is well."},
+         {"--user ann < wrong", "Invlaid Login"},
+         {"--user ann < /dev/null", "asks for a password"},
+         {"--user bob < anns", "Invlaid Login"},
+         {"< anns", "Please enter a User name."}});
+  run("enter --company Acme.cmf --name A --from Checking --to Rent=1 --user ANN --folder . < anns; true");
+  EXPECT_NE(run("history --user Admin --company Acme.cmf").find("\tAnn\tCheck Print, A"), std::string::npos);
 }
 
 TEST_F(CommandLine, ARestoreReplacesWhatNobodyCanOpen) {

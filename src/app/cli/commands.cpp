@@ -2,6 +2,7 @@
 
 #include <iostream>
 
+#include "app/cli/let_in.h"
 #include "core/company/company.h"
 #include "core/company/folder.h"
 #include "core/company/program_folder.h"
@@ -65,7 +66,11 @@ CliSession::CliSession(Arguments& arguments) : session(Prepared(Folder_Of(argume
   Main(session);
 }
 
-void CliSession::open(Arguments& arguments) { open(fs::absolute(arguments.option("company"))); }
+void CliSession::open(Arguments& arguments) {
+  Open_Company_File(session, fs::absolute(arguments.option("company")));
+  Let_In(session, arguments);
+  Set_Recordsets(session);
+}
 
 void CliSession::open(const fs::path& company) {
   Open_Company_File(session, company);

@@ -22,8 +22,9 @@ std::span<const Command> Commands();
 /// A session of the command line on the program's folder (--folder), on today or --today.
 struct CliSession {
   explicit CliSession(Arguments& arguments);
-  /// Makes --company the current company, with its sets.
+  /// Makes --company the current company, with its sets, once who calls has shown to be let in.
   void open(Arguments& arguments);
+  /// One that was just made and asks nobody.
   void open(const std::filesystem::path& company);
 
   Console console;

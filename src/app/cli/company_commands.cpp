@@ -1,7 +1,7 @@
 #include <iostream>
 
 #include "app/cli/commands.h"
-#include "core/backup/backup.h"
+#include "core/backup/restore.h"
 #include "core/company/company.h"
 #include "core/ledger/balances.h"
 #include "core/ledger/verify.h"
@@ -77,7 +77,8 @@ int Restore(Arguments& arguments) {
   fs::path backup = arguments.option("backup");
   fs::path company = fs::absolute(arguments.option("company"));
   arguments.finish();
-  Restore_Company(cli.session, backup, company);  // what stands there now need not open any more
+  // Who names the company has been asked; what stands there now need not open any more.
+  Restore_Company(cli.session, {.backup = backup, .target = company, .ask = false});
   std::cout << company.string() << "\n";
   return 0;
 }

@@ -53,6 +53,13 @@ int64_t Enter_One(Session& session, const TransactionHead& head, const std::stri
   return rows.number();
 }
 
+/// Not a letter of it before it is safe, for a save that fails must not look like one; and none goes untold.
+void Tell_Saved(int64_t number) {
+  std::cout << "saved " << number << std::endl;
+  if (!std::cout)
+    throw std::runtime_error("transaction " + std::to_string(number) + " is saved, but that cannot be told");
+}
+
 }  // namespace
 
 int Enter(Arguments& arguments) {
@@ -67,8 +74,7 @@ int Enter(Arguments& arguments) {
   auto lines = Lines_Of(session, arguments.option("to"));
   int64_t times = arguments.number("times").value_or(1);
   arguments.finish();
-  for (int64_t done = 0; done < times; ++done)
-    std::cout << "saved " << Enter_One(session, head, bank, lines, memo) << std::endl;  // told only once it is safe
+  for (int64_t done = 0; done < times; ++done) Tell_Saved(Enter_One(session, head, bank, lines, memo));
   if (session.RecalcAll) Update_Accounts(session);  // the wish for it would end with this call
   return 0;
 }

@@ -4,6 +4,7 @@
 #include "core/ledger/balances.h"
 #include "core/ledger/undo.h"
 #include "core/store/history.h"
+#include "core/values/control_characters.h"
 
 namespace tallymere::cli {
 namespace {
@@ -21,8 +22,8 @@ const char* Word_For(store::RowChange::Kind kind) {
 }
 
 void Show_Action(const store::Action& action) {
-  std::cout << action.number << "\t" << action.at << "\t" << action.user << "\t" << action.what
-            << (action.undoable ? "" : "\t(cannot be taken back)") << "\n";
+  std::cout << action.number << "\t" << in_one_plain_line(action.at) << "\t" << in_one_plain_line(action.user) << "\t"
+            << in_one_plain_line(action.what) << (action.undoable ? "" : "\t(cannot be taken back)") << "\n";
 }
 
 }  // namespace
@@ -40,9 +41,10 @@ int History(Arguments& arguments) {
   }
   Show_Action(store::Find_Action(db, *number));
   for (const auto& change : store::Changes_Of(db, *number)) {
-    std::cout << "  " << Word_For(change.kind) << " in " << change.table << "\n";
+    std::cout << "  " << Word_For(change.kind) << " in " << in_one_plain_line(change.table) << "\n";
     for (const auto& cell : change.cells)
-      std::cout << "    " << cell.field << ": " << cell.before.text() << " -> " << cell.after.text() << "\n";
+      std::cout << "    " << cell.field << ": " << in_one_plain_line(cell.before.text()) << " -> "
+                << in_one_plain_line(cell.after.text()) << "\n";
   }
   return 0;
 }

@@ -3,7 +3,6 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <fstream>
 #include <iostream>
 
 #include "app/cli/commands.h"
@@ -81,25 +80,23 @@ void Take_Options(Arguments& arguments, const ReportDef& report, store::Database
   }
 }
 
-/// Hands the table to the program that paints pages: this one links nothing that could.
-void Write_Pdf(const ReportTable& table, const fs::path& out) {
-  fs::path painter = Program_File().parent_path() / "tallymere-paint";
-  if (!fs::exists(painter)) throw std::runtime_error("tallymere-paint, which paints pages, is not installed here");
-  fs::path handed = out;
-  handed += ".report";
-  {
-    std::ofstream file(handed, std::ios::binary);
-    Write_Report_File(table, file);
-    if (!file.flush()) throw std::runtime_error("'" + handed.string() + "' cannot be written");
-  }
-  std::string program = painter.string(), from = handed.string(), to = out.string();
+int Run_Painter(const fs::path& painter, const fs::path& table, const fs::path& out) {
+  std::string program = painter.string(), from = table.string(), to = out.string();
   char* words[] = {program.data(), from.data(), to.data(), nullptr};
   pid_t child = 0;
-  int fault = posix_spawn(&child, program.c_str(), nullptr, nullptr, words, environ);
+  if (posix_spawn(&child, program.c_str(), nullptr, nullptr, words, environ) != 0) return 1;
   int status = 1;
-  if (fault == 0) waitpid(child, &status, 0);
-  fs::remove(handed);
-  if (fault != 0 || status != 0) throw std::runtime_error("the pages could not be painted");
+  waitpid(child, &status, 0);
+  return status;
+}
+
+/// Hands the table to the program that paints pages: this one links nothing that could.
+void Write_Pdf(Session& session, const ReportTable& table, const fs::path& out) {
+  const fs::path painter = Program_File().parent_path() / "tallymere-paint";
+  if (!fs::exists(painter)) throw std::runtime_error("tallymere-paint, which paints pages, is not installed here");
+  const FileAside handed(session.folder);
+  Write_Bytes(handed.path(), handed.path(), [&](std::ostream& file) { Write_Report_File(table, file); });
+  if (Run_Painter(painter, handed.path(), out) != 0) throw std::runtime_error("the pages could not be painted");
 }
 
 using Writer = void (*)(const ReportTable&, std::ostream&);
@@ -113,12 +110,12 @@ void Write_Stream(const ReportTable& table, const std::string& out, Writer write
   Write_Whole(out, [&](std::ostream& file) { write(table, file); });
 }
 
-void Write_As(const ReportTable& table, const std::string& format, const std::string& out) {
+void Write_As(Session& session, const ReportTable& table, const std::string& format, const std::string& out) {
   if (format == "text") return Write_Stream(table, out, Write_Text);
   if (format == "csv") return Write_Stream(table, out, Write_Csv);
   if (format == "table") return Write_Stream(table, out, Write_Report_File);
   if (format == "xlsx") return Write_Xlsx(table, out);
-  Write_Pdf(table, out);
+  Write_Pdf(session, table, out);
 }
 
 std::string Format_Of(Arguments& arguments, const std::string& out) {
@@ -147,11 +144,12 @@ int Report(Arguments& arguments) {
   Take_Dates(arguments, cli.session.today(), request);
   Take_Basis(arguments, report, request);
   cli.open(arguments);
+  if (!out.empty()) Refuse_Output(out);  // before the work, and while the company is known
   Take_Options(arguments, report, *cli.session.dbCompany, request);
   arguments.finish();
   const ReportTable table = Build_Report(cli.session, request);
   if (!table.notice.empty()) std::cerr << table.notice << "\n";
-  Write_As(table, format, out);
+  Write_As(cli.session, table, format, out);
   return 0;
 }
 

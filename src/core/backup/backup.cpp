@@ -1,9 +1,9 @@
 #include "core/backup/backup.h"
 
-#include "core/backup/clsHuffman.h"
+#include "core/backup/seal.h"
+#include "core/backup/stoppable.h"
 #include "core/backup/whole_file.h"
-#include "core/company/company.h"
-#include "core/company/folder.h"
+#include "core/values/control_characters.h"
 #include "core/values/text.h"
 
 namespace tallymere {
@@ -11,44 +11,28 @@ namespace {
 
 namespace fs = std::filesystem;
 
-struct Stopped {};
-
-clsHuffman Huffman_With(const Percent& percent) {
-  clsHuffman huffman;
-  if (percent)
-    huffman.Progress = [percent](int done) {
-      if (!percent(done)) throw Stopped{};
-    };
-  return huffman;
-}
-
 std::string Without_Points(std::string text) {
   std::erase_if(text, [](char c) { return c == '.' || c == ','; });
   return text;
 }
 
-/// Hundredths, from the first on.
-Percent Told(ProgressBar& bar) {
-  bar.at(0, 100);
-  return [&bar](int done) { return bar.at(done, 100); };
+FileAside Copy_Of(store::Database& company, FileAside copy) {
+  company.connection().copy_to(copy.path());
+  store::Connection writing(copy.path(), store::Connection::Mode::ReadWrite);
+  Seal_Copy(writing, company.author().now ? company.author().now() : std::string());
+  return copy;
 }
 
-/// What of the session a restore changes, to put it back.
-struct CompanyState {
-  explicit CompanyState(const Session& session)
-      : path(session.CompanyPath), file(session.CompanyFile), open(session.dbCompany != nullptr) {}
-  void reopen(Session& session) const {
-    Close_Company_File(session);
-    if (open) {
-      Open_Company_File(session, path);
-      Set_Recordsets(session);
-    }
-    session.CompanyPath = path;
-    session.CompanyFile = file;
+/// Beside the company, where the next start finds it if this program is killed; where that disk has no room left,
+/// where the backup goes.
+FileAside Sealed_Copy(store::Database& company, const fs::path& home, const fs::path& otherwise) {
+  try {
+    return Copy_Of(company, FileAside(home));
+  } catch (const store::Error& fault) {
+    if (fault.number != store::errors::disk_full) throw;
+    return Copy_Of(company, FileAside(otherwise, FileMode::Private, home));
   }
-  std::string path, file;
-  bool open;
-};
+}
 
 }  // namespace
 
@@ -60,99 +44,44 @@ fs::path Backup_File_Name(const std::string& typed) {
   return folder / (Without_Points(fs::path(typed).filename().string()) + ".cbk");
 }
 
+std::string Proposed_Backup_Name(Session& session) {
+  std::string name = in_one_plain_line(session.dbCompany->value("SELECT Name FROM CompanyInfo").text());
+  std::erase_if(name, [](char c) { return std::string_view("/\\:*?\"<>|").find(c) != std::string_view::npos; });
+  size_t end = std::min<size_t>(name.size(), 100);
+  while (end < name.size() && (name[end] & 0xC0) == 0x80) --end;  // no letter is cut in two
+  name.resize(end);
+  return trim(name + " " + session.today().to_iso()) + ".cbk";
+}
+
+Percent Told(ProgressBar& bar) {
+  bar.at(0, 100);
+  return [&bar](int done) { return bar.at(done, 100); };
+}
+
 bool Write_Backup(store::Database& company, const fs::path& destination, const Percent& percent) {
-  const FileAside copy(destination, ".copy"), packed(destination, ".packed");
-  company.connection().copy_to(copy.path());
+  const fs::path home = Folder_Of(company.path()), there = Folder_Of(destination);
+  WholeFile backup(destination, FileMode::Private, Is_Same_File(home, there) ? fs::path() : home);
+  const FileAside copy = Sealed_Copy(company, home, there);
   try {
-    Huffman_With(percent).EncodeFile(copy.path(), packed.path());
+    Huffman_With(percent).EncodeInto(copy.path(), backup.path(), destination);
   } catch (const Stopped&) {
     return false;
   }
-  fs::rename(packed.path(), destination);
+  backup.finish();
   return true;
-}
-
-fs::path Expand_Backup(const fs::path& backup, const fs::path& target, const Percent& percent) {
-  FileAside expanded(target, ".restored");
-  try {
-    Huffman_With(percent).DecodeFile(backup, expanded.path());
-  } catch (const Stopped&) {
-    return {};
-  }
-  const auto company = Open_Current(expanded.path(), store::FileKind::Company);
-  if (company->value("SELECT COUNT(*) FROM CompanyInfo").integer() != 1)
-    throw store::Error(store::errors::not_a_database, "The backup holds no company.");
-  // Stored data has no checksum, and the one of compressed data is a single byte.
-  if (const auto faults = company->connection().integrity_faults(); !faults.empty())
-    throw store::Error(store::errors::file_damaged, "The company in the backup is damaged: " + faults.front());
-  return expanded.hand_on();
 }
 
 namespace {
 
-/// Runs `reopen`; when it throws, `take_back` runs before the fault goes on.
-template <typename TakeBack>
-void Reopen_Or(const std::function<void()>& reopen, TakeBack&& take_back) {
-  try {
-    reopen();
-  } catch (...) {
-    take_back();
-    throw;
-  }
-}
-
-/// Writes the content of one company file over another in one commit, as any other writer would: a program
-/// that has the other one open goes on with the new content instead of saving into a file that nobody sees
-/// again.
-void Write_Over(const fs::path& from, const fs::path& over) {
-  store::Connection(from, store::Connection::Mode::ReadWrite).copy_to(over);
-}
-
-/// false: what stands there can be read by nobody.
-bool Keep_Copy(const fs::path& company, const fs::path& copy) {
-  try {
-    Write_Over(company, copy);
-    return true;
-  } catch (const store::Error& fault) {
-    if (fault.number != store::errors::not_a_database && fault.number != store::errors::file_damaged) throw;
-    return false;
-  }
-}
-
-void Move_With_Journal(const fs::path& from, const fs::path& to) {
-  std::error_code no_journal;
-  fs::rename(from, to);
-  fs::rename(Journal_Of(from), Journal_Of(to), no_journal);
-}
-
-void Replace_Unreadable(const fs::path& expanded, const fs::path& target, const std::function<void()>& reopen) {
-  fs::path before = target;
-  before += ".before";
-  Move_With_Journal(target, before);
-  Reopen_Or(
-      [&] {
-        fs::rename(expanded, target);
-        reopen();
-      },
-      [&] { Move_With_Journal(before, target); });
+/// The name was cleaned after it was chosen: nobody was asked about a file that has the clean one.
+bool May_Replace(Session& session, const std::string& chosen, const fs::path& file) {
   std::error_code ignored;
-  fs::remove(before, ignored);
-  fs::remove(Journal_Of(before), ignored);
+  if (file == chosen || !fs::exists(file, ignored)) return true;
+  return session.prompts.ask({"Replace the backup that is there?", "Backup", Icon::Question, file.string()},
+                             Buttons::YesNoDefaultNo);
 }
 
 }  // namespace
-
-void Replace_Company(const fs::path& expanded, const fs::path& target, const std::function<void()>& reopen) {
-  if (Move_To_Free_Place(expanded, target))
-    return Reopen_Or(reopen, [&] {
-      std::error_code ignored;
-      fs::remove(target, ignored);
-    });
-  const FileAside before(target, ".before");
-  if (!Keep_Copy(target, before.path())) return Replace_Unreadable(expanded, target, reopen);
-  Write_Over(expanded, target);
-  Reopen_Or(reopen, [&] { Write_Over(before.path(), target); });
-}
 
 bool Backup_Company(Session& session, const std::string& file_name) {
   if (file_name.empty()) {
@@ -160,30 +89,13 @@ bool Backup_Company(Session& session, const std::string& file_name) {
     return false;
   }
   if (!session.dbCompany) throw store::Error(store::errors::file_not_found, "No company is open.");
+  const fs::path file = Backup_File_Name(file_name);
+  if (!May_Replace(session, file_name, file)) return false;
   {
     ProgressBar bar(session.prompts, "Backup");
-    if (!Write_Backup(*session.dbCompany, Backup_File_Name(file_name), Told(bar))) return false;
+    if (!Write_Backup(*session.dbCompany, file, Told(bar))) return false;
   }
-  session.prompts.box({"Backup Successful.", "Backup", Icon::Information});
-  return true;
-}
-
-bool Restore_Company(Session& session, const fs::path& backup, const fs::path& target,
-                     const std::function<bool()>& let_go) {
-  const FileAside expanded = [&] {
-    ProgressBar bar(session.prompts, "Restore");
-    return FileAside::Adopt(Expand_Backup(backup, target, Told(bar)));
-  }();
-  if (expanded.path().empty() || (let_go && !let_go())) return false;
-  const CompanyState before(session);
-  Close_Company_File(session);
-  try {
-    Replace_Company(expanded.path(), target, [&] { Open_Company_File(session, target); });
-  } catch (...) {
-    before.reopen(session);
-    throw;
-  }
-  session.prompts.box({"Restore Successful.", "Restore", Icon::Information});
+  session.prompts.box({"Backup Successful.", "Backup", Icon::Information, "The backup is " + file.string() + "."});
   return true;
 }
 

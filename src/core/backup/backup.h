@@ -6,7 +6,7 @@
 
 #include "core/company/session.h"
 
-/// Backup of a company into one HE3 file, and its way back.
+/// Backup of a company into one HE3 file.
 namespace tallymere {
 
 inline constexpr const char* Backup_Filter = "Backup Files (*.cbk)|*.cbk";
@@ -16,34 +16,21 @@ inline constexpr const char* Backup_Filter = "Backup Files (*.cbk)|*.cbk";
 /// cleaned.
 std::filesystem::path Backup_File_Name(const std::string& typed);
 
+/// The name a backup of the open company is offered: "Acme Supply 2026-03-17.cbk".
+std::string Proposed_Backup_Name(Session& session);
+
 /// Percent done; false asks to stop.
 using Percent = std::function<bool(int)>;
 
-/// Writes the open company into a backup as it stands at one moment, read under a lock. The destination is
-/// replaced as a whole or left as it was. false: stopped on request. store::Error, HuffmanError or
-/// filesystem_error on failure.
+/// Hundredths, from the first on.
+Percent Told(ProgressBar& bar);
+
+/// Writes the open company into a sealed backup as it stands at one moment, read under a lock. The destination is
+/// replaced as a whole or left as it was. false: stopped on request. store::Error or HuffmanError on failure.
 bool Write_Backup(store::Database& company, const std::filesystem::path& destination, const Percent& percent = {});
 
-/// Expands a backup beside `target` and makes sure of its checksum and that it opens as a company. Returns
-/// the expanded file, which the caller owns; nothing is left behind on failure or stop (an empty path).
-std::filesystem::path Expand_Backup(const std::filesystem::path& backup, const std::filesystem::path& target,
-                                    const Percent& percent = {});
-
-/// Puts an expanded backup in the place of a company file, and takes it back if `reopen` throws. Others who
-/// have the company open go on with the restored one; while one of them writes, Error 3218. The expanded file
-/// stays the caller's, where it was not moved.
-void Replace_Company(const std::filesystem::path& expanded, const std::filesystem::path& target,
-                     const std::function<void()>& reopen);
-
 /// The command "Backup" on a name already chosen: the name's test, the work with its progress, the box at the
-/// end. false: nothing was written.
+/// end, which says where the backup is. false: nothing was written.
 bool Backup_Company(Session& session, const std::string& file_name);
-
-/// The command "Restore" from a backup already chosen over the company file `target`, which need not exist;
-/// it is the open company afterwards, without its sets. `let_go` runs once the backup has proved sound and
-/// before the company that is open is closed: its windows go here; false ends the command. When this throws,
-/// the company is open again as it was, with its sets. false: stopped on request.
-bool Restore_Company(Session& session, const std::filesystem::path& backup, const std::filesystem::path& target,
-                     const std::function<bool()>& let_go = {});
 
 }  // namespace tallymere

@@ -233,19 +233,16 @@ Bytes Read_Whole_File(const fs::path& path, std::size_t length, std::string_view
   return bytes;
 }
 
-/// Writes beside the destination first: a full disk must not cost the file that was there.
-void Replace_File(const fs::path& path, const Bytes& bytes, std::string_view source) {
-  auto part = path;
-  part += ".part";
-  std::ofstream file(part, std::ios::binary | std::ios::trunc);
-  file.write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
-  file.close();
-  std::error_code fault;
-  const bool whole = file && Make_Lasting(part);
-  if (whole) fs::rename(part, path, fault);
-  if (whole && !fault) return;
-  fs::remove(part, fault);
-  throw HuffmanError(source, "Destination file could not be written");
+void Write_File(const fs::path& path, const Bytes& bytes, const fs::path& becomes) {
+  Write_Bytes(path, becomes, [&](std::ostream& out) {
+    out.write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
+  });
+}
+
+void Replace_File(const fs::path& path, const Bytes& bytes) {
+  FileAside aside(Folder_Of(path));
+  Write_File(aside.path(), bytes, path);
+  aside.replace(path);
 }
 
 }  // namespace
@@ -256,23 +253,39 @@ bool clsHuffman::FileExists(const fs::path& path, std::uintmax_t& length) {
   return !fault;
 }
 
-void clsHuffman::EncodeFile(const fs::path& source, const fs::path& destination) const {
+std::vector<std::uint8_t> clsHuffman::Encoded(const fs::path& source) const {
   constexpr std::string_view kSource = "clsHuffman.EncodeFile()";
   std::uintmax_t length;
   if (!FileExists(source, length)) throw HuffmanError(kSource, "Source file does not exist");
   if (length > kMaxLength) throw Too_Long(kSource);  // before it fills the memory
   auto bytes = Read_Whole_File(source, length, kSource);
   EncodeByte(bytes);
-  Replace_File(destination, bytes, kSource);
+  return bytes;
 }
 
-void clsHuffman::DecodeFile(const fs::path& source, const fs::path& destination) const {
+std::vector<std::uint8_t> clsHuffman::Decoded(const fs::path& source) const {
   constexpr std::string_view kSource = "clsHuffman.DecodeFile()";
   std::uintmax_t length;
   if (!FileExists(source, length)) throw HuffmanError(kSource, "Source file does not exist");
   auto bytes = Read_Whole_File(source, length, kSource);
   DecodeByte(bytes);
-  Replace_File(destination, bytes, kSource);
+  return bytes;
+}
+
+void clsHuffman::EncodeFile(const fs::path& source, const fs::path& destination) const {
+  Replace_File(destination, Encoded(source));
+}
+
+void clsHuffman::DecodeFile(const fs::path& source, const fs::path& destination) const {
+  Replace_File(destination, Decoded(source));
+}
+
+void clsHuffman::EncodeInto(const fs::path& source, const fs::path& aside, const fs::path& becomes) const {
+  Write_File(aside, Encoded(source), becomes);
+}
+
+void clsHuffman::DecodeInto(const fs::path& source, const fs::path& aside, const fs::path& becomes) const {
+  Write_File(aside, Decoded(source), becomes);
 }
 
 void clsHuffman::EncodeByte(Bytes& bytes) const {

@@ -27,9 +27,17 @@ class clsHuffman {
   /// Percent done, 0 to 100; raised on each change within a call. What it throws ends the operation.
   std::function<void(int)> Progress;
 
-  /// Source file to destination file. The destination is replaced as a whole, or on any error left as it was.
+  /// Source file to destination file. The destination is replaced as a whole, or on any error left as it was
+  /// (store::Error where it cannot be written).
   void EncodeFile(const std::filesystem::path& source, const std::filesystem::path& destination) const;
   void DecodeFile(const std::filesystem::path& source, const std::filesystem::path& destination) const;
+
+  /// The same straight into a file that only the caller knows; it is called what it will become when it cannot be
+  /// written.
+  void EncodeInto(const std::filesystem::path& source, const std::filesystem::path& aside,
+                  const std::filesystem::path& becomes) const;
+  void DecodeInto(const std::filesystem::path& source, const std::filesystem::path& aside,
+                  const std::filesystem::path& becomes) const;
 
   /// Replaces the bytes by their compressed form; refuses more than 2^31-1 of them. Unchanged on error.
   void EncodeByte(std::vector<std::uint8_t>& bytes) const;
@@ -45,6 +53,8 @@ class clsHuffman {
  private:
   /// True when the file's length can be read, and then gives it.
   static bool FileExists(const std::filesystem::path& path, std::uintmax_t& length);
+  std::vector<std::uint8_t> Encoded(const std::filesystem::path& source) const;
+  std::vector<std::uint8_t> Decoded(const std::filesystem::path& source) const;
   bool Decode_In_Place(std::vector<std::uint8_t>& bytes) const;
 };
 

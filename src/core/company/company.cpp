@@ -1,6 +1,7 @@
 #include "core/company/company.h"
 
-#include "core/backup/whole_file.h"
+#include "core/backup/file_aside.h"
+#include "core/company/company_name.h"
 #include "core/company/folder.h"
 #include "core/company/tax_update.h"
 #include "core/values/text.h"
@@ -115,6 +116,7 @@ void Introduce(Session& session, Database& db) {
 }  // namespace
 
 void Main(Session& session) {
+  Sweep_Asides(session.folder);
   session.dbAccounts = Open_Current(session.folder / "Accounts.mdb", FileKind::Shared);
   session.RecalcAll = false;
   Check_Updates(session);
@@ -137,10 +139,9 @@ void Close_Sets(Session& session) {
 }
 
 fs::path Company_Path(const Session& session, const std::string& name) {
-  bool impossible = name.empty() || name.find_first_of("/\\:*?\"<>|") != std::string::npos || name[0] == '.';
-  if (impossible || name.size() > 200)
-    throw store::Error(store::errors::bad_path, "'" + name + "' isn't a valid name for a company file.");
-  return session.folder / (name + ".cmf");
+  if (const auto fault = Company_Name_Fault(name))
+    throw store::Error(store::errors::bad_path, fault->detail.empty() ? fault->text : fault->detail);
+  return session.folder / (trim(name) + ".cmf");
 }
 
 namespace {
@@ -149,21 +150,21 @@ namespace {
 /// it is taken.
 bool Build_Company(Session& session, const fs::path& path, const std::string& name) {
   if (fs::exists(path)) return false;
-  const FileAside aside(path, ".new");
+  FileAside aside(session.folder);
   {
     auto company = Database::CreateDatabase(aside.path(), FileKind::Company);
     company->NewPassword("", database_password);
     Introduce(session, *company);
     Fill_New_Company(session, *company, name);
   }
-  return Move_To_Free_Place(aside.path(), path);
+  return aside.take_free(path);
 }
 
 }  // namespace
 
 void New_Company(Session& session, const std::string& name) {
   session.LastCompanyError = 0;
-  if (Build_Company(session, Company_Path(session, name), name)) {
+  if (Build_Company(session, Company_Path(session, name), trim(name))) {
     session.MultiUser = false;
     return;
   }
@@ -174,6 +175,7 @@ void New_Company(Session& session, const std::string& name) {
 void Open_Company_File(Session& session, const fs::path& path) {
   auto opened = Open_Current(path, FileKind::Company, Author_Of(session));
   opened->set_caches(Is_Cache);
+  Sweep_Asides(Folder_Of(path));
   Close_Company_File(session);
   session.dbCompany = std::move(opened);
   session.CompanyPath = path.string();
@@ -184,6 +186,14 @@ void Close_Company_File(Session& session) {
   Close_Sets(session);
   session.sets.CustomerMessages.reset();  // its database goes with the company
   session.dbCompany.reset();
+}
+
+void Leave_Company(Session& session) {
+  Close_Company_File(session);
+  session.CompanyPath.clear();
+  session.CompanyFile.clear();
+  session.CurrentUser.clear();
+  session.MultiUser = false;
 }
 
 std::string Main_Title(const Session& session) {

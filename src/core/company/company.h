@@ -14,7 +14,7 @@ void Main(Session& session);
 void Set_Recordsets(Session& session);  ///< opens every long-lived set, loads the number words
 void Close_Sets(Session& session);      ///< all but CustomerMessages, which the next Set_Recordsets opens over
 
-/// Builds a new company file from Model.mdb, in the program's folder. An existing name gives the box
+/// Builds a new company file from Model.mdb, in the program's folder; blanks around the name go. An existing name gives the box
 /// "Company name already exisits." and LastCompanyError 3204; another fault goes on as store::Error and leaves no file.
 void New_Company(Session& session, const std::string& name);
 
@@ -26,10 +26,14 @@ void Open_Company_File(Session& session, const std::filesystem::path& path);
 /// Lets go of dbCompany and its sets. CompanyPath stays; the caller decides.
 void Close_Company_File(Session& session);
 
+/// No company is open from here on, and nobody is logged in.
+void Leave_Company(Session& session);
+
 /// "Acme - Main Display": the file's name less its last four characters; without a company "Main Display".
 std::string Main_Title(const Session& session);
 
-/// Where a company of this name lives: the program's folder, name and ".cmf". Error 3044 for a name no file can have.
+/// Where a company of this name lives: the program's folder, name and ".cmf". Error 3044, with why, for a
+/// name that no company can have (company_name.h).
 std::filesystem::path Company_Path(const Session& session, const std::string& name);
 
 }  // namespace tallymere

@@ -1,6 +1,6 @@
 #include "core/company/folder.h"
 
-#include "core/backup/whole_file.h"
+#include "core/backup/file_aside.h"
 #include "core/store/recordset.h"
 #include "core/values/tsv.h"
 
@@ -68,7 +68,7 @@ void Load_Rows(Database& db, const TableDef& table, const fs::path& file) {
 void Build(const fs::path& path, FileKind kind, const fs::path& rows) {
   if (!fs::is_directory(rows))
     throw store::Error(store::errors::bad_path, "The rows that ship with the program are missing: " + rows.string());
-  const FileAside aside(path, ".new");
+  FileAside aside(Folder_Of(path), FileMode::Usual);
   {
     auto db = Database::CreateDatabase(aside.path(), kind);
     db->NewPassword("", database_password);
@@ -78,7 +78,7 @@ void Build(const fs::path& path, FileKind kind, const fs::path& rows) {
     db->set_version(schema_version);
     build.commit();
   }
-  Move_To_Free_Place(aside.path(), path);  // unless another program was first
+  aside.take_free(path);  // unless another program was first
 }
 
 void Build_Or_Upgrade(const fs::path& path, FileKind kind, const fs::path& rows) {

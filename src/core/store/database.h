@@ -90,7 +90,7 @@ class Database {
  public:
   using Params = std::vector<Value>;
 
-  /// Error 3204 when the file exists, 3044 when it cannot be made.
+  /// Error 3204 when the file exists and is not empty, 3044 when it cannot be made.
   static std::unique_ptr<Database> CreateDatabase(const std::filesystem::path& path, FileKind kind);
   /// `connect` is "MS Access;pwd=...;". Errors: 3024 not found, 3343 not such a database, 3049 damaged,
   /// 3031 wrong password, 3349 made by a newer version. `version` is the newest schema this program knows.

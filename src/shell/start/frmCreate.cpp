@@ -4,6 +4,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 
+#include "core/company/company_name.h"
 #include "shell/widgets/theme.h"
 
 namespace tallymere {
@@ -23,9 +24,9 @@ frmCreate::frmCreate(Shell& shell_of_frame, CompanyCommands& commands)
 }
 
 void frmCreate::cmdOk_AfterClick() {
-  if (txtName->text().isEmpty())
-    return show_fault({{"Please Enter a Name For the New Company", "No Name", Icon::Information}, "txtName"});
-  finish(commands_.Create_Company(utf8(txtName->text())));
+  const std::string name = utf8(txtName->text());
+  if (const auto fault = Company_Name_Fault(name)) return show_fault({*fault, "txtName"});
+  finish(commands_.Create_Company(name));
 }
 
 }  // namespace tallymere

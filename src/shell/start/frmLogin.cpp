@@ -4,7 +4,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 
-#include "core/company/passwords.h"
+#include "core/company/login.h"
 #include "core/company/rights.h"
 #include "core/store/recordset.h"
 #include "shell/widgets/grid/SSDBCombo.h"
@@ -40,21 +40,12 @@ void frmLogin::load() {
   txtPassord->setFocus();
 }
 
-/// The user's name as the company spells it, when the password is right.
-std::optional<std::string> frmLogin::accepted_user(const std::string& user) const {
-  const auto users = session.dbCompany->OpenTable("Users");
-  users->Index("UserName");
-  if (!users->Seek(user)) return std::nullopt;
-  if (!Password_Matches((*users)["Password"].text(), utf8(txtPassord->text()))) return std::nullopt;
-  return (*users)["UserName"].text();
-}
-
 void frmLogin::cmdLogin_AfterClick() {
   const std::string user = cmbUser->text();
   if (user.empty()) return show_fault({{"Please enter a User name.", "No User", Icon::Information}, "cmbUser"});
-  const auto name = accepted_user(user);
+  const auto name = Accepted_User(*session.dbCompany, user, utf8(txtPassord->text()));
   if (!name) return show_fault({{"Invlaid Login", "Access Denied", Icon::Critical}, "txtPassord"});
-  session.CurrentUser = *name;
+  Enter_As(session, name);
   finish(true);
 }
 

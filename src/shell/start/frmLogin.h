@@ -1,7 +1,5 @@
 #pragma once
 
-#include <optional>
-
 #include "shell/widgets/Form.h"
 
 class QLineEdit;
@@ -11,7 +9,7 @@ namespace tallymere {
 
 class SSDBCombo;
 
-/// Asks who it is. Accepted: session.CurrentUser is a user of the company who gave the right password.
+/// Asks who it is. Accepted: the session works as a user of the company who gave the right password.
 class frmLogin : public Form {
   Q_OBJECT
 
@@ -22,7 +20,6 @@ class frmLogin : public Form {
  private:
   void build();
   void cmdLogin_AfterClick();
-  std::optional<std::string> accepted_user(const std::string& user) const;
 
   SSDBCombo* cmbUser;
   QLineEdit* txtPassord;

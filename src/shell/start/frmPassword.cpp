@@ -4,8 +4,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 
-#include "core/company/passwords.h"
-#include "core/store/recordset.h"
+#include "core/company/login.h"
 #include "shell/widgets/theme.h"
 
 namespace tallymere {
@@ -25,9 +24,7 @@ frmPassword::frmPassword(Shell& shell_of_frame) : Form(shell_of_frame, "frmPassw
 }
 
 void frmPassword::cmdOk_AfterClick() {
-  const auto info = session.dbCompany->OpenTable("CompanyInfo");
-  info->MoveFirst();
-  if (!Password_Matches((*info)["Password"].text(), utf8(Text1->text())))
+  if (!Is_Company_Password(*session.dbCompany, utf8(Text1->text())))
     return show_fault({{"Incorrect Password", "Password", Icon::Information}, "Text1"});
   finish(true);
 }

@@ -1,11 +1,12 @@
 #include "shell/widgets/printed_pages.h"
 
+#include <QFile>
 #include <QPagedPaintDevice>
 #include <QPainter>
 #include <QPdfWriter>
 #include <QPrinter>
-#include <QSaveFile>
 
+#include "core/backup/whole_file.h"
 #include "core/company/prompts.h"
 #include "core/store/error.h"
 
@@ -52,7 +53,8 @@ Printed Print_Pages(const Pages& pages, QPagedPaintDevice& device, int from, int
 
 bool Write_Pdf(const Pages& pages, const std::filesystem::path& file, const QString& title,
                const Keep_Going& keep_going) {
-  QSaveFile out(QString::fromStdString(file.string()));
+  WholeFile whole(file);
+  QFile out(QString::fromStdString(whole.path().string()));
   auto printed = Printed::Refused;
   if (out.open(QIODevice::WriteOnly)) {
     QPdfWriter writer(&out);
@@ -63,8 +65,10 @@ bool Write_Pdf(const Pages& pages, const std::filesystem::path& file, const QStr
     printed = Print_Pages(pages, writer, 0, pages.count() - 1, keep_going);
   }
   if (printed == Printed::Stopped) return false;
-  if (printed == Printed::Refused || !out.commit())
+  if (printed == Printed::Refused || !out.flush() || out.error() != QFileDevice::NoError)
     throw store::Error(store::errors::disk_full, "'" + file.string() + "' cannot be written.");
+  out.close();
+  whole.finish();
   return true;
 }
 

@@ -12,6 +12,8 @@
 #include <utility>
 #include <vector>
 
+#include "core/store/error.h"
+
 namespace tallymere {
 namespace {
 
@@ -293,7 +295,7 @@ TEST_F(clsHuffmanFiles, AFailureLeavesTheDestination) {
   EXPECT_NE(decode().find("checksum did not match"), std::string::npos);
 
   Write(plain, {});
-  EXPECT_EQ(encode(folder / "nowhere" / "a.cbk"), "clsHuffman.EncodeFile(): Destination file could not be written");
+  EXPECT_THROW(huffman.EncodeFile(plain, folder / "nowhere" / "a.cbk"), store::Error);
   fs::resize_file(plain, std::uintmax_t{1} << 31);  // one byte more than the length field can say; takes no room
   EXPECT_EQ(encode(out), "clsHuffman.EncodeFile(): The data is too long for HE3 (2147483647 bytes at most)");
   EXPECT_EQ(Read(out), From_Text("the company"));

@@ -1,11 +1,14 @@
 #include "core/company/company.h"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <fstream>
 
+#include "core/company/company_name.h"
 #include "core/company/passwords.h"
 #include "core/store/recordset.h"
+#include "support/full_disk.h"
 #include "support/test_company.h"
 
 namespace tallymere {
@@ -59,6 +62,64 @@ TEST(Company, ATakenNameIsRefusedAndNothingReplaced) {
     EXPECT_THROW(New_Company(*acme.session, name), store::Error) << name;
 }
 
+TEST(Company, ANameIsOneThatAFileCanHave) {
+  TestCompany acme;
+  const std::string good[] = {"Acme Supply, Inc.",  "O'Brien & Söhne", "2026", "Console", "COM10", "a..b",
+                              std::string(200, 'x')};
+  for (const std::string& name : good) EXPECT_FALSE(Company_Name_Fault(name)) << name;
+  const std::string bad[] = {"",
+                             "  ",
+                             "a/b",
+                             "a\\b",
+                             "a:b",
+                             "..",
+                             ".",
+                             ".Acme",
+                             "a\nb",
+                             "a\tb",
+                             "\x7f",
+                             "con",
+                             "NUL.x",
+                             "Com1",
+                             "lpt9 .a",
+                             "a\u0085b",
+                             "\xff",
+                             "\xc3",
+                             "a?",
+                             "a*",
+                             "a\"b",
+                             "<a>",
+                             "a|b",
+                             std::string(201, 'x'),
+                             std::string("a\0b", 3)};
+  for (const std::string& name : bad) {
+    const auto fault = Company_Name_Fault(name);
+    ASSERT_TRUE(fault) << name;
+    EXPECT_EQ(fault->title, "No Name");
+    EXPECT_THROW(New_Company(*acme.session, name), store::Error) << name;
+  }
+  New_Company(*acme.session, " Beta ");
+  Open_Company_File(*acme.session, acme.folder / "Beta.cmf");
+  EXPECT_EQ(acme.db().value("SELECT Name FROM CompanyInfo").text(), "Beta");
+}
+
+TEST(Company, AFullDiskCostsNothingAndALogThatIsNoFileNoTime) {
+  TestCompany acme;
+  for (const rlim_t room : {0, 100'000, 300'000}) {
+    const testing::FullDisk full(room);
+    EXPECT_THROW(New_Company(*acme.session, "Beta"), store::Error) << room;
+  }
+  int files = 0;
+  for (const auto& entry : fs::directory_iterator(acme.folder.path())) files += entry.is_regular_file();
+  EXPECT_EQ(files, 4) << "Acme, two databases and the log";
+  New_Company(*acme.session, "Beta");
+  EXPECT_TRUE(fs::exists(acme.folder / "Beta.cmf"));
+
+  fs::remove(acme.folder / "ErrorLog.txt");
+  ASSERT_EQ(mkfifo((acme.folder / "ErrorLog.txt").c_str(), 0600), 0);
+  acme.user()->log.write("frmMain", "Form_Load", 5, "nobody reads this");
+}
+
 TEST(Company, AFailedOpeningLeavesTheCurrentCompanyCurrent) {
   TestCompany acme;
   std::ofstream(acme.folder / "bad.cmf") << "not a database at all, only text of some length";
@@ -68,8 +129,8 @@ TEST(Company, AFailedOpeningLeavesTheCurrentCompanyCurrent) {
   EXPECT_TRUE(acme.session->sets.Accounts->Seek("AR1"));
   Close_Sets(*acme.session);
   Set_Recordsets(*acme.session);
-  Close_Company_File(*acme.session);
-  EXPECT_FALSE(acme.session->dbCompany);
+  Leave_Company(*acme.session);
+  EXPECT_FALSE(acme.session->dbCompany || acme.session->company_open());
 }
 
 /// An older file lacks a table, fields and indexes: all come on opening, and what was there stays.
