@@ -56,14 +56,14 @@ bool Is_Of_Ours(std::string_view name) {
 }
 
 bool Is_Gone(int handle) {
-  struct stat now{};
+  struct stat now {};
   return fstat(handle, &now) != 0 || now.st_nlink == 0;
 }
 
 void Remove_If_Nobodys(const fs::path& file) {
   const int handle = open(file.c_str(), O_RDWR | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
   if (handle < 0) return;
-  struct stat now{};
+  struct stat now {};
   if (fstat(handle, &now) == 0 && S_ISREG(now.st_mode) && flock(handle, LOCK_EX | LOCK_NB) == 0) {
     unlink(file.c_str());
     unlink(Journal_Of(file).c_str());
@@ -118,14 +118,14 @@ void Cannot_Write(const fs::path& place, int reason) {
 
 FileAside::FileAside(const fs::path& folder, FileMode mode, const fs::path& note) {
   do {
-    if (lock_ >= 0) close(lock_);
+    remove();
     path_ = folder / New_Name();
+    if (!note.empty()) leave_note(note);  // first: a kill between the two would leave a file that nobody looks for
     lock_ = open(path_.c_str(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, mode == FileMode::Private ? 0600 : 0666);
-    if (lock_ < 0) Cannot_Write(folder, errno);
+    if (lock_ < 0) fail(folder, errno);
     while (flock(lock_, LOCK_EX) != 0 && errno == EINTR) {
     }
   } while (Is_Gone(lock_));  // a sweep was between the two
-  if (!note.empty()) leave_note(note);
 }
 
 FileAside::FileAside(FileAside&& other) noexcept
@@ -141,6 +141,12 @@ void FileAside::leave_note(const fs::path& folder) {
   note_ = folder / New_Name();
   fs::create_symlink(fs::absolute(path_), note_, fault);
   if (fault) note_.clear();
+}
+
+void FileAside::fail(const fs::path& folder, int reason) {
+  path_.clear();
+  remove();
+  Cannot_Write(folder, reason);
 }
 
 void FileAside::remove() {
@@ -168,7 +174,7 @@ void FileAside::has_moved(const fs::path& place) {
 }
 
 void FileAside::replace(const fs::path& place) {
-  struct stat before{};
+  struct stat before {};
   if (stat(place.c_str(), &before) == 0) chmod(path_.c_str(), before.st_mode & 0777);
   make_lasting(place);
   if (rename(path_.c_str(), place.c_str()) != 0) Cannot_Write(place, errno);

@@ -31,6 +31,7 @@ class FileAside {
 
  private:
   void remove();
+  [[noreturn]] void fail(const std::filesystem::path& folder, int reason);
   void leave_note(const std::filesystem::path& folder);
   void make_lasting(const std::filesystem::path& place);
   void has_moved(const std::filesystem::path& place);

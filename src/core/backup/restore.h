@@ -13,9 +13,9 @@ namespace tallymere {
 
 /// A backup that has proved itself: decoded, held against its seal, open as a company of a known shape.
 struct ProvenBackup {
-  FileAside file;                  ///< the company, beside where it is to go
-  std::string company;             ///< the name in it
-  std::optional<std::string> made; ///< when, as its seal tells; nothing: it has no seal to prove it
+  FileAside file;                   ///< the company, beside where it is to go
+  std::string company;              ///< the name in it
+  std::optional<std::string> made;  ///< when, as its seal tells; nothing: it has no seal to prove it
 };
 
 /// Expands a backup into a file beside `target` and proves it. Nothing: stopped on request. HuffmanError or

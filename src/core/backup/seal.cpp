@@ -88,7 +88,8 @@ std::map<std::string, std::string> Digests_Of(Connection& copy, const std::strin
   std::string header = made;
   for (const char* name : {"application_id", "user_version", "encoding"}) header += " " + Pragma(copy, name);
   digests[std::string(all_definitions)] = Digest_Of(
-      copy, "SELECT type, name, tbl_name, sql FROM sqlite_schema WHERE name <> 'StoreSeal' ORDER BY type, name", header);
+      copy, "SELECT type, name, tbl_name, sql FROM sqlite_schema WHERE name <> 'StoreSeal' ORDER BY type, name",
+      header);
   for (const std::string& table :
        Texts(copy, "SELECT name FROM sqlite_schema WHERE type = 'table' AND name <> 'StoreSeal' ORDER BY name"))
     digests[table] = Digest_Of(copy, "SELECT * FROM " + store::Quoted(table) + " ORDER BY 1");

@@ -16,14 +16,20 @@ bool Is_Reserved(const std::string& name) {
   while (first.ends_with(' ')) first.pop_back();
   constexpr std::string_view devices[] = {"CON", "PRN", "AUX", "NUL"};
   if (std::find(std::begin(devices), std::end(devices), first) != std::end(devices)) return true;
-  return first.size() == 4 && (first.starts_with("COM") || first.starts_with("LPT")) && first[3] >= '1' && first[3] <= '9';
+  return first.size() == 4 && (first.starts_with("COM") || first.starts_with("LPT")) && first[3] >= '1' &&
+         first[3] <= '9';
 }
 
 /// One byte that opens a letter, and as many that go on with it as it says.
 bool Is_Utf8(std::string_view text) {
   while (!text.empty()) {
     const auto first = static_cast<unsigned char>(text[0]);
-    const size_t more = first < 0x80 ? 0 : first < 0xc2 ? 9 : first < 0xe0 ? 1 : first < 0xf0 ? 2 : first < 0xf5 ? 3 : 9;
+    const size_t more = first < 0x80   ? 0
+                        : first < 0xc2 ? 9
+                        : first < 0xe0 ? 1
+                        : first < 0xf0 ? 2
+                        : first < 0xf5 ? 3
+                                       : 9;
     if (text.size() <= more) return false;
     const auto goes_on = [](char c) { return (static_cast<unsigned char>(c) & 0xc0) == 0x80; };
     if (!std::all_of(text.begin() + 1, text.begin() + 1 + static_cast<std::ptrdiff_t>(more), goes_on)) return false;

@@ -24,7 +24,7 @@ int files_in(const fs::path& folder) {
   return static_cast<int>(std::distance(fs::directory_iterator(folder), fs::directory_iterator()));
 }
 int mode_of(const fs::path& file) {
-  struct stat now{};
+  struct stat now {};
   return stat(file.c_str(), &now) == 0 ? static_cast<int>(now.st_mode & 0777) : -1;
 }
 
@@ -90,8 +90,9 @@ TEST(FileAside, ASweepKnowsWhatIsInUseFromWhatIsLeft) {
 
 TEST(FileAside, ASweepTouchesNoFileOfTheUsers) {
   const TempFolder folder;
-  const char* names[] = {"Acme.cmf.restored", "Acme.cmf.before", "a.cbk.part", ".tallymere-notes", ".tallymere-1-2-3",
-                         ".tallymere-1-0123456789abcdef-0123456789abcdef", "Acme.cmf-journal", "-journal"};
+  const char* names[] = {"Acme.cmf.restored", "Acme.cmf.before",  "a.cbk.part",
+                         ".tallymere-notes",  ".tallymere-1-2-3", ".tallymere-1-0123456789abcdef-0123456789abcdef",
+                         "Acme.cmf-journal",  "-journal"};
   for (const char* name : names) std::ofstream(folder / name) << "the user's";
   fs::create_symlink(folder / "a.cbk.part", folder / ".tallymere-1-0123456789abcdef-fedcba9876543210");
   Sweep_Asides(folder.path());

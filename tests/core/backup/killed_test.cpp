@@ -17,9 +17,9 @@ using Clock_Of_Machine = std::chrono::steady_clock;
 class KilledTest : public testing::BackupCompany {
  protected:
   testing::ChildProcess program(const std::string& words) {
-    return testing::ChildProcess({"/bin/sh", "-c",
-                                  "exec '" + testing::cli_program + "' " + words + " --folder '" +
-                                      folder.path().string() + "' 2>/dev/null"});
+    return testing::ChildProcess(
+        {"/bin/sh", "-c",
+         "exec '" + testing::cli_program + "' " + words + " --folder '" + folder.path().string() + "' 2>/dev/null"});
   }
   std::string named(const char* name) { return "'" + file(name).string() + "'"; }
   void kill_within(const std::string& words) {

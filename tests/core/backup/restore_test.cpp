@@ -12,9 +12,7 @@ namespace fs = std::filesystem;
 
 class RestoreTest : public testing::BackupCompany {
  protected:
-  void write(const std::string& name, const std::string& text) {
-    std::ofstream(file(name), std::ios::binary) << text;
-  }
+  void write(const std::string& name, const std::string& text) { std::ofstream(file(name), std::ios::binary) << text; }
   std::string why_not(const fs::path& from, const std::string& target) {
     try {
       restore(from, target);
@@ -30,9 +28,8 @@ TEST_F(RestoreTest, WhatIsRestoredIsTheMomentOfTheBackup) {
   EXPECT_EQ(prompts.labels, std::vector<std::string>{"Backup"});
   remember("after the backup");
   int went = 0;
-  ASSERT_TRUE(Restore_Company(session, {.backup = made, .target = file("Acme.cmf"), .ask = false, .let_go = [&] {
-                                          return ++went, true;
-                                        }}));
+  ASSERT_TRUE(Restore_Company(
+      session, {.backup = made, .target = file("Acme.cmf"), .ask = false, .let_go = [&] { return ++went, true; }}));
   EXPECT_EQ(went, 1);
   EXPECT_EQ(memo(), "Acme was here");
   EXPECT_EQ(prompts.boxes.front().text, "Backup Successful.");
@@ -57,7 +54,8 @@ TEST_F(RestoreTest, ACompanyIsReplacedOnlyWhenThatIsAgreed) {
   EXPECT_FALSE(Restore_Company(session, {.backup = made, .target = file("Acme.cmf"), .let_go = let_go}));
   EXPECT_FALSE(went);
   EXPECT_EQ(prompts.boxes.back().text, "Replace \"Acme\" by the backup?");
-  EXPECT_NE(prompts.boxes.back().detail.find("3/17/2026 holds Acme."), std::string::npos) << prompts.boxes.back().detail;
+  EXPECT_NE(prompts.boxes.back().detail.find("3/17/2026 holds Acme."), std::string::npos)
+      << prompts.boxes.back().detail;
   expect_still_open("after the backup");
   make("Beta");
   Leave_Company(session);
@@ -197,11 +195,15 @@ TEST_F(RestoreTest, NothingThatIsNoCompanyGivesWay) {
   { store::Connection(file("other.db.txt"), store::Connection::Mode::Create).execute("CREATE TABLE a (b)"); }
   fs::create_symlink("Beta.cmf", file("link.txt"));
   fs::create_directory(file("folder.txt"));
-  const std::pair<const char*, const char*> cases[] = {
-      {"notes.txt", "no company"},       {"other.db.txt", "no company"}, {"Accounts.mdb", "Tallymere itself needs"},
-      {"Model.mdb", "itself needs"},     {"ErrorLog.txt", "itself needs"}, {"link.txt", "is a link"},
-      {"folder.txt", "is no file"},      {"acme.cbk", "the file to restore from"},
-      {"nowhere/A.cmf", "no such folder"}};
+  const std::pair<const char*, const char*> cases[] = {{"notes.txt", "no company"},
+                                                       {"other.db.txt", "no company"},
+                                                       {"Accounts.mdb", "Tallymere itself needs"},
+                                                       {"Model.mdb", "itself needs"},
+                                                       {"ErrorLog.txt", "itself needs"},
+                                                       {"link.txt", "is a link"},
+                                                       {"folder.txt", "is no file"},
+                                                       {"acme.cbk", "the file to restore from"},
+                                                       {"nowhere/A.cmf", "no such folder"}};
   for (const auto& [target, why] : cases) {
     const bool is_file = fs::is_regular_file(file(target));
     const std::string before = is_file ? content(file(target)) : "", said = why_not(made, target);

@@ -26,7 +26,8 @@ std::string Dump_Of(const fs::path& file) {
   std::string dump;
   for (const char* name : {"application_id", "user_version", "encoding"})
     dump += Texts(db, std::string("PRAGMA ") + name).at(0) + "\n";
-  for (const auto& sql : Texts(db, "SELECT type || name || coalesce(sql, '') FROM sqlite_schema ORDER BY 1")) dump += sql;
+  for (const auto& sql : Texts(db, "SELECT type || name || coalesce(sql, '') FROM sqlite_schema ORDER BY 1"))
+    dump += sql;
   for (const auto& table : Texts(db, "SELECT name FROM sqlite_schema WHERE type = 'table' ORDER BY name")) {
     std::string cells = "'" + table + "'";
     for (const auto& column : Texts(db, "SELECT name FROM pragma_table_info('" + table + "')"))
@@ -43,7 +44,8 @@ class SealTest : public testing::BackupCompany {
     BackupCompany::SetUp();
     for (int64_t n = 1; n <= 60; ++n)
       run("INSERT INTO Transactions (TransNum, Date, Account, Name, Memo, Debit, Qty) VALUES (?, ?, ?, ?, ?, ?, ?)",
-          {n, Date(2026, 3, 17), "0SS", "Name " + std::to_string(n), "a memo of some length", Money::dollars(n), n / 3.0});
+          {n, Date(2026, 3, 17), "0SS", "Name " + std::to_string(n), "a memo of some length", Money::dollars(n),
+           n / 3.0});
     made_ = backup();
     auto proven = Prove_Backup(made_, file("Proven.cmf"));
     ASSERT_TRUE(proven && proven->made);
@@ -70,7 +72,9 @@ class SealTest : public testing::BackupCompany {
 
 /// One wound of a kind that disks and transfers make.
 void Damage(std::string& bytes, std::mt19937& random) {
-  const auto below = [&](size_t end) { return end == 0 ? 0 : std::uniform_int_distribution<size_t>(0, end - 1)(random); };
+  const auto below = [&](size_t end) {
+    return end == 0 ? 0 : std::uniform_int_distribution<size_t>(0, end - 1)(random);
+  };
   const size_t at = below(bytes.size()), length = std::min(bytes.size() - at, 1 + below(600));
   switch (below(8)) {
     case 0:

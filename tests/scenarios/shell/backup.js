@@ -24,7 +24,13 @@ equal(rows("SELECT TransNum FROM Transactions").length, 2);
 file(backups, null);
 menu("mnuRestore");
 equal(rows("SELECT TransNum FROM Transactions").length, 2, "a cancelled restore");
+// A company is replaced when its user says so, and not before.
 file(backups, "Acme v10.cbk");
+box("Restore", 'Replace "Acme" by the backup?', "No");
+menu("mnuRestore");
+equal(rows("SELECT TransNum FROM Transactions").length, 2, "a restore that was thought better of");
+file(backups, "Acme v10.cbk");
+box("Restore", 'Replace "Acme" by the backup?', "Yes");
 box("Restore", "Restore Successful.");
 menu("mnuRestore");
 equal(ledger(1), [{TransNum: 1, Date: "3/15/2026", Account: "0SS", Debit: 125.5, Amount: 125.5, Cleared: false,
@@ -57,8 +63,39 @@ file(backups, "Acme v10.cbk");
 box("Restore", "Restore Successful.");
 click(win("frmStart").cmdOK);
 ok(!isOpen("frmStart") && win("frmMain").mnuAction.enabled);
+equal(win("frmMain").caption, "Second - Main Display");
+equal(win("frmMain").mnuSwitchMode.caption, "Switch to Multi-User Mode");
 equal(rows("SELECT TransNum FROM Transactions"), [{TransNum: 1}]);
 openCompany("Acme");
 equal(rows("SELECT TransNum FROM Transactions").length, 2);
 openCompany("Second");
 equal(win("frmMain").caption, "Second - Main Display");
+
+// From the start window an existing company is asked about as well, and no name leads elsewhere.
+function restoreAtStart(name) {
+  option(win("frmStart").optStart, 2);
+  input("Restore Name", "Please Enter the File Name for the Company to restore to.", name);
+}
+box("Back Up", null, "No");
+menu("mnuExit");
+start();
+for (const name of ["../Acme", "a\tb", "..", "   ", "nul"]) {
+  restoreAtStart(name);
+  box("No Name", null);
+  click(win("frmStart").cmdOK);
+}
+restoreAtStart("Acme");
+file(backups, "Acme v10.cbk");
+box("Restore", 'Replace "Acme" by the backup?', "No");
+click(win("frmStart").cmdOK);
+ok(isOpen("frmStart") && !win("frmMain").mnuAction.enabled);
+openCompany("Acme");
+equal(rows("SELECT TransNum FROM Transactions").length, 2, "untouched");
+
+// A backup over the company, a report's own file or a link: the box, and nothing lost.
+for (const wrong of ["Acme.cmf.cbk/..", "nowhere/a.cbk"]) {
+  file(backups, wrong);
+  box("Error", null);
+  menu("mnuBackup");
+}
+equal(rows("SELECT TransNum FROM Transactions").length, 2);

@@ -33,3 +33,32 @@ equal(win("frmMain").caption, "Acme - Main Display");
 ok(win("frmMain").mnuRestore.enabled);
 equal(log(), []);
 equal(rows("SELECT UserMode FROM CompanyInfo"), [{UserMode: "Single"}]);
+
+// Turned away while another company is open: none is open then, and nothing that works on one can be reached.
+newCompany("Beta");
+menu("mnuSwitchMode");
+modal("frmLogin", function (w) { click(w.cmdLogin); });
+openCompany("Beta");
+equal(win("frmMain").mnuSwitchMode.caption, "Switch to Single-User Mode");
+modal("frmPassword", function (w) { click(w.cmdCancel); });
+openCompany("Acme");
+ok(isOpen("frmStart"), "the way on");
+equal(win("frmMain").caption, "Main Display");
+for (const name of ["mnuAction", "mnuFile", "mnuBackup", "mnuRestore"]) ok(!win("frmMain")[name].enabled, name);
+ok(!win("frmMain").Toolbar1.enabled);
+equal(win("frmMain").mnuSwitchMode.caption, "Switch to Multi-User Mode");
+shot("turned-away");
+modal("frmLogin", function (w) {
+  w.txtPassord.value;
+  click(w.SSDBCommand2);
+});
+openCompany("Beta");
+ok(isOpen("frmStart"));
+modal("frmPassword", function (w) {
+  type(w.Text1, "Rain7");
+  click(w.cmdOk);
+});
+openCompany("Acme");
+equal(win("frmMain").caption, "Acme - Main Display");
+ok(win("frmMain").mnuRestore.enabled);
+equal(log(), []);

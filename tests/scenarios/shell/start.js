@@ -44,6 +44,14 @@ option(win("frmStart").optStart, 0);
 click(win("frmStart").cmdOK);
 box("No Name", "Please Enter a Name For the New Company");
 click(win("frmCreate").cmdOk);
+for (const bad of ["a/b", "..", "con", "x".repeat(201)]) {
+  type(win("frmCreate").txtName, bad);
+  box("No Name", "This cannot be a company's name.");
+  click(win("frmCreate").cmdOk);
+}
+type(win("frmCreate").txtName, "   ");
+box("No Name", "Please Enter a Name For the New Company");
+click(win("frmCreate").cmdOk);
 type(win("frmCreate").txtName, "Acme");
 key(win("frmCreate").txtName, "Tab");
 click(win("frmCreate").cmdOk);
