@@ -37,7 +37,7 @@ int Run(const Command& command, const std::vector<std::string>& words) {
               << "\n";
     return 2;
   } catch (const tallymere::store::Error& fault) {
-    std::cerr << "error " << fault.number << ": " << fault.what() << "\n";
+    std::cerr << "error " << fault.number << ": " << fault.description() << "\n";
   } catch (const std::exception& fault) {
     std::cerr << "error: " << fault.what() << "\n";
   }

@@ -23,6 +23,7 @@ using ByteSpan = std::span<const std::uint8_t>;
 constexpr std::array<std::uint8_t, 4> kCompressed{'H', 'E', '3', '\r'};
 constexpr std::array<std::uint8_t, 4> kStored{'H', 'E', '0', '\r'};
 constexpr std::size_t kMaxLength = std::numeric_limits<std::int32_t>::max();
+constexpr std::size_t kMaxOverhead = 1 << 16;  // header and code table
 constexpr std::size_t kChecksumAt = 4, kLengthAt = 5, kPairCountAt = 9, kPairsAt = 11;
 
 HuffmanError Too_Long(std::string_view source) {
@@ -267,6 +268,7 @@ std::vector<std::uint8_t> clsHuffman::Decoded(const fs::path& source) const {
   constexpr std::string_view kSource = "clsHuffman.DecodeFile()";
   std::uintmax_t length;
   if (!FileExists(source, length)) throw HuffmanError(kSource, "Source file does not exist");
+  if (length > kMaxLength + kMaxOverhead) throw Too_Long(kSource);
   auto bytes = Read_Whole_File(source, length, kSource);
   DecodeByte(bytes);
   return bytes;

@@ -23,23 +23,25 @@ std::string Quoted_Name(const fs::path& file) { return "'" + file.filename().str
 
 // --- proving a backup -----------------------------------------------------------------------------------------
 
-/// The copy's own soundness, page by page and against its seal, before anything in it is believed.
-std::optional<std::string> Prove_Content(const fs::path& file) {
+/// Before anything in the copy is believed.
+std::optional<std::string> Prove_Seal(const fs::path& file) {
   Connection copy(file, Connection::Mode::ReadWrite);
-  if (const auto faults = copy.integrity_faults(); !faults.empty())
-    throw store::Error(store::errors::file_damaged, "The company in the backup is damaged: " + faults.front() + ".");
   return Break_Seal(copy);
 }
 
+/// Its kind, its shape, then page by page, which is all the proof that a copy without a seal has: once an older one has
+/// been brought up to date, for its indexes may stand in the order of those days.
 std::string Prove_Company(const fs::path& file) {
   const auto company = Open_Current(file, FileKind::Company);
+  if (!company->connection().integrity_faults().empty())
+    throw store::Error(store::errors::file_damaged, "The company in the backup is damaged.");
   if (company->value("SELECT COUNT(*) FROM CompanyInfo").integer() != 1)
     throw store::Error(store::errors::not_a_database, "");
   return company->value("SELECT Name FROM CompanyInfo").text();
 }
 
 ProvenBackup Proven(FileAside file) {
-  auto made = Prove_Content(file.path());
+  auto made = Prove_Seal(file.path());
   std::string name = Prove_Company(file.path());
   return {std::move(file), std::move(name), std::move(made)};
 }
@@ -47,7 +49,7 @@ ProvenBackup Proven(FileAside file) {
 /// Faults that say what is wrong; all others come of a file that never was a company.
 bool Speaks_For_Itself(int number) {
   using namespace store::errors;
-  constexpr int plain[] = {file_damaged, newer_file, disk_full, bad_path, disk_or_network, read_only};
+  constexpr int plain[] = {file_damaged, disk_full, bad_path, disk_or_network, read_only};
   return std::find(std::begin(plain), std::end(plain), number) != std::end(plain);
 }
 
@@ -61,6 +63,8 @@ std::optional<ProvenBackup> Prove_Backup(const fs::path& backup, const fs::path&
   return std::nullopt;
 } catch (const store::Error& fault) {
   if (Speaks_For_Itself(fault.number)) throw;
+  if (fault.number == store::errors::newer_file)
+    throw store::Error(fault.number, Quoted_Name(backup) + " was written by a newer version of this program.");
   throw store::Error(store::errors::not_a_database, Quoted_Name(backup) + " holds no company of Tallymere.");
 }
 
@@ -253,6 +257,7 @@ bool Restore_Company(Session& session, const RestoreRequest& request) {
   const fs::path& target = request.target;
   if (Is_Same_File(request.backup, target))
     Refuse(target, "is the file to restore from. A company is restored from a backup, into another file.");
+  if (Is_Open_Here(request.backup)) Refuse(request.backup, "is a file that Tallymere works on, and no backup.");
   const bool company_there = Is_Company_There(session, target);
   auto backup = [&] {
     ProgressBar bar(session.prompts, "Restore");

@@ -31,7 +31,8 @@ std::string Plain_Words(const std::exception& fault) {
                            cannot_open,    database_exists, not_a_database, newer_file,      undo_refused};
   const auto* error = dynamic_cast<const store::Error*>(&fault);
   if (error && std::find(std::begin(plain), std::end(plain), error->number) == std::end(plain)) return {};
-  return error || dynamic_cast<const HuffmanError*>(&fault) ? in_one_plain_line(fault.what()) : std::string();
+  if (error) return in_one_plain_line(error->description());
+  return dynamic_cast<const HuffmanError*>(&fault) ? fault.what() : "";
 }
 
 }  // namespace

@@ -298,6 +298,8 @@ TEST_F(clsHuffmanFiles, AFailureLeavesTheDestination) {
   EXPECT_THROW(huffman.EncodeFile(plain, folder / "nowhere" / "a.cbk"), store::Error);
   fs::resize_file(plain, std::uintmax_t{1} << 31);  // one byte more than the length field can say; takes no room
   EXPECT_EQ(encode(out), "clsHuffman.EncodeFile(): The data is too long for HE3 (2147483647 bytes at most)");
+  fs::resize_file(packed, std::uintmax_t{1} << 36);
+  EXPECT_NE(decode().find("too long"), std::string::npos);
   EXPECT_EQ(Read(out), From_Text("the company"));
   EXPECT_EQ(Files(), 3U);
 }

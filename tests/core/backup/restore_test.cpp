@@ -213,6 +213,7 @@ TEST_F(RestoreTest, NothingThatIsNoCompanyGivesWay) {
   fs::create_hard_link(made, file("again.cbk"));
   EXPECT_NE(why_not(made, "again.cbk").find("the file to restore from"), std::string::npos);
   EXPECT_NE(why_not(file("Acme.cmf"), "Acme.cmf").find("the file to restore from"), std::string::npos);
+  EXPECT_NE(why_not(file("Acme.cmf"), "Beta.cmf").find("no backup"), std::string::npos);
   EXPECT_EQ(why_not(made, "Beta.cmf"), "restored");
 }
 
