@@ -26,8 +26,8 @@ modal("frmLogin", function (w) {
   click(w.SSDBCommand2);
 });
 menu("mnuOpenCommpany");
-box("Error", null);
-menu("mnuBackup");
+ok(isOpen("frmStart") && !win("frmMain").mnuFile.enabled && !win("frmMain").Toolbar1.enabled);
+equal(win("frmMain").caption, "Main Display");
 modal("frmLogin", function (w) { click(w.cmdLogin); });
 openCompany("Birch & Sons");
 
