@@ -219,7 +219,7 @@ struct CompanyState {
   bool multi, open;
 };
 
-constexpr const char* no_seal = "It carries no seal, so nothing shows that it is whole.";
+constexpr const char* no_seal = "The backup carries no seal, so nothing shows that it is whole.";
 
 /// "2026-03-17 10:12:33" as dates are told.
 std::string Day_Of(const std::string& moment) {
@@ -229,7 +229,7 @@ std::string Day_Of(const std::string& moment) {
 
 bool May_Replace(Session& session, const ProvenBackup& backup, const fs::path& target) {
   std::string what = "The backup" + Day_Of(backup.made.value_or("")) + " holds " + in_one_plain_line(backup.company) +
-                     ". What was entered since goes.";
+                     ". What was entered since then is lost.";
   if (!backup.made) what += std::string(" ") + no_seal;
   return session.prompts.ask(
       {"Replace \"" + target.stem().string() + "\" by the backup?", "Restore", Icon::Question, what},

@@ -92,7 +92,7 @@ ok(isOpen("frmStart") && !win("frmMain").mnuAction.enabled);
 openCompany("Acme");
 equal(rows("SELECT TransNum FROM Transactions").length, 2, "untouched");
 
-// A backup over the company, a report's own file or a link: the box, and nothing lost.
+// A backup that can go nowhere: the box, and nothing lost.
 for (const wrong of ["Acme.cmf.cbk/..", "nowhere/a.cbk"]) {
   file(backups, wrong);
   box("Error", null);
