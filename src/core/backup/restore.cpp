@@ -19,8 +19,6 @@ namespace fs = std::filesystem;
 using store::Connection;
 using store::FileKind;
 
-std::string Quoted_Name(const fs::path& file) { return "'" + file.filename().string() + "'"; }
-
 // --- proving a backup -----------------------------------------------------------------------------------------
 
 /// Before anything in the copy is believed.
@@ -34,7 +32,7 @@ std::optional<std::string> Prove_Seal(const fs::path& file) {
 std::string Prove_Company(const fs::path& file) {
   const auto company = Open_Current(file, FileKind::Company);
   if (!company->connection().integrity_faults().empty())
-    throw store::Error(store::errors::file_damaged, "The company in the backup is damaged.");
+    throw store::Error(store::errors::file_damaged, "Its pages do not fit together.");
   if (company->value("SELECT COUNT(*) FROM CompanyInfo").integer() != 1)
     throw store::Error(store::errors::not_a_database, "");
   return company->value("SELECT Name FROM CompanyInfo").text();
@@ -46,10 +44,10 @@ ProvenBackup Proven(FileAside file) {
   return {std::move(file), std::move(name), std::move(made)};
 }
 
-/// Faults that say what is wrong; all others come of a file that never was a company.
-bool Speaks_For_Itself(int number) {
+/// Faults of the disk, not of the backup.
+bool Is_Of_The_Disk(int number) {
   using namespace store::errors;
-  constexpr int plain[] = {file_damaged, disk_full, bad_path, disk_or_network, read_only};
+  constexpr int plain[] = {disk_full, bad_path, disk_or_network, read_only};
   return std::find(std::begin(plain), std::end(plain), number) != std::end(plain);
 }
 
@@ -62,10 +60,13 @@ std::optional<ProvenBackup> Prove_Backup(const fs::path& backup, const fs::path&
 } catch (const Stopped&) {
   return std::nullopt;
 } catch (const store::Error& fault) {
-  if (Speaks_For_Itself(fault.number)) throw;
+  if (Is_Of_The_Disk(fault.number)) throw;
+  const std::string name = "'" + backup.string() + "'";  // not the name it has aside
+  if (fault.number == store::errors::file_damaged)
+    throw store::Error(fault.number, name + " is damaged. " + fault.description());
   if (fault.number == store::errors::newer_file)
-    throw store::Error(fault.number, Quoted_Name(backup) + " was written by a newer version of this program.");
-  throw store::Error(store::errors::not_a_database, Quoted_Name(backup) + " holds no company of Tallymere.");
+    throw store::Error(fault.number, name + " was written by a newer version of this program.");
+  throw store::Error(store::errors::not_a_database, name + " holds no company of Tallymere.");
 }
 
 // --- what stands where a company is to go ---------------------------------------------------------------------

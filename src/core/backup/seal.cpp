@@ -104,14 +104,14 @@ std::map<std::string, std::string> Sealed_Digests(Connection& copy) {
 }
 
 [[noreturn]] void Not_As_Sealed(const std::string& what) {
-  throw store::Error(store::errors::file_damaged, "The backup is damaged: " + what + " not what was backed up.");
+  throw store::Error(store::errors::file_damaged, what + " not what was backed up.");
 }
 
 void Compare(std::map<std::string, std::string> sealed, const std::map<std::string, std::string>& found) {
   for (const auto& [name, digest] : found)
     if (sealed[name] != digest)
-      Not_As_Sealed(name == all_definitions ? "its tables are" : "the content of " + name + " is");
-  if (sealed.size() != found.size()) Not_As_Sealed("its tables are");
+      Not_As_Sealed(name == all_definitions ? "Its tables are" : "The content of " + name + " is");
+  if (sealed.size() != found.size()) Not_As_Sealed("Its tables are");
 }
 
 /// The mark in some cell of some table, or in a definition, while the seal has no name any more.
@@ -140,7 +140,7 @@ void Seal_Copy(Connection& copy, const std::string& made) {
 
 std::optional<std::string> Break_Seal(Connection& copy) {
   if (Texts(copy, "SELECT name FROM sqlite_schema WHERE type = 'table' AND name = 'StoreSeal'").empty()) {
-    if (Was_Sealed(copy)) Not_As_Sealed("its seal is");
+    if (Was_Sealed(copy)) Not_As_Sealed("Its seal is");
     return std::nullopt;
   }
   auto sealed = Sealed_Digests(copy);

@@ -1,6 +1,6 @@
 #include "core/company/folder.h"
 
-#include "core/backup/file_aside.h"
+#include "core/backup/whole_file.h"
 #include "core/store/recordset.h"
 #include "core/values/tsv.h"
 

@@ -133,14 +133,14 @@ TEST_F(SealTest, WhateverIsNotAsItWasSealedIsNamed) {
       {"UPDATE Transactions SET Qty = Qty + 1e-15 WHERE TransNum = 1", "content of Transactions"},
       {"DELETE FROM History", "content of History"},
       {"UPDATE sqlite_sequence SET seq = 1 WHERE name = 'Transactions'", "content of sqlite_sequence"},
-      {"DROP INDEX Transactions_Account", "its tables"},
-      {"CREATE TABLE More (a)", "its tables"},
+      {"DROP INDEX Transactions_Account", "Its tables"},
+      {"CREATE TABLE More (a)", "Its tables"},
       {"DROP TABLE Colors; DROP VIEW IF EXISTS Colors_decimal", "is damaged"},
-      {"PRAGMA user_version = 0", "its tables"},
-      {"UPDATE StoreSeal SET Digest = '2020-01-01 00:00:00' WHERE Name = '*made'", "its tables"},
+      {"PRAGMA user_version = 0", "Its tables"},
+      {"UPDATE StoreSeal SET Digest = '2020-01-01 00:00:00' WHERE Name = '*made'", "Its tables"},
       {"DELETE FROM StoreSeal WHERE Name = 'Transactions'", "content of Transactions"},
-      {"ALTER TABLE StoreSeal RENAME TO StoreSeam", "its seal"},
-      {"DROP TABLE StoreSeal; CREATE TABLE Colours AS SELECT 'tallymere-seal:' AS a", "its seal"},
+      {"ALTER TABLE StoreSeal RENAME TO StoreSeam", "Its seal"},
+      {"DROP TABLE StoreSeal; CREATE TABLE Colours AS SELECT 'tallymere-seal:' AS a", "Its seal"},
   };
   for (const auto& [change, named] : cases) {
     write(file("changed.txt"), decoded);
