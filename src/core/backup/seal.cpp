@@ -82,6 +82,13 @@ std::vector<std::string> Texts(Connection& copy, const std::string& sql) {
 
 std::string Pragma(Connection& copy, const std::string& name) { return Texts(copy, "PRAGMA " + name).at(0); }
 
+/// But for the seal itself, and for what only looks like a table and would act when it is read.
+std::vector<std::string> Tables_In(Connection& copy) {
+  return Texts(copy,
+               "SELECT name FROM sqlite_schema WHERE type = 'table' AND name <> 'StoreSeal'"
+               " AND sql NOT LIKE 'CREATE VIRTUAL%' ORDER BY name");
+}
+
 /// What the copy holds, by table; the seal itself is not part of it.
 std::map<std::string, std::string> Digests_Of(Connection& copy, const std::string& made) {
   std::map<std::string, std::string> digests;
@@ -90,8 +97,7 @@ std::map<std::string, std::string> Digests_Of(Connection& copy, const std::strin
   digests[std::string(all_definitions)] = Digest_Of(
       copy, "SELECT type, name, tbl_name, sql FROM sqlite_schema WHERE name <> 'StoreSeal' ORDER BY type, name",
       header);
-  for (const std::string& table :
-       Texts(copy, "SELECT name FROM sqlite_schema WHERE type = 'table' AND name <> 'StoreSeal' ORDER BY name"))
+  for (const std::string& table : Tables_In(copy))
     digests[table] = Digest_Of(copy, "SELECT * FROM " + store::Quoted(table) + " ORDER BY 1");
   return digests;
 }
@@ -116,7 +122,7 @@ void Compare(std::map<std::string, std::string> sealed, const std::map<std::stri
 
 /// The mark in some cell of some table, or in a definition, while the seal has no name any more.
 bool Was_Sealed(Connection& copy) {
-  for (const std::string& table : Texts(copy, "SELECT name FROM sqlite_schema WHERE type = 'table'")) {
+  for (const std::string& table : Tables_In(copy)) {
     Statement rows = copy.prepare("SELECT * FROM " + store::Quoted(table));
     while (rows.step())
       for (int column = 0; column < rows.columns(); ++column)

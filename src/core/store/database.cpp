@@ -15,7 +15,6 @@ namespace fs = std::filesystem;
 
 constexpr std::string_view history_table = "History";
 constexpr std::string_view password_table = "StorePassword";
-constexpr std::string_view seal_table = "StoreSeal";  // in a backup that was decoded by hand
 
 struct Declaration {
   FieldType type;
@@ -49,12 +48,7 @@ std::string Decimal_View(const TableDef& table) {
 }
 
 bool Is_Own(std::string_view name) {
-  return name == history_table || name == password_table || name == seal_table || name.starts_with("sqlite_");
-}
-
-bool Is_Empty_File(const fs::path& path) {
-  std::error_code fault;
-  return fs::is_regular_file(path, fault) && fs::file_size(path, fault) == 0;
+  return name == history_table || name == password_table || name.starts_with("sqlite_");
 }
 
 /// A slow hash is not needed here: this password is the program's own, the same in every file.
@@ -147,7 +141,8 @@ Database::Database(const fs::path& path, Connection::Mode mode) : path_(path), c
 Database::~Database() = default;
 
 std::unique_ptr<Database> Database::CreateDatabase(const fs::path& path, FileKind kind) {
-  if (fs::exists(path) && !Is_Empty_File(path)) throw Error(errors::database_exists, "Database already exists.");
+  const bool reserved = fs::is_regular_file(path) && fs::file_size(path) == 0;  // made for it, exclusively
+  if (!reserved && fs::exists(path)) throw Error(errors::database_exists, "Database already exists.");
   if (!fs::is_directory(fs::absolute(path).parent_path()))
     throw Error(errors::bad_path, "'" + path.string() + "' isn't a valid path.");
   std::unique_ptr<Database> db(new Database(path, Connection::Mode::Create));
