@@ -1,7 +1,7 @@
 #include <benchmark/benchmark.h>
 
 #include "demo/demo.h"
-#include "reports/profit/kept_ledger.h"
+#include "reports/sums/kept_ledger.h"
 #include "support/test_company.h"
 
 // The profit and loss of a company with 250 thousand transactions in three years, in the open program.

@@ -4,8 +4,8 @@
 #include <QPainter>
 #include <QPushButton>
 
-#include "reports/frame/graph_paint.h"
-#include "reports/profit/kept_ledger.h"
+#include "reports/profit/graph_paint.h"
+#include "reports/sums/kept_ledger.h"
 #include "shell/widgets/theme.h"
 
 namespace tallymere {

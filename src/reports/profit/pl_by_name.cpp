@@ -2,7 +2,7 @@
 
 #include "core/ledger/category_tree.h"
 #include "core/ledger/ledger.h"
-#include "reports/profit/ledger_sums.h"
+#include "reports/sums/ledger_sums.h"
 
 namespace tallymere {
 namespace {

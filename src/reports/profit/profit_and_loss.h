@@ -4,8 +4,8 @@
 #include <string_view>
 
 #include "core/ledger/category_tree.h"
-#include "reports/profit/ledger_sums.h"
 #include "reports/reports.h"
+#include "reports/sums/ledger_sums.h"
 
 /// The income statement: frmPrintPL2 in its six variants.
 namespace tallymere {

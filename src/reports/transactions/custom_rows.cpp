@@ -2,7 +2,7 @@
 
 #include "core/ledger/ledger.h"
 #include "core/store/sql.h"
-#include "reports/profit/ledger_sums.h"
+#include "reports/sums/ledger_sums.h"
 #include "reports/transactions/transaction_reports.h"
 
 namespace tallymere {

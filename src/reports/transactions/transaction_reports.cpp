@@ -1,7 +1,7 @@
 #include "reports/transactions/transaction_reports.h"
 
 #include "core/ledger/ledger.h"
-#include "reports/profit/ledger_sums.h"
+#include "reports/sums/ledger_sums.h"
 #include "reports/transactions/custom_rows.h"
 
 namespace tallymere {

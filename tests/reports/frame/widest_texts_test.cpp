@@ -1,6 +1,6 @@
 #include "reports/frame/widest_texts.h"
 
-#include "reports/frame/graph_spans.h"
+#include "reports/profit/graph_spans.h"
 #include "support/report_books.h"
 
 namespace tallymere {

@@ -2,7 +2,7 @@
 
 #include <random>
 
-#include "reports/profit/kept_ledger.h"
+#include "reports/sums/kept_ledger.h"
 
 namespace tallymere {
 namespace {

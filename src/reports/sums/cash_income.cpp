@@ -3,9 +3,9 @@
 
 #include "core/company/schema.h"
 #include "core/ledger/ledger.h"
-#include "reports/profit/income_shares.h"
-#include "reports/profit/kept_ledger.h"
-#include "reports/profit/ledger_sums.h"
+#include "reports/sums/income_shares.h"
+#include "reports/sums/kept_ledger.h"
+#include "reports/sums/ledger_sums.h"
 
 // Income on cash basis: counted when the customer pays.
 namespace tallymere {

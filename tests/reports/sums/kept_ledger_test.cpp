@@ -1,4 +1,4 @@
-#include "reports/profit/kept_ledger.h"
+#include "reports/sums/kept_ledger.h"
 
 #include "support/report_books.h"
 

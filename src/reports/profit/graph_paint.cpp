@@ -1,12 +1,12 @@
-#include "reports/frame/graph_paint.h"
+#include "reports/profit/graph_paint.h"
 
 #include <QPainter>
 #include <algorithm>
 #include <cmath>
 
 #include "core/values/format.h"
-#include "reports/frame/graph_spans.h"
 #include "reports/frame/print_fonts_paint.h"
+#include "reports/profit/graph_spans.h"
 #include "shell/widgets/Form.h"
 #include "shell/widgets/theme.h"
 

@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-#include "reports/profit/ledger_sums.h"
+#include "reports/sums/ledger_sums.h"
 
 namespace tallymere {
 

@@ -4,7 +4,7 @@
 #include <optional>
 #include <vector>
 
-#include "reports/profit/ledger_sums.h"
+#include "reports/sums/ledger_sums.h"
 
 namespace tallymere {
 

@@ -1,9 +1,9 @@
 #include <algorithm>
 
 #include "core/ledger/ledger.h"
-#include "reports/profit/income_shares.h"
-#include "reports/profit/kept_ledger.h"
 #include "reports/profit/profit_and_loss.h"
+#include "reports/sums/income_shares.h"
+#include "reports/sums/kept_ledger.h"
 
 namespace tallymere {
 namespace {

@@ -1,4 +1,4 @@
-#include "reports/profit/income_shares.h"
+#include "reports/sums/income_shares.h"
 
 #include <algorithm>
 #include <span>

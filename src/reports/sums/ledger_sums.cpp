@@ -1,9 +1,9 @@
-#include "reports/profit/ledger_sums.h"
+#include "reports/sums/ledger_sums.h"
 
 #include <charconv>
 
 #include "core/ledger/ledger.h"
-#include "reports/profit/kept_ledger.h"
+#include "reports/sums/kept_ledger.h"
 
 namespace tallymere {
 namespace {

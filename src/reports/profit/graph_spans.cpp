@@ -1,4 +1,4 @@
-#include "reports/frame/graph_spans.h"
+#include "reports/profit/graph_spans.h"
 
 #include <algorithm>
 #include <cmath>
