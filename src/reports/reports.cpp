@@ -1,7 +1,8 @@
 #include "reports/reports.h"
 
-#include "core/values/date_range.h"
 #include "core/values/text.h"
+#include "reports/frame/row_groups.h"
+#include "reports/frame/table_parts.h"
 #include "reports/profit/pl_by_name.h"
 #include "reports/profit/profit_and_loss.h"
 #include "reports/transactions/transaction_reports.h"
@@ -9,43 +10,41 @@
 namespace tallymere {
 namespace {
 
-using Start = ReportDef::Start;
-
 constexpr std::string_view category_title = "Category Report: ";
+constexpr std::string_view by_transaction = "Date,Type,Number,Name,Memo,Account,Amount,";
+constexpr std::string_view of_a_category = "Type,Date,Number,Name,Memo,Category,Amount,Balance,";
+constexpr bool has_basis = true, no_basis = false;
 
 // One row for each report. A new one needs its row and its builder, nothing else.
 constexpr ReportDef reports[] = {
-    {"PL", "frmPrintPL2", "PL", "Profit And Loss", Start::OfMonth, true, "", Build_PL},
-    {"PLYTD", "frmPrintPL2", "PLYTD", "Profit And Loss Year To Date Comparioson", Start::OfMonth, true, "",
-     Build_PLYTD},
-    {"PLPrev", "frmPrintPL2", "PLPrev", "Profit And Loss Previous Year Comparioson", Start::OfYear, true, "",
-     Build_PLPrev},
-    {"PLCus", "frmPrintPL2", "PLCus", "Profit And Loss Previous by Customer", Start::OfYear, true, "", Build_PLCus},
-    {"PLClass", "frmPrintPL2", "PLClass", "Profit And Loss Previous by Class", Start::OfYear, true, "", Build_PLClass},
-    {"PLDetail", "frmPrintPL2", "PLDetail", "Profit And Loss", Start::OfYear, true, "", Build_PLDetail},
-    {"PLCusSum", "frmPrintPLName", "PLCusSum", "Customer Income Summary", Start::OfYear, true, "", Build_PLCusSum},
-    {"PLVenSum", "frmPrintPLName", "PLVenSum", "Vendor Expenses Summary", Start::OfYear, true, "", Build_PLVenSum},
-    {"PLCusDetail", "frmPrintPLName", "PLCusDetail", "Customer Income Detail", Start::OfYear, true, "",
-     Build_PLCusDetail},
-    {"PLVenDetail", "frmPrintPLName", "PLVenDetail", "Vendor Expenses Detail", Start::OfYear, true, "",
-     Build_PLVenDetail},
-    {"Date", "frmPrintCustom", "Date", "Detailed Transactions by Date", Start::OfMonth, false, "fields",
-     Build_Date_Report},
-    {"Customer", "frmPrintCustom", "Customer", "Detailed Transactions by Customer", Start::OfMonth, false, "fields",
-     Build_Customer_Report},
-    {"Vendor", "frmPrintCustom", "Vendor", "Detailed Transactions by Vendor", Start::OfMonth, false, "fields",
-     Build_Vendor_Report},
-    {"AcctRep", "frmPrintCustom", "AcctRep", category_title, Start::OfMonth, false, "category fields",
-     Build_Category_Report},
-    {"PrintAcctRep", "frmPrintCustom", "PrintAcctRep", category_title, Start::OfYear, false, "category fields",
-     Build_Category_Report},
-    {"PrintAcctBal", "frmPrintCustom", "PrintAcctBal", category_title, Start::OfYear, false, "category fields",
-     Build_Category_Report},
-    {"VendorRep", "frmPrintCustom", "VendorRep", "Vendor Report: ", Start::OfMonth, false, "name fields",
-     Build_One_Vendor_Report},
-    {"ItemRep", "frmPrintCustom", "ItemRep", "Item Report: ", Start::OfYear, false, "item fields", Build_Item_Report},
-    {"PayItem", "frmPrintCustom", "PayItem", "Payroll Item Report", Start::OfYear, false, "fields",
-     Build_PayItem_Report},
+    {"PL", "frmPrintPL2", "Profit And Loss", Dates::Month, Build_PL, has_basis},
+    {"PLYTD", "frmPrintPL2", "Profit And Loss Year To Date Comparioson", Dates::Month, Build_PLYTD, has_basis},
+    {"PLPrev", "frmPrintPL2", "Profit And Loss Previous Year Comparioson", Dates::Year, Build_PLPrev, has_basis},
+    {"PLCus", "frmPrintPL2", "Profit And Loss Previous by Customer", Dates::Year, Build_PLCus, has_basis},
+    {"PLClass", "frmPrintPL2", "Profit And Loss Previous by Class", Dates::Year, Build_PLClass, has_basis},
+    {"PLDetail", "frmPrintPL2", "Profit And Loss", Dates::Year, Build_PLDetail, has_basis},
+    {"PLCusSum", "frmPrintPLName", "Customer Income Summary", Dates::Year, Build_PLCusSum, has_basis},
+    {"PLVenSum", "frmPrintPLName", "Vendor Expenses Summary", Dates::Year, Build_PLVenSum, has_basis},
+    {"PLCusDetail", "frmPrintPLName", "Customer Income Detail", Dates::Year, Build_PLCusDetail, has_basis},
+    {"PLVenDetail", "frmPrintPLName", "Vendor Expenses Detail", Dates::Year, Build_PLVenDetail, has_basis},
+    {"Date", "frmPrintCustom", "Detailed Transactions by Date", Dates::Month, Build_Date_Report, no_basis, "",
+     by_transaction},
+    {"Customer", "frmPrintCustom", "Detailed Transactions by Customer", Dates::Month, Build_Customer_Report, no_basis,
+     "", by_transaction},
+    {"Vendor", "frmPrintCustom", "Detailed Transactions by Vendor", Dates::Month, Build_Vendor_Report, no_basis, "",
+     by_transaction},
+    {"AcctRep", "frmPrintCustom", category_title, Dates::Month, Build_Category_Report, no_basis,
+     report_option::category, of_a_category},
+    {"PrintAcctRep", "frmPrintCustom", category_title, Dates::Year, Build_Category_Report, no_basis,
+     report_option::category, of_a_category},
+    {"PrintAcctBal", "frmPrintCustom", category_title, Dates::Year, Build_Balance_Report, no_basis,
+     report_option::category, of_a_category},
+    {"VendorRep", "frmPrintCustom", "Vendor Report: ", Dates::Month, Build_One_Vendor_Report, no_basis,
+     report_option::name, of_a_category},
+    {"ItemRep", "frmPrintCustom", "Item Report: ", Dates::Year, Build_Item_Report, no_basis, report_option::item,
+     "Type,Date,Number,Name,Memo,Qty,Amount,"},
+    {"PayItem", "frmPrintCustom", "Payroll Item Report", Dates::Year, Build_PayItem_Report, no_basis, "",
+     "Type,Date,Number,Name,PayrollItem,Amount,"},
 };
 
 }  // namespace
@@ -60,14 +59,12 @@ const ReportDef* Find_Report(std::string_view key) {
 
 const ReportDef* Find_Report(std::string_view window, std::string_view window_key) {
   for (const ReportDef& report : reports)
-    if (report.window == window && report.window_key == window_key) return &report;
+    if (report.window == window && (window_key.empty() || report.asked_as() == window_key)) return &report;
   return nullptr;
 }
 
 bool ReportDef::takes(std::string_view option) const {
-  for (const std::string& name : split(options, " "))
-    if (name == option) return true;
-  return false;
+  return option == report_option::fields || option == report_option::empty || (!option.empty() && option == subject);
 }
 
 const std::string& ReportRequest::option(std::string_view name) const {
@@ -77,14 +74,12 @@ const std::string& ReportRequest::option(std::string_view name) const {
 }
 
 ReportRequest Default_Request(const Session& session, std::string_view key) {
-  const Date today = session.today();
   const ReportDef* report = Find_Report(key);
-  ReportRequest request{.key = std::string(report ? report->key : key), .from = today, .to = today};
-  if (!report) return request;
-  if (report->start == Start::OfMonth) request.from = today.first_of_month();
-  if (report->start == Start::OfYear) request.from = Date(today.year(), 1, 1);
-  if (auto columns = Custom_Report_Columns(report->key); !columns.empty() && report->takes(report_option::fields))
-    request.options.emplace(report_option::fields, columns);
+  const Date today = session.today();
+  if (!report) return {.key = std::string(key), .from = today, .to = today};
+  const DateRange days = Default_Dates(report->dates, today);
+  ReportRequest request{.key = std::string(report->key), .from = days.start, .to = days.end};
+  if (!report->fields.empty()) request.options.emplace(report_option::fields, report->fields);
   return request;
 }
 
@@ -92,15 +87,20 @@ ReportTable Build_Report(Session& session, const ReportRequest& request) {
   const ReportDef* report = Find_Report(request.key);
   if (!report) throw store::Error(store::errors::no_such_field, "There is no report \"" + request.key + "\".");
   const store::Snapshot moment(*session.dbCompany);
-  return report->build(session, request);
+  ReportTable table = report->build(session, request);
+  if (table.offered.empty()) table = Pick_Columns(std::move(table), request.option(report_option::fields));
+  if (request.option(report_option::empty) == report_option::hide) table = Without_Empty_Groups(table);
+  return table;
 }
 
-std::optional<ReportRequest> Go_To_Request(const ReportTable& table, int row, const ReportRequest& opened_from) {
-  const RowKey key = table.key(row);
-  if (table.go_to != ReportTable::GoTo::Category || key.text.empty()) return std::nullopt;
-  ReportRequest request{.key = table.go_to_report, .from = Date(opened_from.to.year(), 1, 1), .to = opened_from.to};
-  request.options.emplace(report_option::fields, Custom_Report_Columns(table.go_to_report));
-  request.options.emplace(report_option::category, key.text);
+std::optional<ReportRequest> Go_To_Request(const RowKey& key, const ReportRequest& opened_from) {
+  const ReportDef* report = key.leads() ? Find_Report(key.report) : nullptr;
+  if (!report) return std::nullopt;
+  ReportRequest request{.key = std::string(report->key),
+                        .from = Date(opened_from.to.year(), 1, 1),
+                        .to = opened_from.to,
+                        .options = {{std::string(report_option::fields), std::string(report->fields)}}};
+  request.options.emplace(report->subject, key.text);
   return request;
 }
 
@@ -108,13 +108,11 @@ std::string Company_Name(Session& session) {
   return session.dbCompany->value("SELECT Name FROM CompanyInfo ORDER BY RowKey LIMIT 1").text();
 }
 
-std::string Period_Text(Date start, Date end) { return start.to_text() + " - " + end.to_text(); }
-
 ReportHeading Make_Heading(Session& session, const ReportRequest& request, std::string_view subject) {
   const ReportDef* report = Find_Report(request.key);
   std::string own = std::string(report ? report->title : "") + std::string(subject);
   ReportHeading heading{request.title.empty() ? own : request.title, Company_Name(session),
-                        Period_Text(request.from, request.to)};
+                        Dates_Text(report ? report->dates : Dates::Month, request.days())};
   if (report && report->has_basis) heading.basis = request.basis == Basis::Cash ? "Cash basis" : "Accrual basis";
   return heading;
 }

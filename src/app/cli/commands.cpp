@@ -47,7 +47,7 @@ constexpr Command commands[] = {
     {"figures", "figures --company FILE", "the balances of the company's categories", Figures},
     {"report",
      "report [KEY --company FILE [--range NAME] [--from m/d/yyyy] [--to m/d/yyyy] [--basis cash|accrual] [--title TEXT]"
-     " [--fields LIST] [--category ID] [--name NAME] [--item NAME] [--format text|csv|xlsx|pdf] [--out FILE]]",
+     " [--fields LIST] [--empty hide] [--category ID] [--name NAME] [--item NAME] [--format text|csv|xlsx|pdf] [--out FILE]]",
      "a report of the company's books; without a key, the keys there are", Report},
     {"backup", "backup --company FILE --out FILE.cbk", "writes a backup of the company as it stands", Back_Up},
     {"restore", "restore --backup FILE.cbk --company FILE",

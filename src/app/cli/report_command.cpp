@@ -21,17 +21,13 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::string_view option_names[] = {report_option::fields, report_option::category, report_option::name,
-                                             report_option::item};
-
 int List_Reports() {
   for (const ReportDef& report : Reports()) {
     std::string line(report.key);
     line.resize(std::max<size_t>(line.size() + 2, 16), ' ');
     line += report.title;
     if (report.has_basis) line += "  [--basis cash|accrual]";
-    for (std::string_view name : option_names)
-      if (report.takes(name)) line += "  [--" + std::string(name) + " ...]";
+    if (!report.subject.empty()) line += "  --" + std::string(report.subject) + " ...";
     std::cout << line << "\n";
   }
   return 0;
@@ -51,7 +47,11 @@ std::string Category_Id(store::Database& db, const std::string& given) {
   throw Usage("no such category: " + given);
 }
 
-void Take_Dates(Arguments& arguments, Date today, ReportRequest& request) {
+void Take_Dates(Arguments& arguments, Dates dates, Date today, ReportRequest& request) {
+  if (!Is_Period(dates)) {
+    if (Asks_A_Day(dates)) request.to = arguments.date("to").value_or(request.to);
+    return;
+  }
   if (std::string name = arguments.option("range", ""); !name.empty()) {
     if (std::find(Date_Range_Names.begin(), Date_Range_Names.end(), name) == Date_Range_Names.end())
       throw Usage("--range takes one of: " + join({Date_Range_Names.begin(), Date_Range_Names.end()}, ", "));
@@ -71,13 +71,16 @@ void Take_Basis(Arguments& arguments, const ReportDef& report, ReportRequest& re
 }
 
 void Take_Options(Arguments& arguments, const ReportDef& report, store::Database& db, ReportRequest& request) {
-  for (std::string_view known : option_names) {
-    std::string name(known);
-    if (!report.takes(name)) continue;
-    bool needed = name != report_option::fields;
-    std::string value = needed ? arguments.option(name) : arguments.option(name, request.option(name));
-    request.options[name] = name == report_option::category ? Category_Id(db, value) : value;
-  }
+  const auto take = [&](std::string_view option, const std::string& value) {
+    if (!value.empty() || option == report_option::fields) request.options.insert_or_assign(std::string(option), value);
+  };
+  take(report_option::fields, arguments.option("fields", request.option(report_option::fields)));
+  const std::string empty = arguments.option("empty", "");
+  if (!empty.empty() && empty != "hide" && empty != "show") throw Usage("--empty takes hide or show");
+  take(report_option::empty, empty);
+  if (report.subject.empty()) return;
+  const std::string subject = arguments.option(std::string(report.subject));
+  take(report.subject, report.subject == report_option::category ? Category_Id(db, subject) : subject);
 }
 
 int Run_Painter(const fs::path& painter, const fs::path& table, const fs::path& out) {
@@ -141,7 +144,7 @@ int Report(Arguments& arguments) {
   const std::string format = Format_Of(arguments, out);
   ReportRequest request = Default_Request(cli.session, report.key);
   request.title = arguments.option("title", "");
-  Take_Dates(arguments, cli.session.today(), request);
+  Take_Dates(arguments, report.dates, cli.session.today(), request);
   Take_Basis(arguments, report, request);
   cli.open(arguments);
   if (!out.empty()) Refuse_Output(out);  // before the work, and while the company is known

@@ -14,6 +14,9 @@ struct DateRange {
   friend bool operator==(const DateRange&, const DateRange&) = default;
 };
 
+/// Before and after whatever a ledger holds.
+inline constexpr Date First_Day(100, 1, 1), Last_Day(9999, 12, 31);
+
 /// The preset names in the order in which lists offer them.
 inline constexpr std::array<std::string_view, 10> Date_Range_Names = {
     "Today",     "This Week", "This Month", "This Quarter", "This Year",

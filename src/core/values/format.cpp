@@ -15,6 +15,8 @@ namespace {
 constexpr std::array<std::string_view, 12> month_names = {"January",   "February", "March",    "April",
                                                           "May",       "June",     "July",     "August",
                                                           "September", "October",  "November", "December"};
+constexpr std::array<std::string_view, 7> day_names = {"Sunday",   "Monday", "Tuesday", "Wednesday",
+                                                       "Thursday", "Friday", "Saturday"};
 
 // One character of a mask; quotes and the backslash are gone, having made it a literal.
 struct Mark {
@@ -136,7 +138,10 @@ std::string padded(unsigned number, std::size_t width) {
 // A run of one letter in a date mask; empty if it means nothing.
 std::string date_part(Date date, char letter, std::size_t count) {
   const auto name = month_names[date.month() - 1];
+  const auto weekday = day_names[static_cast<std::size_t>(date.weekday()) - 1];
   if (letter == 'd' && count <= 2) return padded(date.day(), count);
+  if (letter == 'd' && count == 3) return std::string(weekday.substr(0, 3));
+  if (letter == 'd' && count == 4) return std::string(weekday);
   if (letter == 'm' && count <= 2) return padded(date.month(), count);
   if (letter == 'm' && count == 3) return std::string(name.substr(0, 3));
   if (letter == 'm' && count == 4) return std::string(name);

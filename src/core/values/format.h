@@ -17,8 +17,18 @@ namespace tallymere {
 std::string Format(Money value, std::string_view mask);
 std::string Format(double value, std::string_view mask);
 
-// Date masks: d dd, m mm mmm mmmm (English month names), yy yyyy; other characters, quoted or not, stand as
-// they are.
+// Date masks: d dd ddd dddd (the latter two the weekday's English name), m mm mmm mmmm (the month's), yy yyyy;
+// other characters, quoted or not, stand as they are.
 std::string Format(Date value, std::string_view mask);
+
+// How amounts stand on screen and paper unless a text asks for another look: grouped, with cents and one minus
+// sign. What is kept stays exact: 224,667.1499 shows as "224,667.15".
+inline constexpr std::string_view money_mask = "#,##0.00";
+inline constexpr std::string_view dollar_mask = "$#,##0.00";  // where the text says so: "-$1,234.50"
+inline constexpr std::string_view price_mask = "#,##0.00##";  // of one piece, which may cost parts of a cent
+inline constexpr std::string_view long_date_mask = "dddd, mmmm d, yyyy";
+
+inline std::string Money_Text(Money amount) { return Format(amount, money_mask); }
+inline std::string Dollar_Text(Money amount) { return Format(amount, dollar_mask); }
 
 }  // namespace tallymere

@@ -2,13 +2,13 @@
 
 #include <algorithm>
 #include <memory>
-#include <set>
 
 #include "reports/reports.h"
 #include "shell/widgets/Form.h"
 #include "shell/widgets/printed_pages.h"
 
 class QButtonGroup;
+class QCheckBox;
 class QComboBox;
 class QLabel;
 class QPushButton;
@@ -43,7 +43,6 @@ class ReportForm : public Form {
   virtual QPageLayout page_to_print();
   virtual void after_load() {}
   void changeEvent(QEvent* event) override;
-  virtual void cmdPick_AfterClick();
   void add_button(QPushButton* button);       ///< above "E&xport"
   void show_instead_of_grid(QWidget* other);  ///< nullptr: the grid again
 
@@ -53,10 +52,9 @@ class ReportForm : public Form {
 
   SSDBGrid* grdPL;
   QComboBox* cmbDate;
-  QPushButton* cmdPick;
 
  private:
-  // --- building the window
+  // --- the window: ReportForm.cpp
   QWidget* build_bar();
   QWidget* build_sheet();
   QVBoxLayout* build_buttons();
@@ -64,24 +62,28 @@ class ReportForm : public Form {
   void connect_controls();
   void fit_sheet();
 
-  // --- the request
+  // --- the request: ReportForm_request.cpp
   void begin_report(const Request& asked);
-  void take_options(const Request& asked);
+  void take_option(std::string_view option, const std::string& value);
   void show_request();
   void show_preset();
   void read_controls();
   void changed_by_user();
+  void cmbDate_Click();
+  void cmdPick_AfterClick();
+  bool is_shown(const ReportColumn& column) const;
+  void cmdLabel_AfterClick();
 
-  // --- showing the table
+  // --- the table: ReportForm_table.cpp
   void build();
   void show_table();
   void show_columns();
   void show_labels();
   void show_widths();
   void show_heading();
+  std::string row_text(int row) const;
 
-  void cmbDate_Click();
-  void cmdLabel_AfterClick();
+  // --- what becomes of it: ReportForm_output.cpp
   void cmdGoto_AfterClick();
   void cmdPrint_AfterClick();
   void cmdExport_AfterClick();
@@ -95,17 +97,17 @@ class ReportForm : public Form {
   const ReportDef* report_ = nullptr;
   ReportRequest request_;
   ReportTable table_;
-  std::set<std::string> hidden_;  ///< captions of columns the user took out
   bool building_ = false;
 
-  QLabel *Label4, *Label5, *Label6, *lblStart, *lblEnd, *lblBasis;
+  QLabel *Label4, *Label5, *Label6, *lblStart, *lblEnd, *lblBasis, *lblNote;
   QuillbrookDatePick *dteStart, *dteEnd;
   QButtonGroup* optBasis;
+  QCheckBox* chkEmpty;
   QWidget *bar_ = nullptr, *sheet_ = nullptr;
   QStackedLayout* shown_;
   QVBoxLayout* buttons_;
   int extra_button_at_ = 0;
-  QPushButton *cmdRefresh, *cmdPrint, *cmdLabel, *cmdGoto, *cmdExport, *cmdClose;
+  QPushButton *cmdRefresh, *cmdPrint, *cmdLabel, *cmdGoto, *cmdPick, *cmdExport, *cmdClose;
 };
 
 /// A window's name as a template's argument.

@@ -1,84 +1,29 @@
 #include <QApplication>
 #include <QClipboard>
-#include <QLabel>
 #include <QPushButton>
 
 #include "core/backup/whole_file.h"
 #include "reports/frame/ReportForm.h"
-#include "reports/frame/frmChangeTitle.h"
-#include "reports/frame/frmSelectFields.h"
 #include "reports/frame/renderers.h"
 #include "reports/frame/report_paint.h"
-#include "reports/frame/widest_texts.h"
 #include "shell/widgets/frmPreview.h"
 #include "shell/widgets/grid/SSDBGrid.h"
 
-/// What becomes of a report on show: another title, fewer columns, a jump from a row, paper, files.
+/// What becomes of a report on show: a jump from a row, paper, files.
 namespace tallymere {
-
-namespace {
-
-/// The families of reports whose heading is built with their columns: a new title builds them again, and so
-/// takes in what was entered meanwhile. On the others the caption alone changes.
-struct TitleFamily {
-  std::string_view window, family;
-};
-constexpr TitleFamily built_with_title[] = {
-    {"frmPrintPL2", "PL"},
-    {"frmPrintPLName", "PLName"},
-    {"frmPrintBalSheet", "Bal"},
-    {"frmPrintBalances", "BalSum"},
-    {"frmPrintInvCount", "InvCount"},
-    {"frmPrintInvItem", "InvItem"},
-    {"frmPrintInvValue", "InvValue"},
-};
-
-bool Is_Built_With_Title(const std::string& window) {
-  return std::any_of(std::begin(built_with_title), std::end(built_with_title),
-                     [&](const TitleFamily& family) { return family.window == window; });
-}
-
-}  // namespace
-
-void ReportForm::cmdLabel_AfterClick() {
-  frmChangeTitle dialog(shell, utf8(Label6->text()));
-  if (!shell.Run_Modal(dialog)) return;
-  request_.title = dialog.title();
-  const bool own_again = request_.title.empty();
-  if (own_again || Is_Built_With_Title(utf8(objectName()))) return Load_Standard();
-  table_.heading.title = request_.title;
-  show_heading();
-}
 
 void ReportForm::cmdGoto_AfterClick() {
   const int row = grdPL->Row();
   if (row < 0 || row >= table_.rows()) return;
   const RowKey key = table_.key(row);
-  if (table_.go_to == ReportTable::GoTo::Transaction && key.number != 0)
-    return shell.Go_To_Transaction(std::string(key.text), key.number);
-  if (const auto request = Go_To_Request(table_, row, request_))
+  if (key.leads() && key.report.empty()) return shell.Go_To_Transaction(std::string(key.text), key.number);
+  if (const auto request = Go_To_Request(key, request_))
     shell.Show_Custom_Report({.window = {},
                               .key = request->key,
-                              .parent = request->option(report_option::category),
+                              .parent = std::string(key.text),
                               .columns = request->option(report_option::fields),
                               .start = request->from,
                               .end = request->to});
-}
-
-/// Any report can do without some of its columns, but not without all, nor without what its rows are called.
-void ReportForm::cmdPick_AfterClick() {
-  std::vector<FieldChoice> choices;
-  const ReportTable whole = Build_Report(session, request_);
-  for (int at = Label_Column(whole) + 1; at < static_cast<int>(whole.columns.size()); ++at)
-    if (const std::string& caption = whole.columns[static_cast<size_t>(at)].caption; !caption.empty())
-      choices.push_back({caption, caption, !hidden_.contains(caption)});
-  frmSelectFields dialog(shell, choices);
-  if (!shell.Run_Modal(dialog)) return;
-  hidden_.clear();
-  for (const FieldChoice& choice : dialog.choices())
-    if (!choice.selected) hidden_.insert(choice.caption);
-  if (hidden_.size() == choices.size()) hidden_.clear();
-  Load_Standard();
 }
 
 // --- paper

@@ -1,9 +1,13 @@
 #include "reports/frame/page_columns_paint.h"
 
 #include <algorithm>
+#include <limits>
 #include <numeric>
 
+#include "core/values/text.h"
+#include "reports/frame/squeeze.h"
 #include "reports/frame/widest_texts.h"
+#include "reports/frame/wrapped_text.h"
 #include "shell/widgets/Form.h"
 
 namespace tallymere {
@@ -13,7 +17,7 @@ namespace {
 using Kind = ReportColumn::Kind;
 using Widths = std::vector<qreal>;
 
-constexpr qreal widest_text = 3600;    ///< beyond it texts wrap
+constexpr qreal widest_text = 3600;    ///< no sheet is turned for texts beyond it
 constexpr qreal widest_label = 5200;   ///< the same for the first column
 constexpr qreal narrowest_text = 900;  ///< a text column is not squeezed below it
 constexpr qreal longest_word = 2400;
@@ -22,6 +26,8 @@ constexpr qreal widest_caption = 1300;
 constexpr qreal smallest_print = 0.78;
 constexpr qreal most_spread = 1.35;
 constexpr qreal least_share = 0.62;  ///< of the page's width, however little there is to show
+constexpr int rows_measured = 1500;  ///< at most about so many, to find where texts wrap least
+constexpr qreal many_spared = 0.88;  ///< what remains of the lines where smaller print spares many
 
 qreal Sum(const Widths& widths) { return std::accumulate(widths.begin(), widths.end(), qreal{0}); }
 
@@ -40,28 +46,55 @@ class Measure {
       if (texts_[column].empty()) natural[column] = least[column] = 0;
   }
 
+  /// The natural widths as far as they are no long texts.
+  qreal modest_width() const {
+    qreal sum = 0;
+    for (size_t column = 0; column < natural.size(); ++column)
+      sum +=
+          is_text(column) ? std::min(natural[column], is_label(column) ? widest_label : widest_text) : natural[column];
+    return sum;
+  }
+
+  /// What the texts of some rows would take, spread over the table.
+  std::vector<Column_Demand> demands() const {
+    std::vector<Column_Demand> columns;
+    for (size_t column = 0; column < natural.size(); ++column)
+      columns.push_back({natural[column], least[column], is_text(column) ? texts_of(column) : std::vector<double>()});
+    return columns;
+  }
+  int rows_looked_at() const { return table_.rows() / step() + 1; }
+
   Widths natural, least;
 
  private:
   bool is_shown(size_t column) const { return table_.columns[column].kind != Kind::Margin; }
   bool is_text(size_t column) const { return table_.columns[column].kind == Kind::Text; }
-  bool is_first(size_t column) const {
-    for (size_t before = 0; before < column; ++before)
-      if (is_shown(before)) return false;
-    return true;
+  bool is_label(size_t column) const { return static_cast<int>(column) == table_.label_column(); }
+  int step() const { return std::max(table_.rows() / rows_measured, 1); }
+
+  std::vector<double> texts_of(size_t column) const {
+    std::vector<double> widths;
+    for (int row = 0; row < table_.rows(); row += step()) {
+      const int at = static_cast<int>(column);
+      if (table_.value(row, at).blank() || (is_label(column) && Label_Span(table_, row) > 1)) continue;
+      const QFontMetricsF& metrics = fonts_.of(table_.style(row, at)).metrics;
+      qreal width = 0;
+      for (const std::string& line : split(table_.for_the_eye(row, at), "\n"))
+        width = std::max(width, metrics.horizontalAdvance(qt(line)));
+      widths.push_back(width + around);
+    }
+    return widths;
   }
 
   qreal natural_of(size_t column) const {
     qreal width = std::max(caption_width(column), is_text(column) ? word_width(column) : 0);
     for (const StyledText& text : texts_[column])
       width = std::max(width, fonts_.of(text.style).metrics.horizontalAdvance(qt(text.text)));
-    width += 2 * Page_Columns::pad + 20;
-    if (!is_text(column)) return width;
-    return std::min(width, is_first(column) ? widest_label : widest_text);
+    return width + around;
   }
   /// Texts wrap between words; only a word beyond all measure is broken.
   qreal least_of(size_t column) const {
-    const qreal width = std::max(word_width(column), caption_width(column)) + 2 * Page_Columns::pad + 20;
+    const qreal width = std::max(word_width(column), caption_width(column)) + around;
     return std::min(natural[column], std::max(width, narrowest_text));
   }
   qreal word_width(size_t column) const {
@@ -74,10 +107,12 @@ class Measure {
   qreal caption_width(size_t column) const {
     const QString caption = qt(table_.columns[column].caption);
     qreal whole = fonts_.heads().metrics.horizontalAdvance(caption), word = 0;
-    for (const QString& part : caption.split(QLatin1Char(' ')))
-      word = std::max(word, fonts_.heads().metrics.horizontalAdvance(part));
+    for (std::string_view part : Words(table_.columns[column].caption))
+      word = std::max(word, fonts_.heads().metrics.horizontalAdvance(qt(std::string(part))));
     return std::max(word, std::min(whole, widest_caption));
   }
+
+  const qreal around = 2 * Page_Columns().pad() + 20;
 
   const ReportTable& table_;
   std::vector<std::vector<StyledText>> texts_;
@@ -86,14 +121,6 @@ class Measure {
 
 Widths Times(Widths widths, qreal factor) {
   for (qreal& width : widths) width *= factor;
-  return widths;
-}
-
-/// Some way between the least and the natural widths.
-Widths Between(const Widths& least, const Widths& natural, qreal room) {
-  const qreal part = (room - Sum(least)) / std::max(Sum(natural) - Sum(least), qreal{1});
-  Widths widths = least;
-  for (size_t at = 0; at < widths.size(); ++at) widths[at] += (natural[at] - least[at]) * part;
   return widths;
 }
 
@@ -121,16 +148,30 @@ std::vector<std::vector<int>> Parted(const Widths& widths, qreal room) {
   return panels;
 }
 
+/// Texts wrap. Where there is no room still, or where it spares many lines, the print shrinks as far as it stays
+/// readable.
+bool Fits_Squeezed(const Measure& measure, qreal room, Page_Columns& columns) {
+  const std::vector<Column_Demand> demands = measure.demands();
+  const qreal least = Sum(measure.least);
+  qreal lines = std::numeric_limits<qreal>::infinity();
+  for (const qreal scale : {qreal{1}, qreal{0.92}, qreal{0.85}, smallest_print}) {
+    if (least * scale > room) continue;
+    const Squeezed_Columns squeezed = Squeeze(demands, room / scale);
+    const qreal now = measure.rows_looked_at() + squeezed.more_lines;
+    if (now > lines * many_spared) continue;
+    lines = now;
+    columns.scale = scale;
+    columns.widths = Times(squeezed.widths, scale);
+  }
+  return lines < std::numeric_limits<qreal>::infinity();
+}
+
 bool Fits_Whole(const Measure& measure, qreal room, Page_Columns& columns) {
-  const qreal natural = Sum(measure.natural), least = Sum(measure.least);
+  const qreal natural = Sum(measure.natural);
   if (natural <= room) {
     const qreal wanted = std::max(most_spread, least_share * room / std::max(natural, qreal{1}));
     columns.widths = Times(measure.natural, std::min(room / std::max(natural, qreal{1}), wanted));
-  } else if (least * smallest_print <= room) {
-    columns.scale = std::min(room / least, qreal{1});
-    columns.widths =
-        columns.scale < 1 ? Times(measure.least, columns.scale) : Between(measure.least, measure.natural, room);
-  } else {
+  } else if (Sum(measure.least) * smallest_print > room || !Fits_Squeezed(measure, room, columns)) {
     return false;
   }
   columns.panels = {Shown(columns.widths)};
@@ -145,6 +186,8 @@ qreal Page_Columns::width_of(const std::vector<int>& panel) const {
   return width;
 }
 
+std::vector<int> Page_Columns::shown() const { return Shown(widths); }
+
 Page_Columns Fit_Columns(const ReportTable& table, qreal room) {
   Measure measure(table);
   Page_Columns columns;
@@ -158,6 +201,6 @@ Page_Columns Fit_Columns(const ReportTable& table, qreal room) {
   return columns;
 }
 
-qreal Natural_Width(const ReportTable& table) { return Sum(Measure(table).natural); }
+qreal Modest_Width(const ReportTable& table) { return Measure(table).modest_width(); }
 
 }  // namespace tallymere

@@ -19,7 +19,7 @@ struct Row {
   bool scaled;  ///< shrinks with a table that is too wide; what stands around it does not
 };
 constexpr Row rows[] = {
-    {"", 9.5, false, false, true},     {"Bold", 12, true, false, true},        {"sBold", 9.5, true, false, true},
+    {"", 9.5, false, false, true},     {"Bold", 10, true, false, true},        {"sBold", 9.5, true, false, true},
     {"Small", 9, false, false, true},  {"Underline", 9.5, false, true, true},  {"heads", 8.5, true, false, true},
     {"title", 18, true, false, false}, {"company", 11.5, false, false, false}, {"period", 10, false, false, false},
     {"edge", 8, false, false, false},

@@ -11,7 +11,7 @@
 namespace tallymere {
 namespace {
 
-constexpr std::string_view first_line = "tallymere-report 1";
+constexpr std::string_view first_line = "tallymere-report 2";
 constexpr std::string_view last_line = "end";
 
 using Kind = ReportColumn::Kind;
@@ -21,6 +21,15 @@ constexpr std::array<std::pair<std::string_view, Kind>, 6> kinds = {{{"text", Ki
                                                                      {"date", Kind::Date},
                                                                      {"flag", Kind::Flag},
                                                                      {"margin", Kind::Margin}}};
+constexpr std::array<std::pair<std::string_view, Role>, 7> roles = {{{"detail", Role::Detail},
+                                                                     {"head", Role::Head},
+                                                                     {"group", Role::Group},
+                                                                     {"subtotal", Role::Subtotal},
+                                                                     {"total", Role::Total},
+                                                                     {"grand", Role::Grand_Total},
+                                                                     {"spacer", Role::Spacer}}};
+constexpr std::array<std::pair<std::string_view, Looks>, 2> looks = {
+    {{"statement", Looks::Statement}, {"list", Looks::List}}};
 
 [[noreturn]] void Not_A_Report() {
   throw store::Error(store::errors::not_a_database, "This is no report, or one cut short.");
@@ -141,31 +150,30 @@ class Fields {
   size_t next_ = 0;
 };
 
-Kind Kind_Named(std::string_view name) {
-  for (const auto& [known, kind] : kinds)
-    if (known == name) return kind;
+template <typename Words>
+auto Named(const Words& words, std::string_view name) {
+  for (const auto& [known, meaning] : words)
+    if (known == name) return meaning;
   Not_A_Report();
 }
 
-std::string_view Name_Of(Kind wanted) {
-  for (const auto& [name, kind] : kinds)
-    if (kind == wanted) return name;
+template <typename Words, typename Meaning>
+std::string_view Name_Of(const Words& words, Meaning wanted) {
+  for (const auto& [name, meaning] : words)
+    if (meaning == wanted) return name;
   return {};
 }
 
 ReportColumn Read_Column(Fields& fields) {
   ReportColumn column;
-  column.kind = Kind_Named(fields.raw());
-  column.right = fields.raw() == "1";
-  column.width = fields.number();
+  column.kind = Named(kinds, fields.raw());
   column.mask = fields.text();
   column.caption = fields.text();
   return column;
 }
 
 void Read_Row(Fields& fields, ReportTable& table) {
-  std::string style = fields.text(), key = fields.text();
-  auto line = table.add_row(style, {key, Read_Number<int64_t>(fields.raw())});
+  auto line = table.add_row(Named(roles, fields.raw()));
   while (fields.more()) line.value(Read_Cell(fields.raw()));
 }
 
@@ -182,6 +190,9 @@ void Read_Line(const std::string& line, ReportTable& table) {
     table.heading.company = fields.text();
     table.heading.period = fields.text();
     table.heading.basis = fields.text();
+    table.heading.note = fields.text();
+  } else if (what == "looks") {
+    table.looks = Named(looks, fields.raw());
   } else if (what == "column") {
     table.columns.push_back(Read_Column(fields));
   } else if (what == "group") {
@@ -199,8 +210,7 @@ void Read_Line(const std::string& line, ReportTable& table) {
 void Write_Rows(const ReportTable& table, std::ostream& out) {
   const int columns = static_cast<int>(table.columns.size());
   for (int row = 0; row < table.rows(); ++row) {
-    const RowKey key = table.key(row);
-    out << "row\t" << Escaped(table.style(row)) << '\t' << Escaped(key.text) << '\t' << key.number;
+    out << "row\t" << Name_Of(roles, table.role(row));
     std::string empty_cells;
     for (int column = 0; column < columns; ++column) {
       std::string cell = Cell_Text(table.value(row, column));
@@ -210,9 +220,8 @@ void Write_Rows(const ReportTable& table, std::ostream& out) {
       empty_cells.clear();
     }
     out << '\n';
-    for (int column = 0; column < columns; ++column)
-      if (auto style = table.style(row, column); style != table.style(row))
-        out << "cell\t" << row << '\t' << column << '\t' << Escaped(style) << '\n';
+    for (const auto& [column, style] : table.own_styles(row))
+      out << "cell\t" << row << '\t' << column << '\t' << Escaped(style) << '\n';
   }
 }
 
@@ -221,10 +230,11 @@ void Write_Rows(const ReportTable& table, std::ostream& out) {
 void Write_Report_File(const ReportTable& table, std::ostream& out) {
   const ReportHeading& heading = table.heading;
   out << first_line << "\nheading\t" << Escaped(heading.title) << '\t' << Escaped(heading.company) << '\t'
-      << Escaped(heading.period) << '\t' << Escaped(heading.basis) << '\n';
+      << Escaped(heading.period) << '\t' << Escaped(heading.basis) << '\t' << Escaped(heading.note) << '\n'
+      << "looks\t" << Name_Of(looks, table.looks) << '\n';
   for (const ReportColumn& column : table.columns)
-    out << "column\t" << Name_Of(column.kind) << '\t' << column.right << '\t' << column.width << '\t'
-        << Escaped(column.mask) << '\t' << Escaped(column.caption) << '\n';
+    out << "column\t" << Name_Of(kinds, column.kind) << '\t' << Escaped(column.mask) << '\t' << Escaped(column.caption)
+        << '\n';
   for (const ReportGroup& group : table.groups)
     out << "group\t" << group.first << '\t' << group.count << '\t' << Escaped(group.caption) << '\n';
   Write_Rows(table, out);

@@ -7,11 +7,12 @@
 /// A report handed from one program to another: lines of text, fields between tabs. The command line writes
 /// it for `tallymere-paint`, which alone links what paints pages.
 ///
-///     tallymere-report 1
-///     heading  TITLE COMPANY PERIOD
-///     column   KIND RIGHT WIDTH MASK CAPTION
+///     tallymere-report 2
+///     heading  TITLE COMPANY PERIOD BASIS NOTE
+///     looks    statement, list
+///     column   KIND MASK CAPTION
 ///     group    FIRST COUNT CAPTION
-///     row      STYLE KEY NUMBER CELL...
+///     row      ROLE CELL...
 ///     cell     ROW COLUMN STYLE                 a cell with a look of its own
 ///     end
 ///

@@ -3,12 +3,11 @@
 #include <algorithm>
 #include <bit>
 
+#include "core/ledger/tree_list.h"
 #include "core/values/format.h"
 
 namespace tallymere {
 namespace {
-
-constexpr std::string_view money_mask = "#,##0.00##";
 
 std::string Masked(const store::Value& value, std::string_view mask) {
   if (auto amount = std::get_if<Money>(&value.content())) return Format(*amount, mask.empty() ? money_mask : mask);
@@ -28,8 +27,9 @@ const std::string* ReportTable::keep(std::string_view text) {
   return found != texts_->end() ? &*found : &*texts_->emplace(text).first;
 }
 
-ReportTable::Line ReportTable::add_row(std::string_view style, RowKey key) {
-  rows_.push_back({cells_.size(), masks_.size(), keep(style), keep(key.text), key.number});
+ReportTable::Line ReportTable::add_row(Role role, RowKey key) {
+  rows_.push_back({cells_.size(), masks_.size(), keep(key.report), keep(key.text), key.number, role});
+  leads_on_ = leads_on_ || key.leads();
   next_column_ = 0;
   return Line(*this);
 }
@@ -116,25 +116,53 @@ std::string ReportTable::for_the_eye(int row, int column) const {
   return Masked(value(row, column), columns[static_cast<size_t>(column)].mask);
 }
 
+bool ReportTable::is_total(int row) const {
+  return role(row) == Role::Subtotal || role(row) == Role::Total || role(row) == Role::Grand_Total;
+}
+
+std::string_view ReportTable::style(int row) const {
+  const bool list = looks == Looks::List;
+  switch (role(row)) {
+    case Role::Head:
+    case Role::Total:
+    case Role::Grand_Total:
+      return list ? "Bold" : "sBold";
+    case Role::Spacer:
+      return "";
+    default:
+      return list ? "Small" : "";
+  }
+}
+
 std::string_view ReportTable::style(int row, int column) const {
   auto own = cell_styles_.find({row, column});
   return own == cell_styles_.end() ? style(row) : *own->second;
 }
 
-RowKey ReportTable::key(int row) const {
-  const Row& found = rows_[static_cast<size_t>(row)];
-  return {*found.key, found.number};
+std::vector<std::pair<int, std::string>> ReportTable::own_styles(int row) const {
+  std::vector<std::pair<int, std::string>> styles;
+  for (auto own = cell_styles_.lower_bound({row, 0}); own != cell_styles_.end() && own->first.first == row; ++own)
+    styles.emplace_back(own->first.second, *own->second);
+  return styles;
 }
 
-bool ReportTable::is_spacer(int row) const {
-  for (int column = 0; column < static_cast<int>(columns.size()); ++column) {
-    const Cell& found = cell(row, column);
-    if (auto text = std::get_if<const std::string*>(&found);
-        text && (*text)->find_first_not_of(' ') == std::string::npos)
-      continue;
-    if (!std::holds_alternative<std::monostate>(found)) return false;
-  }
-  return true;
+RowKey ReportTable::key(int row) const {
+  const Row& found = rows_[static_cast<size_t>(row)];
+  return {*found.report, *found.text, found.number};
+}
+
+int ReportTable::label_column() const {
+  const auto label = std::find_if(columns.begin(), columns.end(),
+                                  [](const ReportColumn& column) { return column.kind != ReportColumn::Kind::Margin; });
+  return label == columns.end() ? -1 : static_cast<int>(label - columns.begin());
+}
+
+int ReportTable::level(int row) const {
+  const int label = label_column();
+  const std::string* const* text = label < 0 ? nullptr : std::get_if<const std::string*>(&cell(row, label));
+  if (!text) return 0;
+  const size_t blanks = std::min((*text)->find_first_not_of(' '), (*text)->size());
+  return static_cast<int>(blanks) / Blanks_Per_Level;
 }
 
 int ReportTable::find_column(std::string_view caption) const {

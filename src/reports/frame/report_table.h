@@ -19,6 +19,7 @@ namespace tallymere {
 struct ReportHeading {
   std::string title = {}, company = {}, period = {};
   std::string basis = {};  ///< "Cash basis"; empty on reports that know only one
+  std::string note = {};   ///< below the report: how its columns count, where that is not plain to see
 
   /// The three lines above the report's columns, CR LF between them.
   std::string caption() const { return title + "\r\n" + company + "\r\n" + period; }
@@ -30,9 +31,12 @@ struct ReportColumn {
 
   std::string caption = {};
   Kind kind = Kind::Text;
-  bool right = false;     ///< aligned to the right
-  int width = 0;          ///< in characters; 0: an equal share of the room that is left
-  std::string mask = {};  ///< for the eye; empty: money as "#,##0.00##", others as they stand
+  std::string mask = {};  ///< for the eye; empty: money as money_mask, others as they stand
+  std::string name = {};  ///< what it is picked by, where its caption changes or is no field's
+  bool may_go = false;    ///< one of many like it: it goes with the empty groups when it shows nothing but zeros
+
+  const std::string& id() const { return name.empty() ? caption : name; }
+  bool is_right() const { return kind == Kind::Money || kind == Kind::Number; }  ///< aligned to the right
 };
 
 /// A head of its own above some columns, such as a month. The report's heading is not one of them.
@@ -42,25 +46,42 @@ struct ReportGroup {
   int count = 1;
 };
 
-/// What a row stands for; the user never sees it.
-struct RowKey {
-  std::string_view text = {};  ///< CatID, or the type of a transaction, or a name
-  int64_t number = 0;          ///< TransNum; 0: none
+/// What a row is in its report; looks, rules and page breaks follow from it. A head stands over the rows below
+/// it, down to its total: the first one indented as far as the head itself.
+enum class Role {
+  Detail,
+  Head,
+  Group,     ///< a head in the look of its rows
+  Subtotal,  ///< a total in the look of its rows
+  Total,
+  Grand_Total,
+  Spacer,
 };
+
+/// Statement: plain rows, heads and totals "sBold". List: "Small" rows, heads and totals "Bold".
+enum class Looks { Statement, List };
+
+/// What a row stands for, and so where "Go to" and a double click lead; the user never sees it.
+struct RowKey {
+  std::string_view report = {};  ///< the key of the report it opens
+  std::string_view text = {};    ///< what that report is of (a CatID, a name); without one, a transaction's type
+  int64_t number = 0;            ///< TransNum; 0: no row of the ledger
+
+  bool leads() const { return !text.empty() && (!report.empty() || number != 0); }
+};
+inline RowKey To_Report(std::string_view report, std::string_view subject) { return {report, subject, 0}; }
+inline RowKey To_Transaction(std::string_view Type, int64_t TransNum) { return {{}, Type, TransNum}; }
 
 /// Rows of typed cells under columns. Rows and columns count from 0. Reading outside a row gives a null, so
 /// that a row ends with its last filled cell. Texts are kept once, however often they stand in the table.
 class ReportTable {
  public:
-  /// Where "Go to" and a double click lead: nowhere, to the report of the row's category, to its transaction.
-  enum class GoTo { Nowhere, Category, Transaction };
-
   ReportHeading heading;
   std::vector<ReportColumn> columns;
   std::vector<ReportGroup> groups;
-  GoTo go_to = GoTo::Nowhere;
-  std::string go_to_report;  ///< for GoTo::Category: the key of the report to open
-  std::string notice;        ///< said in a box once the report is shown; usually empty
+  Looks looks = Looks::Statement;
+  std::vector<ReportColumn> offered;  ///< what one may pick columns from; a builder that picks itself fills it
+  std::string notice;                 ///< said in a box once the report is shown; usually empty
 
   /// Writes the cells of the row just added, from the left.
   class Line {
@@ -75,10 +96,9 @@ class ReportTable {
     ReportTable& table_;
   };
 
-  /// `style` is the name of a look: "Bold", "sBold", "Small", "Underline", or "" for the plain one.
-  Line add_row(std::string_view style = {}, RowKey key = {});
-  void add_spacer() { add_row().text(" "); }
-  void set_cell_style(int row, int column, std::string_view style);
+  Line add_row(Role role = Role::Detail, RowKey key = {});
+  void add_spacer() { add_row(Role::Spacer).text(" "); }
+  void set_cell_style(int row, int column, std::string_view style);  ///< "Underline" or another look of its own
 
   int rows() const { return static_cast<int>(rows_.size()); }
   store::Value value(int row, int column) const;
@@ -86,12 +106,21 @@ class ReportTable {
   std::string text(int row, int column) const;
   /// The content as the column's mask shows it.
   std::string for_the_eye(int row, int column) const;
-  std::string_view style(int row) const { return *rows_[static_cast<size_t>(row)].style; }
-  std::string_view style(int row, int column) const;  ///< the cell's own, else the row's
+  Role role(int row) const { return rows_[static_cast<size_t>(row)].role; }
+  bool is_head(int row) const { return role(row) == Role::Head || role(row) == Role::Group; }
+  bool is_total(int row) const;
+  bool is_spacer(int row) const { return role(row) == Role::Spacer; }
+  /// The name of a look: "Bold", "sBold", "Small", "Underline", or "" for the plain one.
+  std::string_view style(int row) const;
+  std::string_view style(int row, int column) const;                   ///< the cell's own, else the row's
+  std::vector<std::pair<int, std::string>> own_styles(int row) const;  ///< the cells with one, by column
   RowKey key(int row) const;
-  /// Nothing but blanks stands in it.
-  bool is_spacer(int row) const;
+  bool leads_on() const { return leads_on_; }  ///< "Go to" on some row leads somewhere
 
+  /// The column in which labels stand: the first that is no margin. -1: none.
+  int label_column() const;
+  /// How deep a row's label is indented, in steps of Blanks_Per_Level.
+  int level(int row) const;
   /// The column of that caption, or -1.
   int find_column(std::string_view caption) const;
 
@@ -104,9 +133,9 @@ class ReportTable {
   using Cell = std::variant<std::monostate, const std::string*, int64_t, double, Money, Date, bool>;
   struct Row {
     size_t first_cell, first_mask;
-    const std::string* style;
-    const std::string* key;
+    const std::string *report, *text;  // of its key
     int64_t number;
+    Role role;
   };
   const std::string* keep(std::string_view text);
   void put(Cell content);  ///< in the next column of the last row
@@ -117,6 +146,7 @@ class ReportTable {
   std::deque<Cell> cells_;                                    // the filled ones
   std::deque<uint64_t> masks_;                                // which columns they stand in, 64 to a word
   size_t next_column_ = 0;
+  bool leads_on_ = false;
   std::map<std::pair<int, int>, const std::string*> cell_styles_;
 };
 

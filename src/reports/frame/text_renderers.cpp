@@ -3,6 +3,7 @@
 
 #include "core/values/text.h"
 #include "reports/frame/renderers.h"
+#include "reports/frame/wrapped_text.h"
 
 namespace tallymere {
 namespace {
@@ -33,15 +34,7 @@ size_t Width(std::string_view text) {
   return static_cast<size_t>(std::count_if(text.begin(), text.end(), [](char c) { return (c & 0xC0) != 0x80; }));
 }
 
-constexpr size_t widest = 40;
-
-std::string Cut(std::string text) {
-  if (Width(text) <= widest) return text;
-  size_t at = 0;
-  for (size_t characters = 0; characters < widest - 1; ++at)
-    if ((text[at + 1] & 0xC0) != 0x80) ++characters;
-  return text.substr(0, at) + "…";
-}
+constexpr size_t widest = 40;  ///< longer texts go on in lines below
 
 /// Lines up the cells of a table: measures first, then writes.
 class Aligned {
@@ -50,26 +43,42 @@ class Aligned {
       : table_(table), out_(out), shown_(Shown_Columns(table)), widths_(shown_.size()) {
     for (size_t at = 0; at < shown_.size(); ++at) {
       widths_[at] = Width(Full_Caption(table_, shown_[at]));
-      for (int row = 0; row < table_.rows(); ++row) widths_[at] = std::max(widths_[at], Width(cell(row, at)));
+      for (int row = 0; row < table_.rows(); ++row)
+        widths_[at] = std::max(widths_[at], std::min(Width(cell(row, at)), widest));
     }
   }
 
   void write() {
-    write_line([&](size_t at) { return Full_Caption(table_, shown_[at]); });
-    for (int row = 0; row < table_.rows(); ++row) write_line([&](size_t at) { return cell(row, at); });
+    write_row([&](size_t at) { return Full_Caption(table_, shown_[at]); });
+    for (int row = 0; row < table_.rows(); ++row) write_row([&](size_t at) { return cell(row, at); });
   }
 
  private:
-  std::string cell(int row, size_t at) const { return Cut(On_One_Line(table_.for_the_eye(row, shown_[at]))); }
+  std::string cell(int row, size_t at) const { return On_One_Line(table_.for_the_eye(row, shown_[at])); }
 
   template <typename Text>
-  void write_line(Text&& text_at) {
+  void write_row(Text&& text_at) {
+    std::vector<std::vector<std::string>> cells;
+    size_t lines = 1;
+    for (size_t at = 0; at < shown_.size(); ++at) {
+      cells.push_back(lines_of(text_at(at), widths_[at]));
+      lines = std::max(lines, cells.back().size());
+    }
+    for (size_t line = 0; line < lines; ++line) write_line(cells, line);
+  }
+
+  static std::vector<std::string> lines_of(const std::string& text, size_t room) {
+    if (Width(text) <= room) return {text};
+    return Wrapped(text, static_cast<double>(room), text.size(),
+                   [](std::string_view part) { return static_cast<double>(Width(part)); });
+  }
+
+  void write_line(const std::vector<std::vector<std::string>>& cells, size_t number) {
     std::string line;
     for (size_t at = 0; at < shown_.size(); ++at) {
-      std::string text = text_at(at);
-      std::string blanks(widths_[at] - Width(text), ' ');
-      const ReportColumn& column = table_.columns[static_cast<size_t>(shown_[at])];
-      bool right = column.right || column.kind == ReportColumn::Kind::Money;
+      const std::string text = number < cells[at].size() ? cells[at][number] : "";
+      const std::string blanks(widths_[at] - Width(text), ' ');
+      const bool right = table_.columns[static_cast<size_t>(shown_[at])].is_right();
       if (at > 0) line += "  ";
       line += right ? blanks + text : text + blanks;
     }
@@ -95,6 +104,7 @@ void Write_Text(const ReportTable& table, std::ostream& out) {
   if (!heading.basis.empty()) out << heading.basis << "\n";
   out << "\n";
   Aligned(table, out).write();
+  if (!heading.note.empty()) out << "\n" << heading.note << "\n";
 }
 
 void Write_Csv(const ReportTable& table, std::ostream& out) {

@@ -20,18 +20,7 @@ struct StyledText {
 /// all.
 std::vector<std::vector<StyledText>> Widest_Texts(const ReportTable& table, int rows_looked_at = 0);
 
-/// How many decimals an amount shows without a mask: two, or as many more as it has.
-int Decimals(Money amount);
-/// The most that an amount of each column shows: room right of the point, so that points stand in one line.
-std::vector<int> Most_Decimals(const ReportTable& table);
-
-/// The column in which labels stand: the first that is no margin. -1: none.
-int Label_Column(const ReportTable& table);
-
 /// How many cells a row's label may run over: its own and the empty ones after it. 1 in ordinary rows.
 int Label_Span(const ReportTable& table, int row);
-
-/// The table with only these of its columns; margins stay.
-ReportTable Pick_Columns(const ReportTable& table, const std::vector<bool>& keep);
 
 }  // namespace tallymere

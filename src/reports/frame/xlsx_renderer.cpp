@@ -7,6 +7,7 @@
 
 #include "core/backup/whole_file.h"
 #include "core/store/error.h"
+#include "core/values/format.h"
 #include "core/values/text.h"
 #include "reports/frame/renderers.h"
 
@@ -21,7 +22,6 @@ constexpr int measured_rows = 300;
 constexpr size_t longest_text = 32767;  // of a cell, in characters
 constexpr size_t longest_header = 255;  // of a page
 constexpr double heading_height = 60;   // points: three lines of 14
-constexpr std::string_view plain_money = "#,##0.00##";
 constexpr std::string_view plain_date = "m/d/yyyy";
 
 enum class Align { Left, Right, Centre };
@@ -31,8 +31,11 @@ struct Look {
   bool bold, underline;
   double size;
 };
-constexpr Look looks[] = {
-    {"Bold", true, false, 14}, {"sBold", true, false, 0}, {"Small", false, false, 9}, {"Underline", false, true, 0}};
+constexpr Look looks[] = {{"heading", true, false, 14},
+                          {"Bold", true, false, 10},
+                          {"sBold", true, false, 0},
+                          {"Small", false, false, 9},
+                          {"Underline", false, true, 0}};
 
 /// A spreadsheet's own day count begins on 1/1/1900.
 bool Has_Spreadsheet_Date(Date day) { return day.year() >= 1900; }
@@ -79,6 +82,7 @@ class Workbook {
       if (at_ == rows_of_a_sheet) start_sheet();
       write_row(row);
     }
+    write_note();
     if (lxw_error fault = workbook_close(book_))
       throw store::Error(store::errors::bad_path, std::string("The workbook was not written: ") + lxw_strerror(fault));
   }
@@ -104,7 +108,7 @@ class Workbook {
     std::vector<ReportGroup> groups = table_.groups;
     if (groups.empty()) groups.push_back({table_.heading.caption(), 0, static_cast<int>(table_.columns.size())});
     const bool is_heading = table_.groups.empty();
-    lxw_format* look = format(is_heading ? "Bold" : "sBold", "", Align::Centre);
+    lxw_format* look = format(is_heading ? "heading" : "sBold", "", Align::Centre);
     if (is_heading) worksheet_set_row(sheet_, at_, heading_height, nullptr);
     for (const ReportGroup& group : groups) {
       const auto below = [&](int column) { return column >= group.first && column < group.first + group.count; };
@@ -137,12 +141,18 @@ class Workbook {
     ++at_;
   }
 
+  /// Below the rows, a blank one between; a sheet that is full has no room for it.
+  void write_note() {
+    if (!table_.heading.note.empty() && at_ + 1 < rows_of_a_sheet)
+      write_text(at_ + 1, 0, table_.heading.note, format("Small", ""));
+  }
+
   void write_cell(lxw_col_t to, const store::Value& value, std::string_view style, int column) {
     const std::string& mask = table_.columns[static_cast<size_t>(column)].mask;
     auto mask_or = [&](std::string_view plain) { return mask.empty() ? plain : std::string_view(mask); };
     const auto& content = value.content();
     if (auto amount = std::get_if<Money>(&content)) {
-      worksheet_write_number(sheet_, at_, to, amount->to_double(), format(style, mask_or(plain_money)));
+      worksheet_write_number(sheet_, at_, to, amount->to_double(), format(style, mask_or(money_mask)));
     } else if (std::holds_alternative<int64_t>(content) || std::holds_alternative<double>(content)) {
       worksheet_write_number(sheet_, at_, to, value.number(), format(style, mask));
     } else if (auto flag = std::get_if<bool>(&content)) {
@@ -180,10 +190,7 @@ class Workbook {
     return made;
   }
 
-  bool is_right(int column) const {
-    const ReportColumn& shown = table_.columns[static_cast<size_t>(column)];
-    return shown.right || shown.kind == Kind::Money;
-  }
+  bool is_right(int column) const { return table_.columns[static_cast<size_t>(column)].is_right(); }
 
   double width_of(int column) const {
     size_t widest = std::max<size_t>(8, table_.columns[static_cast<size_t>(column)].caption.size());

@@ -11,8 +11,9 @@
 namespace tallymere {
 
 frmPrintPL2::frmPrintPL2(Shell& shell_of_frame) : ReportForm(shell_of_frame, "frmPrintPL2") {
-  sheet_ = named("grfPL", new GraphSheet(graph_));
-  cmdGraph = named("cmdGraph", new QPushButton(QStringLiteral("&Graph")));
+  sheet_ = named("grfPL", new GraphSheet(graph_, this));
+  sheet_->hide();
+  cmdGraph = named("cmdGraph", new QPushButton(QStringLiteral("Grap&h")));
   cmdGraph->setCheckable(true);
   add_button(cmdGraph);
   on(cmdGraph, "cmdGraph_AfterClick", [this] { cmdGraph_AfterClick(); });
@@ -63,7 +64,7 @@ QPageLayout frmPrintPL2::page_to_print() {
   return cmdGraph->isChecked() ? Letter_Page(QPageLayout::Landscape) : ReportForm::page_to_print();
 }
 
-GraphSheet::GraphSheet(const PL_Graph& graph) : graph_(graph) {
+GraphSheet::GraphSheet(const PL_Graph& graph, QWidget* parent) : QWidget(parent), graph_(graph) {
   setMinimumSize(56 * theme::unit, 52 * theme::unit);
   setAccessibleName(QStringLiteral("Graph of income and expense"));
 }

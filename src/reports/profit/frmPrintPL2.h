@@ -41,7 +41,7 @@ class GraphSheet : public QWidget {
   Q_OBJECT
 
  public:
-  explicit GraphSheet(const PL_Graph& graph);
+  GraphSheet(const PL_Graph& graph, QWidget* parent);
 
  protected:
   void paintEvent(QPaintEvent* event) override;

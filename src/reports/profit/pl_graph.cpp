@@ -1,6 +1,7 @@
 #include <algorithm>
 
 #include "reports/profit/profit_and_loss.h"
+#include "reports/sums/ledger_sums.h"
 
 namespace tallymere {
 namespace {

@@ -1,25 +1,12 @@
 #pragma once
 
-#include <array>
-#include <string_view>
+#include <string>
+#include <vector>
 
-#include "core/ledger/category_tree.h"
 #include "reports/reports.h"
-#include "reports/sums/ledger_sums.h"
 
 /// The income statement: frmPrintPL2 in its six variants.
 namespace tallymere {
-
-/// The sections in their order. On the expense side a debit is positive.
-inline constexpr std::array<std::string_view, 5> PL_Sections = {"Income", "Other Income", "Cost of Goods Sold",
-                                                                "Expense", "Other Expense"};
-bool Is_Expense_Side(std::string_view AccountType);
-
-/// The top-level categories, by name, as every statement walks them.
-std::vector<const Category*> Top_Level_By_Name(const CategoryTree& tree);
-
-/// The CatIDs of a section: its top-level categories with all that stands below them.
-CatIDs Section_Categories(const CategoryTree& tree, std::string_view section);
 
 ReportTable Build_PL(Session& session, const ReportRequest& request);
 ReportTable Build_PLYTD(Session& session, const ReportRequest& request);

@@ -94,21 +94,14 @@ std::vector<std::string> Items_To_Report(Session& session) {
   return names;
 }
 
-std::string_view Subject_Option(const ReportDef& report) {
-  for (std::string_view option : {report_option::category, report_option::name, report_option::item})
-    if (report.takes(option)) return option;
-  return {};
-}
-
 ReportRequest Request_Of(Session& session, const SavedReport& report) {
   ReportRequest request = Default_Request(session, report.Parent);
   const DateRange days = Get_Date_Range(report.DateRange, session.today());
   request.from = days.start;
   request.to = days.end;
   request.options.insert_or_assign(std::string(report_option::fields), report.Fields);
-  if (const ReportDef* of = Find_Report(report.Parent))
-    if (const auto option = Subject_Option(*of); !option.empty())
-      request.options.insert_or_assign(std::string(option), report.Item);
+  if (const ReportDef* of = Find_Report(report.Parent); of && !of->subject.empty())
+    request.options.insert_or_assign(std::string(of->subject), report.Item);
   return request;
 }
 

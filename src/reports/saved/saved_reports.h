@@ -36,7 +36,4 @@ std::vector<std::string> Items_To_Report(Session& session);
 /// What to build for a saved report on this day.
 ReportRequest Request_Of(Session& session, const SavedReport& report);
 
-/// The option that says what a report of this key is of: "category", "name" or "item"; "" for the others.
-std::string_view Subject_Option(const ReportDef& report);
-
 }  // namespace tallymere

@@ -1,7 +1,7 @@
 #include <algorithm>
 
 #include "core/ledger/ledger.h"
-#include "reports/profit/profit_and_loss.h"
+#include "core/values/date_range.h"
 #include "reports/sums/income_shares.h"
 #include "reports/sums/kept_ledger.h"
 
@@ -14,8 +14,6 @@ constexpr std::string_view next_rows =
     "SELECT RowKey, TransNum, Transactions.Type, Date, Name, Class, Account, Amount, Debit, Credit, Paid,"
     " PaidBy FROM Transactions WHERE RowKey > ? ORDER BY RowKey LIMIT ?";
 enum Column { HiddenKey, TransNum, Type, Day, Name, Class, Account, Amount, Debit, Credit, Paid, PaidBy };
-
-constexpr Date first_day(100, 1, 1);
 
 }  // namespace
 
@@ -88,9 +86,8 @@ bool LedgerReader::step() {
 void LedgerReader::begin() {
   begun_at_ = db_.change_stamp();
   const CategoryTree tree = CategoryTree::Load(db_);
-  for (std::string_view section : PL_Sections)
-    for (const std::string& id : Section_Categories(tree, section))
-      ledger_.texts_.try_emplace(id, static_cast<KeptLedger::TextId>(ledger_.texts_.size() + 1));
+  for (const std::string& id : Result_Categories(tree))
+    ledger_.texts_.try_emplace(id, static_cast<KeptLedger::TextId>(ledger_.texts_.size() + 1));
   ledger_.categories_ = ledger_.texts_.size();
 }
 
@@ -111,7 +108,7 @@ void LedgerReader::add_row(const store::Row& row, Date day) {
   if (counts && same_text(row.text(Type), "Bill"))
     if (auto payments = Payments_Of(row.text(PaidBy)); !payments.empty())
       paid_bills_.push_back({ledger_.rows_.size(), payments.front()});
-  ledger_.rows_.push_back({day, Account_.id, keep(Name_, row, Name), keep(Class_, row, Class), counts, first_day,
+  ledger_.rows_.push_back({day, Account_.id, keep(Name_, row, Name), keep(Class_, row, Class), counts, First_Day,
                            Row_Value(row.money(Debit), row.money(Credit))});
 }
 

@@ -12,13 +12,11 @@ namespace {
 // another one once it has statistics, so the index is named.
 constexpr std::string_view by_account = " FROM Transactions INDEXED BY Transactions_Account WHERE Account = ";
 constexpr std::string_view in_period = " AND Date >= ? AND Date <= ?";
-constexpr std::string_view row_value = "CASE WHEN Credit <> 0 THEN Credit ELSE -Debit END";
 constexpr std::string_view each_category = " FROM json_each(?) AS wanted";
 
-std::string If_Counted(Basis basis) {
-  if (basis == Basis::Accrual) return "";
-  return " AND (Transactions.Type IS NULL OR Transactions.Type NOT IN ('Invoice', 'Bill') OR Paid <> 0)";
-}
+std::string And(const std::string& condition) { return condition.empty() ? "" : " AND (" + condition + ")"; }
+
+std::string If_Counted(Basis basis) { return And(Counted_Rows(basis)); }
 
 store::Database::Params Params_Of(const CatIDs& categories, DateRange days) {
   return {days.start, days.end, Id_List(categories)};
@@ -108,6 +106,12 @@ Amounts& Amounts::operator+=(const Amounts& more) {
   return *this;
 }
 
+Amounts Amounts::operator-() const {
+  Amounts turned = *this;
+  for (Money& amount : turned.columns) amount = -amount;
+  return turned;
+}
+
 Money& Amounts::operator[](size_t column) {
   if (column >= columns.size()) columns.resize(column + 1);
   return columns[column];
@@ -115,6 +119,11 @@ Money& Amounts::operator[](size_t column) {
 
 bool Is_Counted(Basis basis, std::string_view Type, bool Paid) {
   return basis == Basis::Accrual || Paid || !(same_text(Type, "Invoice") || same_text(Type, "Bill"));
+}
+
+std::string Counted_Rows(Basis basis) {
+  if (basis == Basis::Accrual) return "";
+  return "Transactions.Type IS NULL OR Transactions.Type NOT IN ('Invoice', 'Bill') OR Paid <> 0";
 }
 
 Money Row_Value(Money Debit, Money Credit) { return Credit.is_zero() ? -Debit : Credit; }
@@ -145,13 +154,26 @@ std::string Id_List(const std::vector<std::string>& texts) {
   return list + "]";
 }
 
+Figures Sum_Categories(store::Database& db, const CatIDs& categories, DateRange days, const Sum_Of& what) {
+  Figures figures;
+  const std::string sum = "(SELECT SUM(" + what.value + ")" + std::string(by_account) + "wanted.value" +
+                          std::string(in_period) + And(what.counted) + ")";
+  db.each("SELECT wanted.value, " + sum + std::string(each_category), Params_Of(categories, days),
+          [&](const store::Row& row) { figures.insert_or_assign(std::string(row.text(0)), row.money(1)); });
+  return figures;
+}
+
+void Sum_Names(store::Database& db, DateRange days, const Sum_Of& what, const TakeNameSum& take) {
+  const std::string counted = what.counted.empty() ? "TRUE" : what.counted;
+  db.each("SELECT Name, Account, SUM(CASE WHEN " + counted + " THEN " + what.value +
+              " ELSE 0 END) FROM Transactions INDEXED BY Transactions_Name"
+              " WHERE Date >= ? AND Date <= ? GROUP BY Name, Account",
+          {days.start, days.end}, [&](const store::Row& row) { take(row.text(0), row.text(1), row.money(2)); });
+}
+
 Figures Sum_Category(store::Database& db, const CatIDs& categories, const SumRange& range) {
   if (auto* kept = KeptLedger::Of(db, categories)) return kept->Sum_Category(categories, range);
-  Figures figures;
-  std::string sum = "(SELECT SUM(" + std::string(row_value) + ")" + std::string(by_account) + "wanted.value" +
-                    std::string(in_period) + If_Counted(range.basis) + ")";
-  db.each("SELECT wanted.value, " + sum + std::string(each_category), Params_Of(categories, range.days),
-          [&](const store::Row& row) { figures.insert_or_assign(std::string(row.text(0)), row.money(1)); });
+  Figures figures = Sum_Categories(db, categories, range.days, {.counted = Counted_Rows(range.basis)});
   Bills_Paid_Later(db, categories, range,
                    [&](const LateBill& bill) { figures[std::string(bill.Account)] -= bill.value; });
   return figures;

@@ -8,13 +8,13 @@
 #include "core/values/caseless.h"
 #include "core/values/date_range.h"
 #include "reports/reports.h"
+#include "reports/sums/sections.h"
 
 /// What reports sum from the ledger. Each function reads it in one grouped pass, mostly from an index alone,
 /// and gives every category its own rows' figure; rolling up is CategoryTree::sum_family. Figures are as
 /// income has them: credits add, debits subtract.
 namespace tallymere {
 
-using CatIDs = std::vector<std::string>;
 using Figures = CaselessMap<Money>;
 
 /// Sums that stand in the order of a list of categories, by category.
@@ -29,6 +29,7 @@ CaselessMap<T> By_Category(const CatIDs& categories, const std::vector<T>& sums)
 struct Amounts {
   std::vector<Money> columns;
   Amounts& operator+=(const Amounts& more);
+  Amounts operator-() const;
   Money& operator[](size_t column);  ///< grows as needed
 };
 using ColumnFigures = CaselessMap<Amounts>;
@@ -42,8 +43,27 @@ struct SumRange {
 /// period are another question: see Bills_Paid_Later.
 bool Is_Counted(Basis basis, std::string_view Type, bool Paid);
 
+/// The same in SQL, as Sum_Of takes it.
+std::string Counted_Rows(Basis basis);
+
 /// A row's value: Credit, or without one less its Debit.
 Money Row_Value(Money Debit, Money Credit);
+inline constexpr std::string_view row_value = "CASE WHEN Credit <> 0 THEN Credit ELSE -Debit END";
+
+/// What a grouped reading adds up, in SQL on a row of Transactions: a report with rules of its own hands in its
+/// own test and value.
+struct Sum_Of {
+  std::string counted = {};  ///< which rows of the period count; empty: all
+  std::string value = std::string(row_value);
+};
+
+/// The categories' own rows.
+Figures Sum_Categories(store::Database& db, const CatIDs& categories, DateRange days, const Sum_Of& what);
+
+/// The rows of each name in each category. Where none counts the sum is zero, so that all names of the period
+/// are told.
+using TakeNameSum = std::function<void(std::string_view Name, std::string_view CatID, Money sum)>;
+void Sum_Names(store::Database& db, DateRange days, const Sum_Of& what, const TakeNameSum& take);
 
 /// The categories' counted rows of the period. On cash basis bills count once they are paid by the period's
 /// end.

@@ -1,9 +1,12 @@
 #include "reports/transactions/custom_rows.h"
 
-#include "core/ledger/ledger.h"
+#include "core/company/field_captions.h"
 #include "core/store/sql.h"
+#include "core/values/format.h"
+#include "reports/frame/listing.h"
+#include "reports/frame/names.h"
+#include "reports/frame/table_parts.h"
 #include "reports/sums/ledger_sums.h"
-#include "reports/transactions/transaction_reports.h"
 
 namespace tallymere {
 namespace {
@@ -12,10 +15,12 @@ using Kind = ReportColumn::Kind;
 using store::FieldType;
 
 // What every query reads first.
-enum Fixed { group_column, TransNum_column, Type_column, Credit_column, first_field };
+enum Fixed { group_column, TransNum_column, Type_column, Credit_column, Amount_column, first_field };
 
-Kind Kind_Of(FieldType type) {
-  switch (type) {
+/// Numbers that only name something stand like texts.
+Kind Kind_Of(const store::Field& field) {
+  if (field.name == "TransNum") return Kind::Text;
+  switch (field.type) {
     case FieldType::Money:
       return Kind::Money;
     case FieldType::Long:
@@ -31,11 +36,15 @@ Kind Kind_Of(FieldType type) {
   }
 }
 
-bool Is_Right(std::string_view caption) {
-  constexpr std::array<std::string_view, 6> right = {"Amount", "Credit",         "Sale Price",
-                                                     "Debit",  "AmountReceived", "Balance"};
-  return std::find(right.begin(), right.end(), caption) != right.end();
+ReportColumn Column_Of(const store::Field& field) {
+  const bool is_price = field.name == "SalePrice";
+  return {.caption = Field_Caption(field.name),
+          .kind = Kind_Of(field),
+          .mask = std::string(is_price ? price_mask : ""),
+          .name = field.name};
 }
+
+const ReportColumn balance_column = {.caption = "Balance", .kind = Kind::Money, .name = "Balance"};
 
 store::Value Content(const store::Row& row, int column, FieldType type) {
   if (row.is_null(column)) return {};
@@ -60,26 +69,32 @@ store::Value Content(const store::Row& row, int column, FieldType type) {
 
 Custom_Rows::Custom_Rows(store::Database& db, ReportTable& table, const ReportRequest& request)
     : db_(db), table_(table), request_(request), tree_(CategoryTree::Load(db)) {
-  table_.go_to = ReportTable::GoTo::Transaction;
-  read_columns(request.option(report_option::fields));
+  table_.looks = Looks::List;
+  offer_columns();
+  read_columns();
 }
 
-void Custom_Rows::read_columns(const std::string& list) {
-  table_.columns = {{.kind = Kind::Margin, .width = 1}};
-  for (const std::string& name : Column_Names(list)) add_column(name);
+/// The fields of the ledger, and a running balance where it is one category's.
+void Custom_Rows::offer_columns() {
+  for (const store::Field& field : db_.find_table("Transactions")->fields) table_.offered.push_back(Column_Of(field));
+  const ReportDef* report = Find_Report(request_.key);
+  if (report && report->subject == report_option::category) table_.offered.push_back(balance_column);
+}
+
+void Custom_Rows::read_columns() {
+  table_.columns = {{.kind = Kind::Margin}};
+  for (const std::string& name : Column_Names(request_.option(report_option::fields))) add_column(name);
   if (!columns_.empty()) return;
-  for (const std::string& name : Pickable_Fields(db_)) add_column(name);
+  for (const store::Field& field : db_.find_table("Transactions")->fields) add_column(field.name);
 }
 
 /// Nothing for a name the ledger has not: a saved list may come from another version.
 void Custom_Rows::add_column(const std::string& name) {
-  const bool is_balance = name == "Balance";
+  const bool is_balance = name == balance_column.name;
   const store::Field* field = db_.find_table("Transactions")->find(name);
   if (!field && !is_balance) return;
-  const std::string caption(Caption_Of_Field(name));
   const bool is_category = name == "Account" || name == "Category";
-  table_.columns.push_back(
-      {.caption = caption, .kind = is_balance ? Kind::Money : Kind_Of(field->type), .right = Is_Right(caption)});
+  table_.columns.push_back(is_balance ? balance_column : Column_Of(*field));
   Shows shows = is_balance         ? Shows::Balance
                 : name == "Amount" ? Shows::Amount
                 : is_category      ? Shows::CategoryName
@@ -93,10 +108,18 @@ Money Custom_Rows::Signed_Amount(Money Amount, Money Credit) const {
   return Credit.is_zero() != credit_positive_ ? Amount : -Amount;
 }
 
-void Custom_Rows::add_head(std::string_view name) { table_.add_row("Bold").skip().text(name); }
+void Custom_Rows::Add_Opening_Balance() {
+  const int balance = table_.find_column(balance_column.caption);
+  if (balance < 0) return;
+  auto line = table_.add_row();
+  line.skip();
+  if (balance > 1) line.text(table_.columns[1].is_right() ? "" : "Opening Balance").skip(balance - 2);
+  line.money(total_);
+}
 
 std::string Custom_Rows::select(std::string_view group) const {
-  return "SELECT " + std::string(group) + ", Transactions.TransNum, Transactions.Type, Credit" + fields_ + " FROM ";
+  return "SELECT " + std::string(group) + ", Transactions.TransNum, Transactions.Type, Credit, Transactions.Amount" +
+         fields_ + " FROM ";
 }
 
 void Custom_Rows::Fill_Rows(std::string_view condition, const store::Database::Params& params, std::string_view order) {
@@ -108,40 +131,35 @@ void Custom_Rows::Fill_Rows(std::string_view condition, const store::Database::P
 }
 
 void Custom_Rows::Fill_Groups(std::string_view field, const std::vector<std::string>& names) {
-  size_t next = 0;
-  auto heads_up_to = [&](size_t end) {
-    while (next < end) add_head(names[next++]);
-  };
-  const std::string column = store::Quoted(field);
-  db_.each(select("name.key") + "json_each(?3) AS name CROSS JOIN Transactions WHERE " + column +
+  Listing listing(table_, names, Listing::Idle::Shown);
+  db_.each(select("name.key") + "json_each(?3) AS name CROSS JOIN Transactions WHERE " + store::Quoted(field) +
                " = name.value AND Date >= ?1 AND Date <= ?2"
                " ORDER BY name.key, Date, TransNum, Debit, Transactions.RowKey",
            {request_.from, request_.to, Id_List(names)}, [&](const store::Row& row) {
-             heads_up_to(static_cast<size_t>(row.integer(group_column)) + 1);
+             listing.go_to(static_cast<size_t>(row.integer(group_column)));
              add_row(row);
            });
-  heads_up_to(names.size());
+  listing.finish();
 }
 
 void Custom_Rows::add_row(const store::Row& row) {
-  auto line = table_.add_row("Small", {row.text(Type_column), row.integer(TransNum_column)});
+  const Money amount = Signed_Amount(row.money(Amount_column), row.money(Credit_column));
+  total_ += amount;
+  auto line = table_.add_row(Role::Detail, To_Transaction(row.text(Type_column), row.integer(TransNum_column)));
   line.skip();
-  for (const Column& column : columns_) add_cell(line, column, row);
+  for (const Column& column : columns_) add_cell(line, column, row, amount);
 }
 
-void Custom_Rows::add_cell(ReportTable::Line& line, const Column& column, const store::Row& row) {
+void Custom_Rows::add_cell(ReportTable::Line& line, const Column& column, const store::Row& row, Money amount) {
   switch (column.shows) {
     case Shows::Balance:
       line.money(total_);
       return;
-    case Shows::Amount: {
-      Money amount = Signed_Amount(row.money(column.at), row.money(Credit_column));
-      total_ += amount;
+    case Shows::Amount:
       line.money(amount);
       return;
-    }
     case Shows::CategoryName:
-      line.text(row.text(column.at) == break_down ? std::string(break_down) : tree_.name(row.text(column.at)));
+      line.text(Category_Name(tree_, row.text(column.at)));
       return;
     case Shows::Field:
       line.value(Content(row, column.at, column.type));
@@ -160,8 +178,8 @@ void Custom_Rows::Add_Total() {
     sum += cell.money();
     any = true;
   }
-  table_.add_row();
-  auto line = table_.add_row("Bold");
+  table_.add_row(Role::Spacer);
+  auto line = table_.add_row(Role::Grand_Total);
   line.skip();
   if (amount > 1) line.text("TOTAL").skip(amount - 2);
   if (any)

@@ -15,7 +15,8 @@ class Custom_Rows {
   void set_running_total(Money amount) { total_ = amount; }
   const CategoryTree& categories() const { return tree_; }
 
-  void add_head(std::string_view name);
+  /// A first row with the running total as it stands; nothing where that is not shown.
+  void Add_Opening_Balance();
   /// Rows of the period that meet a condition on Transactions, in this order.
   void Fill_Rows(std::string_view condition, const store::Database::Params& params,
                  std::string_view order = "Date, TransNum, Debit");
@@ -33,10 +34,11 @@ class Custom_Rows {
     int at;  ///< in the query
     store::FieldType type;
   };
-  void read_columns(const std::string& list);  ///< without a known one: all fields
+  void read_columns();  ///< the request's; without a known one: all fields
+  void offer_columns();
   void add_column(const std::string& name);
   void add_row(const store::Row& row);
-  void add_cell(ReportTable::Line& line, const Column& column, const store::Row& row);
+  void add_cell(ReportTable::Line& line, const Column& column, const store::Row& row, Money amount);
   std::string select(std::string_view first_columns) const;
 
   store::Database& db_;

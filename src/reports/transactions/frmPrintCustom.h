@@ -12,11 +12,8 @@ class frmPrintCustom : public ReportForm {
  public:
   explicit frmPrintCustom(Shell& shell_of_frame);
 
- protected:
-  void cmdPick_AfterClick() override;
-
  private:
-  std::vector<std::string> offered_fields() const;
+  std::vector<std::string> shown_columns() const;
   void cmdSave_AfterClick();
 
   QPushButton* cmdSave;

@@ -1,17 +1,12 @@
 #include "reports/transactions/transaction_reports.h"
 
 #include "core/ledger/ledger.h"
+#include "reports/frame/names.h"
 #include "reports/sums/ledger_sums.h"
 #include "reports/transactions/custom_rows.h"
 
 namespace tallymere {
 namespace {
-
-std::vector<std::string> Texts(store::Database& db, std::string_view sql) {
-  std::vector<std::string> texts;
-  db.each(sql, {}, [&](const store::Row& row) { texts.emplace_back(row.text(0)); });
-  return texts;
-}
 
 /// The frame all these reports share; `fill` adds what lies between columns and total.
 template <typename Fill>
@@ -36,81 +31,58 @@ bool Credit_Is_Positive(std::string_view AccountType) {
 
 /// The category's position when the day begins, positive on its own side.
 Money Balance_Before(store::Database& db, const CatIDs& family, Date day, bool credit_positive) {
+  if (day == First_Day) return {};
   Money credits;
-  for (const auto& [id, amount] : Sum_Category(db, family, {{Date(100, 1, 1), day.plus_days(-1)}, Basis::Accrual}))
-    credits += amount;
+  for (const auto& [id, amount] : Sum_Categories(db, family, {First_Day, day.plus_days(-1)}, {})) credits += amount;
   return credit_positive ? credits : -credits;
 }
 
-}  // namespace
+enum class Opening { Left_Out, Shown };
 
-std::string_view Custom_Report_Columns(std::string_view key) {
-  constexpr std::string_view of_a_category = "Type,Date,Number,Name,Memo,Category,Amount,Balance,";
-  constexpr std::pair<std::string_view, std::string_view> columns[] = {
-      {"AcctRep", of_a_category},
-      {"PrintAcctRep", of_a_category},
-      {"PrintAcctBal", of_a_category},
-      {"VendorRep", of_a_category},
-      {"PayItem", "Type,Date,Number,Name,PayrollItem,Amount,"},
-      {"ItemRep", "Type,Date,Number,Name,Memo,Qty,Amount,"},
-  };
-  for (const auto& [known, list] : columns)
-    if (known == key) return list;
-  return "";
-}
-
-std::vector<std::string> Column_Names(std::string_view list) {
-  std::vector<std::string> names;
-  for (const std::string& part : split(list, ","))
-    if (std::string name = trim(part); !name.empty()) names.push_back(std::move(name));
-  return names;
-}
-
-std::string_view Caption_Of_Field(std::string_view field) {
-  return field == "Account" ? "Category" : field == "Category" ? break_down : field;
-}
-
-std::vector<std::string> Pickable_Fields(store::Database& db) {
-  std::vector<std::string> names;
-  for (const store::Field& field : db.find_table("Transactions")->fields) names.push_back(field.name);
-  return names;
-}
-
-ReportTable Build_Date_Report(Session& session, const ReportRequest& request) {
-  return Build(session, request, "", [](Custom_Rows& rows, ReportTable&) { rows.Fill_Rows("", {}, "Date, TransNum"); });
-}
-
-ReportTable Build_Customer_Report(Session& session, const ReportRequest& request) {
-  auto customers = Texts(*session.dbCompany, "SELECT Name FROM Customers ORDER BY Name, RowKey");
-  ReportTable table = Build_Groups(session, request, "Name", customers);
-  if (customers.empty()) table.notice = "No Customers to Report";
-  return table;
-}
-
-ReportTable Build_Vendor_Report(Session& session, const ReportRequest& request) {
-  return Build_Groups(session, request, "Name",
-                      Texts(*session.dbCompany, "SELECT Name FROM Vendors ORDER BY Name, RowKey"));
-}
-
-ReportTable Build_PayItem_Report(Session& session, const ReportRequest& request) {
-  return Build_Groups(session, request, "PayrollItem",
-                      Texts(*session.dbCompany, "SELECT Name FROM PayrollItems ORDER BY Name, RowKey"));
-}
-
-ReportTable Build_Category_Report(Session& session, const ReportRequest& request) {
+ReportTable Build_Of_Category(Session& session, const ReportRequest& request, Opening opening) {
   store::Database& db = *session.dbCompany;
   const std::string& id = request.option(report_option::category);
   return Build(session, request, Category_Name(session, id), [&](Custom_Rows& rows, ReportTable&) {
     const CategoryTree& tree = rows.categories();
     const Category* category = tree.find(id);
     const bool credit_positive = category && Credit_Is_Positive(category->AccountType);
+    const CatIDs family = Family_Of(tree, id);
     rows.set_credit_positive(credit_positive);
-    CatIDs family = {id};
-    for (const Category* below : tree.descendants(id)) family.push_back(below->CatID);
-    if (request.key == "PrintAcctBal")
+    if (opening == Opening::Shown) {
       rows.set_running_total(Balance_Before(db, family, request.from, credit_positive));
+      rows.Add_Opening_Balance();
+    }
     rows.Fill_Rows(" AND Account IN (SELECT value FROM json_each(?3))", {Id_List(family)});
   });
+}
+
+}  // namespace
+
+ReportTable Build_Date_Report(Session& session, const ReportRequest& request) {
+  return Build(session, request, "", [](Custom_Rows& rows, ReportTable&) { rows.Fill_Rows("", {}, "Date, TransNum"); });
+}
+
+ReportTable Build_Customer_Report(Session& session, const ReportRequest& request) {
+  auto customers = Names_In(*session.dbCompany, "Customers");
+  ReportTable table = Build_Groups(session, request, "Name", customers);
+  if (customers.empty()) table.notice = "No Customers to Report";
+  return table;
+}
+
+ReportTable Build_Vendor_Report(Session& session, const ReportRequest& request) {
+  return Build_Groups(session, request, "Name", Names_In(*session.dbCompany, "Vendors"));
+}
+
+ReportTable Build_PayItem_Report(Session& session, const ReportRequest& request) {
+  return Build_Groups(session, request, "PayrollItem", Names_In(*session.dbCompany, "PayrollItems"));
+}
+
+ReportTable Build_Category_Report(Session& session, const ReportRequest& request) {
+  return Build_Of_Category(session, request, Opening::Left_Out);
+}
+
+ReportTable Build_Balance_Report(Session& session, const ReportRequest& request) {
+  return Build_Of_Category(session, request, Opening::Shown);
 }
 
 ReportTable Build_One_Vendor_Report(Session& session, const ReportRequest& request) {

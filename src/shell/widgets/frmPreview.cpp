@@ -102,6 +102,8 @@ QWidget* frmPreview::build_bar() {
   row->addStretch(1);
   cmdLandscape = button("cmdLandscape", "Lan&dscape");
   cmdWidth = button("cmdWidth", "Page &Width");
+  for (QPushButton* turning : {cmdFirst, cmdPrevious, cmdNext, cmdLast})  // the bar fits the smallest screen
+    turning->setFixedWidth(turning->fontMetrics().horizontalAdvance(turning->text()) + 3 * theme::unit);
   cmdLandscape->setCheckable(true);
   cmdWidth->setCheckable(true);
   cmdClose = button("cmdClose", "&Close");

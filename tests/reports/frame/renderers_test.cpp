@@ -22,13 +22,14 @@ ReportTable Motley() {
   ReportTable table;
   table.heading = {"A \"Report\"", "Acme\tCo \\ Sons", "1/1/2026 - 6/15/2026"};
   table.columns = {{.kind = Kind::Margin},
-                   {.caption = "Name", .width = 20},
+                   {.caption = "Name"},
                    {.caption = "Date", .kind = Kind::Date},
-                   {.caption = "Qty", .kind = Kind::Number, .right = true},
-                   {.caption = "Amount", .kind = Kind::Money, .right = true, .mask = "$0.00"}};
+                   {.caption = "Qty", .kind = Kind::Number},
+                   {.caption = "Amount", .kind = Kind::Money, .mask = "$0.00"}};
   table.groups = {{"Jan 2026", 3, 2}};
-  table.add_row("sBold", {"1SS", 7}).skip().text("Müller, \"Bob\"\r\nLine 2");
-  table.add_row("", {"Bill", 12})
+  table.looks = Looks::List;
+  table.add_row(Role::Head, To_Report("PrintAcctRep", "1SS")).skip().text("Müller, \"Bob\"\r\nLine 2");
+  table.add_row(Role::Detail, To_Transaction("Bill", 12))
       .skip()
       .text("a\\tb<&>")
       .value(Date(2026, 3, 5))
@@ -83,19 +84,19 @@ TEST(ReportFile, IsReadBackAsItWas) {
   EXPECT_EQ(Written(back, Write_Csv), Written(Motley(), Write_Csv));
   EXPECT_EQ(back.heading.company, "Acme\tCo \\ Sons");
   EXPECT_EQ(back.style(2, 4), "Underline");
-  EXPECT_EQ(back.key(1).text, "Bill");
-  EXPECT_EQ(back.key(1).number, 12);
+  EXPECT_EQ(back.role(0), Role::Head);
+  EXPECT_EQ(back.looks, Looks::List);
   EXPECT_EQ(back.columns[4].mask, "$0.00");
 }
 
 TEST(ReportFile, WhatIsCutShortOrForeignIsRefused) {
   const std::string written = Written(Motley(), Write_Report_File);
   for (const std::string& bad :
-       {std::string(), written.substr(0, written.size() - 4), "tallymere-report 2\nend\n" + written,
-        std::string("tallymere-report 1\nrow\t\t\tseven\nend\n"),
-        std::string("tallymere-report 1\nrow\t\t\t7\tq1\nend\n"),
-        std::string("tallymere-report 1\ncolumn\tmoney\t1\nend\n"), std::string("tallymere-report 1\nrow\t\\\nend\n"),
-        std::string("tallymere-report 1\nrow\t\t\t7\ty2026-02-30\nend\n")}) {
+       {std::string(), written.substr(0, written.size() - 4), "tallymere-report 1\nend\n" + written,
+        std::string("tallymere-report 2\nrow\thed\nend\n"), std::string("tallymere-report 2\nrow\tdetail\tq1\nend\n"),
+        std::string("tallymere-report 2\ncolumn\tmoney\nend\n"),
+        std::string("tallymere-report 2\nrow\tdetail\tt\\\nend\n"),
+        std::string("tallymere-report 2\nrow\tdetail\ty2026-02-30\nend\n")}) {
     std::istringstream in(bad);
     EXPECT_THROW(Read_Report_File(in), store::Error) << bad;
   }
@@ -165,9 +166,9 @@ TEST(ReportTable, KeepsValuesTextsAndLooksApart) {
   EXPECT_TRUE(table.value(0, 4).is_null());
   EXPECT_TRUE(table.value(3, 9).is_null());
   table.columns[4].mask.clear();
-  EXPECT_EQ(table.for_the_eye(1, 4), "-1.2345");
+  EXPECT_EQ(table.for_the_eye(1, 4), "-1.23");
   EXPECT_EQ(table.for_the_eye(2, 4), "1,000.00");
-  EXPECT_EQ(table.style(2, 3), "");
+  EXPECT_EQ(table.style(2, 3), "Small");
   ReportTable copy = table;
   table = ReportTable();
   EXPECT_EQ(copy.text(0, 1), "Müller, \"Bob\"\r\nLine 2");

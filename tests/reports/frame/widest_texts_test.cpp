@@ -1,5 +1,7 @@
 #include "reports/frame/widest_texts.h"
 
+#include "reports/frame/table_parts.h"
+
 #include "reports/profit/graph_spans.h"
 #include "support/report_books.h"
 
@@ -11,14 +13,12 @@ using Kind = ReportColumn::Kind;
 
 ReportTable Statement(int rows) {
   ReportTable table;
-  table.columns = {{.kind = Kind::Margin},
-                   {.caption = "Name"},
-                   {.caption = "Memo"},
-                   {.caption = "Amount", .kind = Kind::Money, .right = true}};
+  table.columns = {
+      {.kind = Kind::Margin}, {.caption = "Name"}, {.caption = "Memo"}, {.caption = "Amount", .kind = Kind::Money}};
   table.groups = {{"Jan", 1, 2}, {"Feb", 3, 1}};
-  table.add_row("sBold", {"K", 9}).skip().text("A very long section head that stands alone");
+  table.add_row(Role::Head, To_Transaction("K", 9)).skip().text("A very long section head that stands alone");
   for (int row = 0; row < rows; ++row) table.add_row().skip().text("Ann").text("two words").money(D(row % 7));
-  table.add_row("sBold").skip().text("Total").skip().money(D(-98765));
+  table.add_row(Role::Grand_Total).skip().text("Total").skip().money(D(-98765));
   return table;
 }
 
@@ -57,13 +57,14 @@ TEST(WidestTexts, LettersWeighDifferentlyAndALineEndsAWord) {
 TEST(WidestTexts, PickingColumnsKeepsRowsKeysAndGroups) {
   ReportTable table = Statement(1);
   table.set_cell_style(2, 3, "Underline");
-  table.go_to = ReportTable::GoTo::Category;
-  const ReportTable picked = Pick_Columns(table, {false, true, false, true});
+  const ReportTable picked = Pick_Columns(table, "Amount,Gone,");
   EXPECT_EQ(testing::Lines(picked),
             (std::vector<std::string>{"A very long section head that stands alone", "Ann|0", "Total|-98765"}));
   EXPECT_EQ(picked.key(0).number, 9);
   EXPECT_EQ(picked.style(2, 2), "Underline");
-  EXPECT_EQ(picked.go_to, ReportTable::GoTo::Category);
+  EXPECT_TRUE(picked.leads_on());
+  EXPECT_EQ(picked.offered.size(), 2u) << "what it is of cannot be taken out";
+  EXPECT_EQ(Pick_Columns(table, "Gone,").columns.size(), 4u) << "none of them is all of them";
   ASSERT_EQ(picked.groups.size(), 2u);
   EXPECT_EQ(picked.groups[0].count, 1);
   EXPECT_EQ(picked.groups[1].first, 2);

@@ -36,7 +36,7 @@ TEST(ProfitAndLossByName, CountsResultRowsOfThePeriodWithTheDebitAskedFirst) {
   EXPECT_EQ(Lines(books.report("PLCusSum", may, may_end, Basis::Cash)), (Strings{"Abel|0", "Idle|0", "Zoe|-5"}));
   ReportTable table = books.report("PLCusSum", may, may_end);
   EXPECT_EQ(table.heading.title + "," + table.columns[2].caption, "Customer Income Summary,5/1/2026 - 5/31/2026");
-  EXPECT_EQ(table.go_to, ReportTable::GoTo::Nowhere);
+  EXPECT_FALSE(table.leads_on());
 }
 
 TEST(ProfitAndLossByName, DetailTurnsRoundTheRowsThatLowerTheTotal) {

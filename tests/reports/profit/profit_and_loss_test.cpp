@@ -136,7 +136,7 @@ TEST(ProfitAndLoss, DetailListsTheRowsOfEachCategoryWithAllBelow) {
   books.post({1, "Invoice", may, "Web", {}, D(3), "Abel", "", false, "", "<-Break Down->"});
   books.post({2, "Deposit", may, "Web", D(1)});
   ReportTable table = books.report("PLDetail", may, june);
-  EXPECT_EQ(table.go_to, ReportTable::GoTo::Nowhere);
+  EXPECT_FALSE(table.leads_on());
   Strings lines = Lines(table);
   EXPECT_EQ(
       Strings(lines.begin(), lines.begin() + 15),
@@ -153,8 +153,8 @@ TEST(ProfitAndLoss, GoToOpensTheCategoryFromNewYearToTheReportsEnd) {
   PLBooks books;
   auto opened_from = books.request("PL", Date(2025, 3, 1), Date(2025, 3, 31));
   ReportTable table = Build_Report(*books.session, opened_from);
-  EXPECT_FALSE(Go_To_Request(table, 0, opened_from));  // the section's head
-  auto request = Go_To_Request(table, 1, opened_from);
+  EXPECT_FALSE(Go_To_Request(table.key(0), opened_from));  // the section's head
+  auto request = Go_To_Request(table.key(1), opened_from);
   ASSERT_TRUE(request);
   EXPECT_EQ(request->key + request->option("category"), "PrintAcctRepSales");
   EXPECT_EQ(Period_Text(request->from, request->to), "1/1/2025 - 3/31/2025");

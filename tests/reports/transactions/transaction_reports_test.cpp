@@ -42,8 +42,8 @@ TEST(TransactionReports, ACategoryIsPositiveOnItsOwnSideAndTakesInItsSubtree) {
   EXPECT_EQ(Lines(bank), (Strings{"Deposit|Till|<-Break Down->|100|100", "Check|Bank|Rent|-40|60", "", "TOTAL|||60"}));
   EXPECT_EQ(bank.heading.title, "Category Report: Bank");
   EXPECT_EQ(bank.columns[2].caption + bank.columns[3].caption, "Category<-Break Down->");
-  EXPECT_EQ(bank.columns[3].right, false);
-  EXPECT_EQ(bank.columns[4].right && bank.columns[5].right, true);
+  EXPECT_FALSE(bank.columns[3].is_right());
+  EXPECT_TRUE(bank.columns[4].is_right() && bank.columns[5].is_right());
   EXPECT_EQ(bank.style(0), "Small");
   EXPECT_EQ(bank.key(1).text, "Check");
   EXPECT_EQ(bank.key(1).number, 3);
@@ -54,13 +54,17 @@ TEST(TransactionReports, TheRunningBalanceStartsFromTheDayBefore) {
   ReportBooks books;
   books.post({5, "Check", may_end.plus_days(-31), "Bank", {}, D(7)});  // 4/30
   EXPECT_EQ(Lines(books.listed("PrintAcctBal", "Amount,Balance,", "category", "Bank")),
-            (Strings{"100|93", "-40|53", "", "60"}));
+            (Strings{"|-7", "100|93", "-40|53", "", "60"}));
   EXPECT_EQ(Lines(books.listed("PrintAcctBal", "Balance,Amount,", "category", "Card", middle)),
-            (Strings{"", "TOTAL|$0.00"}));
+            (Strings{"15", "", "TOTAL|$0.00"}))
+      << "a quiet period, too, shows where it stands";
   books.post({6, "Check", middle, "Card", {}, D(5)});
   EXPECT_EQ(Lines(books.listed("PrintAcctBal", "Balance,Amount,", "category", "Card", middle)),
-            (Strings{"15|5", "", "TOTAL|5"}));  // the column stands before the amount that will raise it
-  EXPECT_EQ(Lines(books.listed("PrintAcctBal", "Bogus,", "category", "Bank")).size(), 4U);  // as all fields
+            (Strings{"15", "20|5", "", "TOTAL|5"}));
+  EXPECT_EQ(Lines(books.listed("PrintAcctBal", "Type,Balance,", "category", "Card", middle)),
+            (Strings{"Opening Balance|15", "Check|20"}))
+      << "reckoned without the amounts on show";
+  EXPECT_EQ(Lines(books.listed("PrintAcctBal", "Bogus,", "category", "Bank")).size(), 4U);  // all fields
 }
 
 TEST(TransactionReports, OneVendorItemOrPeriod) {
@@ -103,14 +107,16 @@ TEST(TransactionReports, ComeUpWithTheirColumnsAndDates) {
         Case{"VendorRep", "Type,Date,Number,Name,Memo,Category,Amount,Balance,", "6/1/2026 - 6/15/2026"},
         Case{"ItemRep", "Type,Date,Number,Name,Memo,Qty,Amount,", "1/1/2026 - 6/15/2026"},
         Case{"PayItem", "Type,Date,Number,Name,PayrollItem,Amount,", "1/1/2026 - 6/15/2026"},
-        Case{"Date", "", "6/1/2026 - 6/15/2026"}}) {
+        Case{"Date", "Date,Type,Number,Name,Memo,Account,Amount,", "6/1/2026 - 6/15/2026"}}) {
     ReportRequest request = Default_Request(*books.session, c.key);
     EXPECT_EQ(request.option("fields"), c.columns) << c.key;
     EXPECT_EQ(Period_Text(request.from, request.to), c.period) << c.key;
   }
-  ReportTable all = Build_Report(*books.session, Default_Request(*books.session, "Date"));
+  ReportRequest whole = Default_Request(*books.session, "Date");
+  whole.options["fields"] = "";
+  ReportTable all = Build_Report(*books.session, whole);
   EXPECT_EQ(all.columns.size(), books.db().find_table("Transactions")->fields.size() + 1);
-  EXPECT_EQ(all.columns[1].caption + "," + all.columns[9].caption, "TransNum,Category");
+  EXPECT_EQ(all.columns[1].caption + "," + all.columns[9].caption, "Trans #,Category");
   EXPECT_EQ(Lines(all).at(0).substr(0, 17), "4|Deposit|6/10/20");
 }
 
@@ -118,7 +124,7 @@ TEST(Reports, KeysAreUniqueAndFoundByTheirWindow) {
   std::set<std::string> keys;
   for (const ReportDef& report : Reports()) {
     EXPECT_TRUE(keys.insert(lower(report.key)).second) << report.key;
-    EXPECT_EQ(Find_Report(report.window, report.window_key), &report);
+    EXPECT_EQ(Find_Report(report.window, report.asked_as()), &report);
     EXPECT_EQ(Find_Report(upper(report.key)), &report);
   }
 }

@@ -26,7 +26,7 @@ equal([w.Label6.value, w.grdPL.rows, w.cmbDate.value], ["Item Report: Gone", 2, 
 close(w);
 list.grdCustomers.dblclick(2);
 w = win("frmPrintCustom");
-ok(w.grdPL.columns.indexOf("AmountReceived") > 0, "all fields");
+ok(w.grdPL.columns.indexOf("Amount Received") > 0, "all fields");
 close(w);
 
 // The keyboard alone: the first arrow key lights the first row, Enter shows it.
