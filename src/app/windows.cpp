@@ -23,7 +23,7 @@ const WindowTable& Windows() {
       {"frmNewPayee", Make_Window<frmNewPayee>},   {"frmOtherNames", Make_Window<frmOtherNames>},
       {"frmRegister", Make_Window<frmRegister>},   {"frmPrintCustom", Make_Window<frmPrintCustom>},
       {"frmPrintPL2", Make_Window<frmPrintPL2>},   {"frmPrintPLName", Make_Report<"frmPrintPLName">},
-      {"frmSavedReps", Make_Window<frmSavedReps>},
+      {"frmSavedReps", Make_Window<frmSavedReps>}, {"frmPrintListCat", Make_Report<"frmPrintListCat">},
   };
   return windows;
 }

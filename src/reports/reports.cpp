@@ -3,6 +3,7 @@
 #include "core/values/text.h"
 #include "reports/frame/row_groups.h"
 #include "reports/frame/table_parts.h"
+#include "reports/lists/list_reports.h"
 #include "reports/profit/pl_by_name.h"
 #include "reports/profit/profit_and_loss.h"
 #include "reports/transactions/transaction_reports.h"
@@ -45,6 +46,7 @@ constexpr ReportDef reports[] = {
      "Type,Date,Number,Name,Memo,Qty,Amount,"},
     {"PayItem", "frmPrintCustom", "Payroll Item Report", Dates::Year, Build_PayItem_Report, no_basis, "",
      "Type,Date,Number,Name,PayrollItem,Amount,"},
+    {"ListCat", "frmPrintListCat", "Category Listing", Dates::Today, Build_Category_List},
 };
 
 }  // namespace

@@ -21,7 +21,7 @@ constexpr const char* own_dates = "Custom";
 
 /// The windows whose heading is built with their columns: a new title builds the report again, and so takes in
 /// what was entered meanwhile. On the others the caption alone changes.
-constexpr std::string_view built_with_title[] = {"frmPrintPL2",     "frmPrintPLName",  "frmPrintBalSheet",
+constexpr std::string_view built_with_title[] = {"frmPrintPL2",      "frmPrintPLName",   "frmPrintBalSheet",
                                                  "frmPrintBalances", "frmPrintInvCount", "frmPrintInvItem",
                                                  "frmPrintInvValue"};
 
@@ -116,9 +116,10 @@ void ReportForm::cmdPick_AfterClick() {
   const std::vector<std::string> picked = Column_Names(request_.option(report_option::fields));
   std::vector<FieldChoice> choices;
   for (const ReportColumn& column : table_.offered) {
-    const bool known =
-        std::any_of(choices.begin(), choices.end(), [&](const FieldChoice& choice) { return choice.name == column.id(); });
-    const bool shown = picked.empty() ? is_shown(column) : std::find(picked.begin(), picked.end(), column.id()) != picked.end();
+    const bool known = std::any_of(choices.begin(), choices.end(),
+                                   [&](const FieldChoice& choice) { return choice.name == column.id(); });
+    const bool shown =
+        picked.empty() ? is_shown(column) : std::find(picked.begin(), picked.end(), column.id()) != picked.end();
     if (!known) choices.push_back({column.id(), column.caption, shown});
   }
   frmSelectFields dialog(shell, choices);

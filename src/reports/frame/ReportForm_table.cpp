@@ -1,9 +1,11 @@
+#include <QCheckBox>
 #include <QLabel>
 #include <QPushButton>
 #include <QScopedValueRollback>
 
 #include "core/values/format.h"
 #include "reports/frame/ReportForm.h"
+#include "reports/frame/row_groups.h"
 #include "reports/frame/widest_texts.h"
 #include "shell/widgets/grid/SSDBGrid.h"
 #include "shell/widgets/theme.h"
@@ -22,7 +24,8 @@ Kind Kind_Of(const ReportColumn& column) {
 }
 
 std::string On_One_Line(std::string text) {
-  std::replace_if(text.begin(), text.end(), [](char c) { return c == '\t' || c == '\r' || c == '\n'; }, ' ');
+  std::replace_if(
+      text.begin(), text.end(), [](char c) { return c == '\t' || c == '\r' || c == '\n'; }, ' ');
   return text;
 }
 
@@ -47,6 +50,7 @@ void ReportForm::show_table() {
   show_columns();
   cmdGoto->setVisible(table_.leads_on());
   cmdPick->setVisible(table_.offered.size() > 1);
+  chkEmpty->setVisible(chkEmpty->isChecked() || Has_Empty_Groups(table_));
   grdPL->set_row_loaded([this](int row) {
     for (const auto& [column, style] : table_.own_styles(row)) grdPL->set_cell_style(row, column, style);
   });
@@ -92,9 +96,8 @@ void ReportForm::show_columns() {
   std::vector<GridColumn> columns;
   for (const ReportColumn& column : table_.columns) {
     const bool plain = Kind_Of(column) == Kind::money && column.mask.empty();
-    columns.push_back({.name = qt(column.caption),
-                       .kind = Kind_Of(column),
-                       .mask = plain ? std::string(money_mask) : column.mask});
+    columns.push_back(
+        {.name = qt(column.caption), .kind = Kind_Of(column), .mask = plain ? std::string(money_mask) : column.mask});
   }
   bool same = static_cast<int>(columns.size()) == grdPL->columns();
   for (int at = 0; same && at < grdPL->columns(); ++at)

@@ -135,4 +135,11 @@ ReportTable Without_Empty_Groups(const ReportTable& table) {
   return Part_Of(table, Kept_Columns(table), Empty_Groups(table).kept_rows());
 }
 
+bool Has_Empty_Groups(const ReportTable& table) {
+  const auto leaves_out = [](const std::vector<bool>& kept) {
+    return std::find(kept.begin(), kept.end(), false) != kept.end();
+  };
+  return leaves_out(Empty_Groups(table).kept_rows()) || leaves_out(Kept_Columns(table));
+}
+
 }  // namespace tallymere

@@ -13,5 +13,7 @@ std::vector<int> Heads_Over(const ReportTable& table);
 /// The table without what shows nothing: heads with no rows below them, each with its total and blank row,
 /// categories and names whose figures are all zero, and columns that may go. Rows of the ledger always stay.
 ReportTable Without_Empty_Groups(const ReportTable& table);
+/// Whether that would leave anything out.
+bool Has_Empty_Groups(const ReportTable& table);
 
 }  // namespace tallymere

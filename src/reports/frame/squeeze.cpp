@@ -34,13 +34,13 @@ class Narrowing {
   double more_lines() const { return More_Lines(texts_, width_); }
   bool can_narrow() const { return next_ < stops_.size(); }
   double price() const { return price_between(stops_[next_ - 1], stops_[next_]); }
-  /// To the next stop, or not so far where less is asked; what it wins.
-  double narrow(double at_most) {
-    const double to = std::max(stops_[next_].width, width_ - at_most), won = width_ - to;
-    width_ = to;
-    ++next_;
-    return won;
-  }
+  double wins() const { return width_ - stops_[next_].width; }
+  void narrow() { width_ = stops_[next_++].width; }
+
+  // --- the last bit, which is less than any step
+  bool has(double excess) const { return can_narrow() && width_ - excess >= stops_.back().width; }
+  double lines_for(double excess) const { return More_Lines(texts_, width_ - excess) - more_lines(); }
+  void give(double excess) { width_ -= excess; }
 
  private:
   struct Stop {
@@ -63,6 +63,15 @@ class Narrowing {
   double width_;
 };
 
+/// The one of those that can for which it costs least; nullptr when none can.
+template <typename Can, typename Cost>
+Narrowing* Cheapest(std::vector<Narrowing>& columns, Can&& can, Cost&& cost) {
+  Narrowing* cheapest = nullptr;
+  for (Narrowing& column : columns)
+    if (can(column) && (!cheapest || cost(column) < cost(*cheapest))) cheapest = &column;
+  return cheapest;
+}
+
 }  // namespace
 
 Squeezed_Columns Squeeze(const std::vector<Column_Demand>& demands, double room) {
@@ -70,11 +79,19 @@ Squeezed_Columns Squeeze(const std::vector<Column_Demand>& demands, double room)
   double excess = -room;
   for (const Narrowing& column : columns) excess += column.width();
   while (excess > 0) {
-    Narrowing* cheapest = nullptr;
-    for (Narrowing& column : columns)
-      if (column.can_narrow() && (!cheapest || column.price() < cheapest->price())) cheapest = &column;
-    if (!cheapest) break;
-    excess -= cheapest->narrow(excess);
+    Narrowing* next = Cheapest(
+        columns, [](auto& column) { return column.can_narrow(); }, [](auto& column) { return column.price(); });
+    if (!next) break;
+    if (next->wins() < excess) {
+      excess -= next->wins();
+      next->narrow();
+      continue;
+    }
+    Cheapest(
+        columns, [&](auto& column) { return column.has(excess); },
+        [&](auto& column) { return column.lines_for(excess); })
+        ->give(excess);
+    break;
   }
   Squeezed_Columns squeezed;
   for (const Narrowing& column : columns) {

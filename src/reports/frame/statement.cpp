@@ -32,8 +32,7 @@ void Statement::add_family(const Category& category, const Place& place, bool is
     if (place.side == Side::Debit) amounts[at] = -amounts[at];
     if (is_top || columns_.counts_twice[at]) total[at] += amounts[at];
   }
-  add_amounts(rows_ ? table_.add_row(Role::Subtotal)
-                    : table_.add_row(Role::Detail, To_Report(go_to_, category.CatID)),
+  add_amounts(rows_ ? table_.add_row(Role::Subtotal) : table_.add_row(Role::Detail, To_Report(go_to_, category.CatID)),
               label, amounts);
   if (place.level > Deepest_Level) return;
   for (const Category* child : tree_.children(category.CatID))

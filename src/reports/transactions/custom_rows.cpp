@@ -1,8 +1,7 @@
 #include "reports/transactions/custom_rows.h"
 
-#include "core/company/field_captions.h"
 #include "core/store/sql.h"
-#include "core/values/format.h"
+#include "reports/frame/field_columns.h"
 #include "reports/frame/listing.h"
 #include "reports/frame/names.h"
 #include "reports/frame/table_parts.h"
@@ -17,53 +16,7 @@ using store::FieldType;
 // What every query reads first.
 enum Fixed { group_column, TransNum_column, Type_column, Credit_column, Amount_column, first_field };
 
-/// Numbers that only name something stand like texts.
-Kind Kind_Of(const store::Field& field) {
-  if (field.name == "TransNum") return Kind::Text;
-  switch (field.type) {
-    case FieldType::Money:
-      return Kind::Money;
-    case FieldType::Long:
-    case FieldType::Integer:
-    case FieldType::Double:
-      return Kind::Number;
-    case FieldType::Date:
-      return Kind::Date;
-    case FieldType::Flag:
-      return Kind::Flag;
-    default:
-      return Kind::Text;
-  }
-}
-
-ReportColumn Column_Of(const store::Field& field) {
-  const bool is_price = field.name == "SalePrice";
-  return {.caption = Field_Caption(field.name),
-          .kind = Kind_Of(field),
-          .mask = std::string(is_price ? price_mask : ""),
-          .name = field.name};
-}
-
 const ReportColumn balance_column = {.caption = "Balance", .kind = Kind::Money, .name = "Balance"};
-
-store::Value Content(const store::Row& row, int column, FieldType type) {
-  if (row.is_null(column)) return {};
-  switch (type) {
-    case FieldType::Money:
-      return row.money(column);
-    case FieldType::Long:
-    case FieldType::Integer:
-      return row.integer(column);
-    case FieldType::Double:
-      return row.number(column);
-    case FieldType::Date:
-      return row.date(column);
-    case FieldType::Flag:
-      return row.flag(column);
-    default:
-      return row.text(column);
-  }
-}
 
 }  // namespace
 
@@ -162,7 +115,7 @@ void Custom_Rows::add_cell(ReportTable::Line& line, const Column& column, const 
       line.text(Category_Name(tree_, row.text(column.at)));
       return;
     case Shows::Field:
-      line.value(Content(row, column.at, column.type));
+      line.value(Field_Value(row, column.at, column.type));
       return;
   }
 }

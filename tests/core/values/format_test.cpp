@@ -83,9 +83,19 @@ TEST(Format, ShowsDates) {
   const std::vector<std::pair<std::string, std::string>> cases = {
       {"m/d/yy", "3/5/06"},         {"m/d/yyyy", "3/5/2006"}, {"mm/dd/yyyy", "03/05/2006"},
       {"yyyy-mm-dd", "2006-03-05"}, {"yyyymmdd", "20060305"}, {"mmmm d, yyyy", "March 5, 2006"},
-      {"mmm yyyy", "Mar 2006"},     {"\"day\" d", "day 5"},   {"\\dd", "d5"}};
+      {"mmm yyyy", "Mar 2006"},     {"\"day\" d", "day 5"},   {"\\dd", "d5"},
+      {"ddd, m/d", "Sun, 3/5"},     {"dddd", "Sunday"}};
   for (const auto& [mask, text] : cases) EXPECT_EQ(Format(Date(2006, 3, 5), mask), text) << mask;
   EXPECT_EQ(Format(Date(100, 12, 31), "mm/dd/yyyy"), "12/31/0100");
+  EXPECT_EQ(Format(Date(2026, 6, 15), long_date_mask), "Monday, June 15, 2026");
+}
+
+TEST(Format, AmountsShowCentsAndOneMinus) {
+  EXPECT_EQ(Money_Text(Money::from_units(2246671499)), "224,667.15");
+  EXPECT_EQ(Money_Text(Money::from_units(-50)), "-0.01");
+  EXPECT_EQ(Money_Text(Money::from_units(-49)), "0.00");
+  EXPECT_EQ(Dollar_Text(Money::dollars(-1234, 50)), "-$1,234.50");
+  EXPECT_EQ(Format(Money::from_units(125), price_mask), "0.0125");
 }
 
 }  // namespace

@@ -67,6 +67,16 @@ TEST(Paint, LongWideAndEmptyTablesFindTheirPages) {
   EXPECT_EQ(painter.pages_of(Table(1, 1, std::string(20000, 'x'))), 1);  // taller than a page, but it ends
 }
 
+TEST(Paint, NamesWithoutRowsTakeNoPageEach) {
+  ReportTable table;
+  table.heading = {"List", "Acme", "2026", "Cash basis", "How it counts."};
+  table.columns = {{.caption = "Name"}, {.caption = "Amount", .kind = Kind::Money}};
+  for (int name = 0; name < 200; ++name) table.add_row(Role::Head).text("Name " + std::to_string(name));
+  table.add_row(Role::Grand_Total).text("TOTAL").money(D(0));
+  Painter painter;
+  EXPECT_LE(painter.pages_of(table), 8);
+}
+
 TEST(Paint, ALineBreakInATextIsOneOnPaperToo) {
   Painter painter;
   const int joined = painter.pages_of(Table(400, 1, "Oak, IL"));
