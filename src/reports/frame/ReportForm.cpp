@@ -106,7 +106,6 @@ QWidget* ReportForm::build_sheet() {
   grdPL->setFrameShape(QFrame::NoFrame);
   grdPL->setShowGrid(false);
   grdPL->set_multi_select(true);
-  grdPL->set_empty_hint(QStringLiteral("There is nothing to report for these dates."));
   grdPL->define_style("sBold", {.bold = true, .rule = true});
   grdPL->define_style("Bold", {.bold = true, .rule = true});
   auto* column = column_layout();
@@ -194,6 +193,8 @@ void ReportForm::show_instead_of_grid(QWidget* other) {
   shown_->setCurrentWidget(other ? other : grdPL);
   cmdGoto->setEnabled(!other);
   cmdPick->setEnabled(!other);
+  chkEmpty->setEnabled(!other);
+  show_note();
   fit_sheet();
 }
 

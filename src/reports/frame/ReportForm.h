@@ -81,6 +81,7 @@ class ReportForm : public Form {
   void show_labels();
   void show_widths();
   void show_heading();
+  void show_note();
   std::string row_text(int row) const;
 
   // --- what becomes of it: ReportForm_output.cpp

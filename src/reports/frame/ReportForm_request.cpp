@@ -72,6 +72,8 @@ void ReportForm::show_request() {
     control->setVisible(Is_Period(report_->dates));
   for (QWidget* control : std::initializer_list<QWidget*>{lblEnd, dteEnd})
     control->setVisible(Asks_A_Day(report_->dates));
+  grdPL->set_empty_hint(Asks_A_Day(report_->dates) ? QStringLiteral("There is nothing to report for these dates.")
+                                                   : QStringLiteral("There is nothing to report."));
   lblBasis->setVisible(report_->has_basis);
   for (QAbstractButton* option : optBasis->buttons()) option->setVisible(report_->has_basis);
 }

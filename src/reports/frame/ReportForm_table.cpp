@@ -2,6 +2,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QScopedValueRollback>
+#include <QStackedLayout>
 
 #include "core/values/format.h"
 #include "reports/frame/ReportForm.h"
@@ -87,9 +88,12 @@ void ReportForm::show_heading() {
   Label5->setText(qt(table_.heading.company));
   Label4->setText(qt(table_.heading.period));
   lblNote->setText(qt(table_.heading.note));
-  lblNote->setVisible(!table_.heading.note.empty());
+  show_note();
   grdPL->setAccessibleDescription(qt(table_.heading.caption()));
 }
+
+/// It speaks of the columns: not below a graph.
+void ReportForm::show_note() { lblNote->setVisible(!table_.heading.note.empty() && shown_->currentWidget() == grdPL); }
 
 /// Columns as they were keep the widths the user gave them.
 void ReportForm::show_columns() {

@@ -1,6 +1,7 @@
 #include "reports/frame/field_columns.h"
 
 #include "core/company/field_captions.h"
+#include "core/store/sql.h"
 #include "core/values/format.h"
 
 namespace tallymere {
@@ -54,6 +55,26 @@ store::Value Field_Value(const store::Row& row, int column, FieldType type) {
     default:
       return row.text(column);
   }
+}
+
+void Add_Records(store::Database& db, ReportTable& table, std::string_view table_name,
+                 const std::vector<std::string>& fields) {
+  table.columns = {{.kind = Kind::Margin}};
+  std::vector<FieldType> types;
+  std::string names;
+  for (const std::string& name : fields) {
+    const store::Field& field = *db.find_table(table_name)->find(name);
+    table.columns.push_back(Column_Of(field));
+    types.push_back(field.type);
+    names += store::Quoted(field.name) + ", ";
+  }
+  db.each("SELECT " + names + "RowKey FROM " + store::Quoted(table_name) + " ORDER BY " +
+              store::Quoted(fields.front()) + ", RowKey",
+          {}, [&](const store::Row& row) {
+            auto line = table.add_row();
+            line.skip();
+            for (size_t at = 0; at < types.size(); ++at) line.value(Field_Value(row, static_cast<int>(at), types[at]));
+          });
 }
 
 }  // namespace tallymere

@@ -20,7 +20,10 @@ ReportTable Rows(std::string_view roles) {
     if (c == '-')
       table.add_spacer();
     else
-      table.add_row(c == 'h' ? Role::Head : c == 't' ? Role::Total : c == 'T' ? Role::Grand_Total : Role::Detail)
+      table.add_row(c == 'h'   ? Role::Head
+                    : c == 't' ? Role::Total
+                    : c == 'T' ? Role::Grand_Total
+                               : Role::Detail)
           .text(c == 'h' ? "N" + std::to_string(++name) : "row");
   return table;
 }
@@ -29,8 +32,7 @@ ReportTable Rows(std::string_view roles) {
 Strings Starts(std::string_view roles, double rows, double continued = 0) {
   const ReportTable table = Rows(roles);
   Strings starts;
-  for (const Page_Start& start :
-       Page_Breaks(table, std::vector<double>(roles.size(), 1), {rows, rows, continued}))
+  for (const Page_Start& start : Page_Breaks(table, std::vector<double>(roles.size(), 1), {rows, rows, continued}))
     starts.push_back(trim(std::to_string(start.row) + " " + start.continued));
   return starts;
 }
@@ -81,8 +83,7 @@ TEST(WrappedText, BreaksBetweenWordsAndSaysWhatItCuts) {
 TEST(Squeeze, NarrowsWhereTheFewestLinesAreAdded) {
   const std::vector<double> mostly_short = {900, 100, 100, 100, 100, 100, 100, 100};
   const std::vector<double> all_long(8, 900.0);
-  const auto squeezed =
-      Squeeze({{900, 100, mostly_short}, {900, 100, all_long}, {300, 300, {}}}, 900 + 300 + 150);
+  const auto squeezed = Squeeze({{900, 100, mostly_short}, {900, 100, all_long}, {300, 300, {}}}, 900 + 300 + 150);
   EXPECT_LT(squeezed.widths[0], 200) << "one text wraps there";
   EXPECT_GE(squeezed.widths[1], 890);
   EXPECT_EQ(squeezed.widths[2], 300) << "figures never give way";

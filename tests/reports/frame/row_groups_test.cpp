@@ -13,7 +13,7 @@ using Strings = std::vector<std::string>;
 ReportTable Table(const Strings& rows) {
   ReportTable table;
   table.columns = {{.kind = Kind::Margin}, {}, {.caption = "Amount", .kind = Kind::Money}};
-  const std::map<char, Role> roles = {{'d', Role::Detail}, {'h', Role::Head},  {'g', Role::Group},
+  const std::map<char, Role> roles = {{'d', Role::Detail},   {'h', Role::Head},  {'g', Role::Group},
                                       {'s', Role::Subtotal}, {'t', Role::Total}, {'T', Role::Grand_Total},
                                       {'x', Role::Detail}};
   for (const std::string& row : rows) {
@@ -38,10 +38,10 @@ TEST(RowGroups, RowsStandUnderTheHeadsThatAreOpen) {
 
 TEST(RowGroups, WhatShowsNothingGoesWithItsTotalAndItsBlankRow) {
   const auto left = [](const Strings& rows) { return testing::Lines(Without_Empty_Groups(Table(rows))); };
-  EXPECT_EQ(left({"h Income", "d      Sales|0", "d           Repairs|5", "d           Parts|0", "d      Fees|0",
-                  "t Total Income|5", "-", "h Other", "d      Interest|0", "t Total Other|0", "-", "t Gross|5",
-                  "T Net|5"}),
-            (Strings{"Income", "     Sales|0", "          Repairs|5", "Total Income|5", "", "Gross|5", "Net|5"}))
+  EXPECT_EQ(
+      left({"h Income", "d      Sales|0", "d           Repairs|5", "d           Parts|0", "d      Fees|0",
+            "t Total Income|5", "-", "h Other", "d      Interest|0", "t Total Other|0", "-", "t Gross|5", "T Net|5"}),
+      (Strings{"Income", "     Sales|0", "          Repairs|5", "Total Income|5", "", "Gross|5", "Net|5"}))
       << "a parent stays with its child, a total that closes no section always";
   EXPECT_EQ(left({"h Ann", "h Bob", "x Check|0", "h Eve", "-", "T TOTAL|0"}),
             (Strings{"Bob", "Check|0", "", "TOTAL|0"}))
@@ -49,8 +49,9 @@ TEST(RowGroups, WhatShowsNothingGoesWithItsTotalAndItsBlankRow) {
   EXPECT_EQ(left({"h Cost", "g      Fuel", "s      Fuel|0", "g      Rent", "x Check|9", "s      Rent|9", "g      Tips",
                   "s      Tips|3", "-", "t Total Cost|12"}),
             (Strings{"Cost", "     Rent", "Check|9", "     Rent|9", "     Tips", "     Tips|3", "", "Total Cost|12"}));
-  EXPECT_EQ(left({"h Assets", "h      Cash", "d           Bank|0", "t      Total Cash|0", "t Total Assets|0", "T Net|0"}),
-            (Strings{"Net|0"}));
+  EXPECT_EQ(
+      left({"h Assets", "h      Cash", "d           Bank|0", "t      Total Cash|0", "t Total Assets|0", "T Net|0"}),
+      (Strings{"Net|0"}));
   EXPECT_EQ(left({"d Ann|0", "d Bob|4"}), (Strings{"Bob|4"}));
 }
 
