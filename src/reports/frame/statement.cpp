@@ -34,9 +34,12 @@ void Statement::add_family(const Category& category, const Place& place, bool is
   }
   add_amounts(rows_ ? table_.add_row(Role::Subtotal) : table_.add_row(Role::Detail, To_Report(go_to_, category.CatID)),
               label, amounts);
+  Load_SubAccounts(category.CatID, {place.side, place.level_below, place.level_below + 1}, total);
+}
+
+void Statement::Load_SubAccounts(const std::string& parent, const Place& place, Amounts& total) {
   if (place.level > Deepest_Level) return;
-  for (const Category* child : tree_.children(category.CatID))
-    add_family(*child, {place.side, place.level_below, place.level_below + 1}, false, total);
+  for (const Category* child : tree_.children(parent)) add_family(*child, place, false, total);
 }
 
 void Statement::add_total(std::string_view label, const Amounts& amounts, Role role) {

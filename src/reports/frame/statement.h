@@ -46,6 +46,7 @@ class Statement {
     int level, level_below;
   };
   void add_family(const Category& category, const Place& place, bool is_top, Amounts& total);
+  void Load_SubAccounts(const std::string& parent, const Place& place, Amounts& total);
   void add_amounts(ReportTable::Line line, std::string_view label, const Amounts& amounts);
 
   ReportTable& table_;

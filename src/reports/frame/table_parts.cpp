@@ -69,7 +69,9 @@ ReportTable Pick_Columns(ReportTable table, std::string_view list) {
   for (int at = 0; at < static_cast<int>(table.columns.size()); ++at) {
     const ReportColumn& column = table.columns[static_cast<size_t>(at)];
     const bool stays = column.kind == ReportColumn::Kind::Margin || at == table.label_column();
-    const bool named = std::find(names.begin(), names.end(), column.id()) != names.end();
+    const bool named = std::any_of(names.begin(), names.end(), [&](const std::string& name) {
+      return name == column.id() || name == column.caption;
+    });
     if (!stays && !column.id().empty()) table.offered.push_back(column);
     any = any || (named && !stays);
     keep.push_back(stays || named);
