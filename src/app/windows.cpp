@@ -1,6 +1,7 @@
 #include "app/windows.h"
 
 #include "entry/checks/frmCheck.h"
+#include "entry/find/frmFind.h"
 #include "entry/register/frmRegister.h"
 #include "lists/frmAccounts.h"
 #include "lists/frmClass.h"
@@ -18,12 +19,19 @@ namespace tallymere {
 /// for a report that is nothing but its rows in the table of reports.
 const WindowTable& Windows() {
   static const WindowTable windows = {
-      {"frmAccounts", Make_Window<frmAccounts>},   {"frmCheck", Make_Window<frmCheck>},
-      {"frmClass", Make_Window<frmClass>},         {"frmModAccount", Make_Window<frmModAccount>},
-      {"frmNewPayee", Make_Window<frmNewPayee>},   {"frmOtherNames", Make_Window<frmOtherNames>},
-      {"frmRegister", Make_Window<frmRegister>},   {"frmPrintCustom", Make_Window<frmPrintCustom>},
-      {"frmPrintPL2", Make_Window<frmPrintPL2>},   {"frmPrintPLName", Make_Report<"frmPrintPLName">},
-      {"frmSavedReps", Make_Window<frmSavedReps>}, {"frmPrintListCat", Make_Report<"frmPrintListCat">},
+      {"frmAccounts", Make_Window<frmAccounts>},
+      {"frmCheck", Make_Window<frmCheck>},
+      {"frmClass", Make_Window<frmClass>},
+      {"frmModAccount", Make_Window<frmModAccount>},
+      {"frmNewPayee", Make_Window<frmNewPayee>},
+      {"frmOtherNames", Make_Window<frmOtherNames>},
+      {"frmRegister", Make_Window<frmRegister>},
+      {"frmPrintCustom", Make_Window<frmPrintCustom>},
+      {"frmPrintPL2", Make_Window<frmPrintPL2>},
+      {"frmPrintPLName", Make_Report<"frmPrintPLName">},
+      {"frmFind", Make_Window<frmFind>},
+      {"frmSavedReps", Make_Window<frmSavedReps>},
+      {"frmPrintListCat", Make_Report<"frmPrintListCat">},
   };
   return windows;
 }
