@@ -12,6 +12,12 @@
 #include "reports/saved/frmSavedReps.h"
 #include "reports/transactions/frmPrintCustom.h"
 #include "shell/frmMain.h"
+#include "shell/settings/frmColorPicker.h"
+#include "shell/settings/frmColors.h"
+#include "shell/settings/frmCustFields.h"
+#include "shell/settings/frmInfo.h"
+#include "shell/settings/frmModUser.h"
+#include "shell/settings/frmUsers.h"
 
 namespace tallymere {
 
@@ -32,6 +38,12 @@ const WindowTable& Windows() {
       {"frmFind", Make_Window<frmFind>},
       {"frmSavedReps", Make_Window<frmSavedReps>},
       {"frmPrintListCat", Make_Report<"frmPrintListCat">},
+      {"frmUsers", Make_Window<frmUsers>},
+      {"frmModUser", Make_Window<frmModUser>},
+      {"frmInfo", Make_Window<frmInfo>},
+      {"frmCustFields", Make_Window<frmCustFields>},
+      {"frmColors", Make_Window<frmColors>},
+      {"frmColorPicker", Make_Window<frmColorPicker>},
   };
   return windows;
 }

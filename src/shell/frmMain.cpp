@@ -296,6 +296,7 @@ void frmMain::changed(const std::string& table) {
   for (Form* form : std::vector<Form*>(forms_)) form->on_changed(table);
   if (!session.dbCompany) return;
   if (table == "Colors") show_background();
+  if (table == "Users") Apply_User_Rights();
   if (table == "GeneralPrefs") {
     session.sets.GeneralPrefs->MoveFirst();
     if (session.sets.GeneralPrefs->Seek("ToolBarVisible"))

@@ -9,6 +9,7 @@
 #include "core/company/company_name.h"
 #include "core/company/login.h"
 #include "core/company/rights.h"
+#include "core/company/users.h"
 #include "core/store/recordset.h"
 #include "shell/frmMain.h"
 #include "shell/frmMenus.h"
@@ -116,15 +117,7 @@ void frmMain::Company_Went(bool at_start) {
 }
 
 void frmMain::Apply_User_Rights() {
-  UserFlags flags;
-  if (session.MultiUser) {
-    const auto users = session.dbCompany->OpenTable("Users");
-    users->Index("UserName");
-    flags = {false, false, false, false, false};
-    if (users->Seek(session.CurrentUser))
-      flags = {(*users)["AR"].flag(), (*users)["AP"].flag(), (*users)["BankCC"].flag(), (*users)["Inventory"].flag(),
-               (*users)["Payroll"].flag()};
-  }
+  const UserFlags flags = session.MultiUser ? Flags_Of(*session.dbCompany, session.CurrentUser) : UserFlags{};
   for (const CommandRight& right : tallymere::Apply_User_Rights(session.MultiUser, session.CurrentUser, flags)) {
     Q_ASSERT(command(right.name));
     auto& refused = right.property == CommandRight::Property::Visible ? hidden_ : disabled_;

@@ -10,7 +10,8 @@ namespace {
 constexpr const char* found_rows =
     "SELECT Type, Date, Name, AccountName, Amount, TransNum FROM Transactions LEFT JOIN Accounts ON CatID = Account WHERE ";
 
-std::vector<FoundRow> Rows_Where(store::Database& company, const std::string& test, const store::Database::Params& params) {
+std::vector<FoundRow> Rows_Where(store::Database& company, const std::string& test,
+                                 const store::Database::Params& params) {
   std::vector<FoundRow> found;
   company.each(found_rows + test, params, [&](const store::Row& row) {
     found.push_back({.Type = std::string(row.text(0)),
@@ -60,18 +61,24 @@ std::optional<Fault> Check_Find(const FindRequest& request) {
   if (request.by == FindBy::Amount && !Money::parse(request.text)) return Fault{no_number, "txtNumber"};
   if (request.by == FindBy::Amount && !trim(request.text_to).empty() && !Money::parse(request.text_to))
     return Fault{no_number, "txtNumberTo"};
-  if (request.by == FindBy::Name && trim(request.text).empty()) return Fault{{"Please Pick a Name", "No Value"}, "cmbVen"};
+  if (request.by == FindBy::Name && trim(request.text).empty())
+    return Fault{{"Please Pick a Name", "No Value"}, "cmbVen"};
   return {};
 }
 
 std::vector<FoundRow> Find_Transactions(Session& session, const FindRequest& request) {
   store::Database& company = *session.dbCompany;
   switch (request.by) {
-    case FindBy::Name: return By_Name(company, std::string(trim(request.text)));
-    case FindBy::Date: return By_Date(company, request);
-    case FindBy::Amount: return By_Amount(company, request);
-    case FindBy::Number: return Rows_Where(company, "Number = ? ORDER BY Date", {request.text});
-    case FindBy::Memo: return request.text.empty() ? std::vector<FoundRow>{} : Containing(company, "Memo", request.text);
+    case FindBy::Name:
+      return By_Name(company, std::string(trim(request.text)));
+    case FindBy::Date:
+      return By_Date(company, request);
+    case FindBy::Amount:
+      return By_Amount(company, request);
+    case FindBy::Number:
+      return Rows_Where(company, "Number = ? ORDER BY Date", {request.text});
+    case FindBy::Memo:
+      return request.text.empty() ? std::vector<FoundRow>{} : Containing(company, "Memo", request.text);
   }
   return {};
 }

@@ -144,8 +144,9 @@ void frmFind::optFind_Click() {
   inputs_->setCurrentIndex(by == FindBy::Name ? NameInput : by == FindBy::Date ? DateInput : TextInput);
   to_->setVisible(amount);
   txtNumberTo->setVisible(amount);
-  txtNumber->setAccessibleName(amount ? QStringLiteral("Amount")
-                                      : by == FindBy::Memo ? QStringLiteral("Part of the memo") : QStringLiteral("Number"));
+  txtNumber->setAccessibleName(amount               ? QStringLiteral("Amount")
+                               : by == FindBy::Memo ? QStringLiteral("Part of the memo")
+                                                    : QStringLiteral("Number"));
   QWidget* const firsts[] = {cmbVen, QuillbrookDatePick1, txtNumber};
   go_to(firsts[inputs_->currentIndex()]);
 }
@@ -180,8 +181,8 @@ void frmFind::show_found(const std::vector<FoundRow>& found) {
   const SSDBGrid::Fill fill(*SSDBGrid1);
   SSDBGrid1->RemoveAll();
   for (const FoundRow& row : found)
-    SSDBGrid1->AddValues({row.Type, row.Date ? store::Value(*row.Date) : store::Value(), row.Name, row.Category, row.Amount,
-                          row.TransNum});
+    SSDBGrid1->AddValues({row.Type, row.Date ? store::Value(*row.Date) : store::Value(), row.Name, row.Category,
+                          row.Amount, row.TransNum});
 }
 
 void frmFind::cmdGoto_AfterClick() {

@@ -7,6 +7,7 @@
 #include "core/company/login.h"
 #include "core/company/rights.h"
 #include "core/store/recordset.h"
+#include "shell/start/login_delay.h"
 #include "shell/widgets/grid/SSDBCombo.h"
 #include "shell/widgets/theme.h"
 
@@ -15,6 +16,7 @@ namespace tallymere {
 frmLogin::frmLogin(Shell& shell_of_frame) : Form(shell_of_frame, "frmLogin", Place::Above) {
   setWindowTitle(QStringLiteral("User Login"));
   build();
+  LoginDelay::hold(*cmdLogin);
   on(cmdLogin, "cmdLogin_AfterClick", [this] { cmdLogin_AfterClick(); });
   on(SSDBCommand2, "SSDBCommand2_AfterClick", [this] { finish(false); });
 }
@@ -44,6 +46,7 @@ void frmLogin::cmdLogin_AfterClick() {
   const std::string user = cmbUser->text();
   if (user.empty()) return show_fault({{"Please enter a User name.", "No User", Icon::Information}, "cmbUser"});
   const auto name = Accepted_User(*session.dbCompany, user, utf8(txtPassord->text()));
+  LoginDelay::count(name.has_value(), *cmdLogin);
   if (!name) return show_fault({{"Invlaid Login", "Access Denied", Icon::Critical}, "txtPassord"});
   Enter_As(session, name);
   finish(true);

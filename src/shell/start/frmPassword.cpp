@@ -5,6 +5,7 @@
 #include <QPushButton>
 
 #include "core/company/login.h"
+#include "shell/start/login_delay.h"
 #include "shell/widgets/theme.h"
 
 namespace tallymere {
@@ -19,13 +20,15 @@ frmPassword::frmPassword(Shell& shell_of_frame) : Form(shell_of_frame, "frmPassw
   auto* fields = form_layout();
   add_field(fields, QStringLiteral("Enter Password"), Text1);
   lay_out_dialog(this, fields, {cmdCancel, cmdOk});
+  LoginDelay::hold(*cmdOk);
   on(cmdOk, "cmdOk_AfterClick", [this] { cmdOk_AfterClick(); });
   on(cmdCancel, "cmdCancel_AfterClick", [this] { finish(false); });
 }
 
 void frmPassword::cmdOk_AfterClick() {
-  if (!Is_Company_Password(*session.dbCompany, utf8(Text1->text())))
-    return show_fault({{"Incorrect Password", "Password", Icon::Information}, "Text1"});
+  const bool right = Is_Company_Password(*session.dbCompany, utf8(Text1->text()));
+  LoginDelay::count(right, *cmdOk);
+  if (!right) return show_fault({{"Incorrect Password", "Password", Icon::Information}, "Text1"});
   finish(true);
 }
 

@@ -11,11 +11,6 @@ namespace tallymere {
 
 namespace {
 
-/// A colour as the company keeps it: red + 256 * green + 65536 * blue.
-QColor stored_color(int64_t value) {
-  return QColor(static_cast<int>(value & 255), static_cast<int>(value >> 8 & 255), static_cast<int>(value >> 16 & 255));
-}
-
 /// A light background chosen by day is turned to its dark counterpart on a dark desktop.
 QColor suited_to_scheme(const QColor& color) {
   if (!theme::is_dark() || color.lightness() < 128) return color;
@@ -37,11 +32,17 @@ QColor between(const QColor& one, const QColor& other, double share) {
 
 }  // namespace
 
+QColor Stored_Color(int64_t value) {
+  return QColor(static_cast<int>(value & 255), static_cast<int>(value >> 8 & 255), static_cast<int>(value >> 16 & 255));
+}
+
+int64_t Color_To_Store(const QColor& color) { return color.red() + 256 * color.green() + 65536 * color.blue(); }
+
 QColor Company_Color(Session& session, const std::string& item) {
   if (!session.sets.Colors) return {};
   session.sets.Colors->MoveFirst();
   if (!session.sets.Colors->Seek(item)) return {};
-  return suited_to_scheme(stored_color((*session.sets.Colors)["Color"].integer()));
+  return suited_to_scheme(Stored_Color((*session.sets.Colors)["Color"].integer()));
 }
 
 QColor Text_On(const QColor& paper) {

@@ -8,6 +8,10 @@ class QWidget;
 
 namespace tallymere {
 
+/// A colour as the company keeps it: red + 256 * green + 65536 * blue; and the way back.
+QColor Stored_Color(int64_t value);
+int64_t Color_To_Store(const QColor& color);
+
 /// A colour the company chose ("CheckBack"), turned to its dark counterpart on a dark desktop; invalid when
 /// it chose none.
 QColor Company_Color(Session& session, const std::string& item);

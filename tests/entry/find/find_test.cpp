@@ -59,7 +59,8 @@ TEST(FindRequests, WhatCannotBeLookedUpIsSaid) {
     const auto fault = Check_Find(request);
     return fault ? fault->box.title + ": " + fault->box.text + " @" + fault->control : "";
   };
-  EXPECT_EQ(said({.by = FindBy::Amount, .text = "twelve"}), "No Value: Please Enter a Number value in the Box @txtNumber");
+  EXPECT_EQ(said({.by = FindBy::Amount, .text = "twelve"}),
+            "No Value: Please Enter a Number value in the Box @txtNumber");
   EXPECT_EQ(said({.by = FindBy::Amount, .text = "1e9"}), "No Value: Please Enter a Number value in the Box @txtNumber");
   EXPECT_EQ(said({.by = FindBy::Amount, .text = "12", .text_to = "x"}),
             "No Value: Please Enter a Number value in the Box @txtNumberTo");

@@ -24,6 +24,13 @@ modal("frmPassword", function (w) {
     box("Password", "Incorrect Password");
     click(w.cmdOk);
   }
+  ok(!w.cmdOk.enabled, "after three misses it waits");
+  click(w.cmdCancel);
+});
+openCompany("Acme");
+modal("frmPassword", function (w) {
+  ok(!w.cmdOk.enabled, "closing the window is no way round");
+  for (const until = Date.now() + 2100; Date.now() < until;);
   type(w.Text1, "Rain7");
   click(w.cmdOk);
 });
