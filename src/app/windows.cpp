@@ -1,5 +1,6 @@
 #include "app/windows.h"
 
+#include "entry/bank/frmPaySalesTax.h"
 #include "entry/checks/frmCheck.h"
 #include "entry/find/frmFind.h"
 #include "entry/register/frmRegister.h"
@@ -38,6 +39,7 @@ const WindowTable& Windows() {
       {"frmFind", Make_Window<frmFind>},
       {"frmSavedReps", Make_Window<frmSavedReps>},
       {"frmPrintListCat", Make_Report<"frmPrintListCat">},
+      {"frmPaySalesTax", Make_Window<frmPaySalesTax>},
       {"frmUsers", Make_Window<frmUsers>},
       {"frmModUser", Make_Window<frmModUser>},
       {"frmInfo", Make_Window<frmInfo>},

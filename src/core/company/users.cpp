@@ -85,8 +85,7 @@ bool Delete_User(Session& session, const std::string& UserName) {
   if (UserName.empty()) return session.prompts.box({"Please Select a User to Delete.", "No Selection"}), false;
   if (UserName == Administrator)
     return session.prompts.box({"You cannot delete the Administrator.", "Access Denied"}), false;
-  if (!session.prompts.ask(
-          {"Are you sure you want to delete \"" + UserName + "\"?", "Confirm Delete", Icon::Question}))
+  if (!session.prompts.ask({"Are you sure you want to delete \"" + UserName + "\"?", "Confirm Delete", Icon::Question}))
     return false;
   store::Transaction tx(*session.dbCompany, "Delete User " + UserName);
   const auto user = At_User(*session.dbCompany, UserName);

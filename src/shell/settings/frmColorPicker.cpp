@@ -106,7 +106,8 @@ void frmColorPicker::build() {
   picPreView->setAlignment(Qt::AlignCenter);
   picPreView->setMinimumSize(14 * theme::unit, 6 * theme::unit);
   txtColor = named("txtColor", new QLineEdit);
-  txtColor->setValidator(new QRegularExpressionValidator(QRegularExpression(QStringLiteral("[0-9A-Fa-f]{0,6}")), txtColor));
+  txtColor->setValidator(
+      new QRegularExpressionValidator(QRegularExpression(QStringLiteral("[0-9A-Fa-f]{0,6}")), txtColor));
   picScreenColor = named("picScreenColor", new QPushButton(QStringLiteral("From the &Screen")));
   cmdOk = named("cmdOk", new QPushButton(QStringLiteral("&OK")));
   cmdCancel = named("cmdCancel", new QPushButton(QStringLiteral("&Cancel")));
@@ -141,8 +142,9 @@ void frmColorPicker::text_typed() {
 /// From here on the preview shows what is under the pointer, until the mouse is clicked.
 void frmColorPicker::picScreenColor_Click() {
   if (!color_on_screen().isValid())
-    return session.prompts.box({"The colour under the pointer cannot be read here.", "Pick Color", Icon::Information,
-                                "This desktop does not let a program look at other windows. Pick from the palette instead."});
+    return session.prompts.box(
+        {"The colour under the pointer cannot be read here.", "Pick Color", Icon::Information,
+         "This desktop does not let a program look at other windows. Pick from the palette instead."});
   grabMouse(Qt::CrossCursor);
   tmrScreenColor->start();
 }

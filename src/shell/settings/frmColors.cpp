@@ -10,7 +10,8 @@
 namespace tallymere {
 
 namespace {
-constexpr std::array<const char*, Colored_Windows.size()> box_names = {"picBackGround", "picCheck", "picBill", "picReg"};
+constexpr std::array<const char*, Colored_Windows.size()> box_names = {"picBackGround", "picCheck", "picBill",
+                                                                       "picReg"};
 }
 
 frmColors::frmColors(Shell& shell_of_frame) : Form(shell_of_frame, "frmColors", Place::Above) {

@@ -29,7 +29,8 @@ TEST_F(Users, NamesAreNeitherEmptyNorDoubledAndTheAdministratorKeepsHis) {
   EXPECT_EQ(save("", {.UserName = "Ann", .password = {true, "a", "b"}}), "No Match@txtPassword");
   EXPECT_EQ(save("", {.UserName = " "}), "No User@txtUser");
   EXPECT_EQ(save("", {.UserName = "ADMIN"}), "Duplicate User Name@txtUser");
-  EXPECT_EQ(save("", {.UserName = "Ann", .password = {true, "a", "a"}, .flags = {true, false, false, false, true}}), "");
+  EXPECT_EQ(save("", {.UserName = "Ann", .password = {true, "a", "a"}, .flags = {true, false, false, false, true}}),
+            "");
   EXPECT_EQ(save("Ann", {.UserName = "Admin"}), "Duplicate User Name@txtUser");
   EXPECT_EQ(save("Admin", {.UserName = "Boss"}), "Access Denied@txtUser");
   EXPECT_EQ(save("Ann", {.UserName = "ann", .flags = {true, false, false, false, true}}), "") << "only its case";
