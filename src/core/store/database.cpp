@@ -284,6 +284,11 @@ void Database::create_indexes(const std::vector<std::string>& statements) {
   for (const std::string& statement : statements) connection_.execute(statement);
 }
 
+void Database::rebuild_indexes() {
+  require_transaction();
+  connection_.execute("REINDEX");
+}
+
 std::vector<QueryDef> Database::QueryDefs() const {
   std::vector<QueryDef> queries;
   auto views = connection_.prepare(
@@ -306,15 +311,20 @@ std::unique_ptr<Table> Database::OpenTable(std::string_view name) { return std::
 
 Recordset Database::OpenRecordset(std::string_view sql, const Params& params) { return {*this, sql, params}; }
 
-const std::string& Database::translated(std::string_view sql) {
-  auto found = translations_.find(sql);
+const std::string& Database::translated(std::string_view sql, const Params& params) {
+  std::string key(sql);
+  for (const Value& value : params) {
+    const bool is_text = std::holds_alternative<std::string>(value.content());
+    key += !is_text ? '?' : value.blank() ? '0' : '1';  // what a translation depends on
+  }
+  auto found = translations_.find(key);
   if (found != translations_.end()) return found->second;
   if (translations_.size() > 1000) translations_.clear();
-  return translations_.emplace(sql, Translate(sql)).first->second;
+  return translations_.emplace(std::move(key), Translate(sql, params)).first->second;
 }
 
 Statement Database::query(std::string_view sql, const Params& params) {
-  Statement statement = connection_.prepare(translated(sql));
+  Statement statement = connection_.prepare(translated(sql, params));
   if (statement.parameter_count() != static_cast<int>(params.size()))
     throw Error(errors::bad_statement,
                 "Too few parameters. Expected " + std::to_string(statement.parameter_count()) + ".");

@@ -8,6 +8,7 @@
 #include <string>
 #include <string_view>
 #include <typeindex>
+#include <unordered_map>
 #include <vector>
 
 #include "core/store/engine.h"
@@ -85,7 +86,8 @@ struct WritingScope {
 };
 
 /// A database file. Queries take `?` parameters; they may also be written with the program's own points of SQL
-/// (`#m/d/yyyy#`, `True`, `LIKE 'a*'`, any column name). Amounts in query text travel as parameters only.
+/// (`#m/d/yyyy#`, `True`, `LIKE 'a*'`, any column name). Amounts in query text travel as parameters only. An empty field
+/// compared with a text is an empty text, null or not.
 class Database {
  public:
   using Params = std::vector<Value>;
@@ -113,6 +115,7 @@ class Database {
   /// inside the same Transaction.
   std::vector<std::string> drop_indexes(const std::string& table);
   void create_indexes(const std::vector<std::string>& statements);
+  void rebuild_indexes();  ///< inside a Transaction: for files whose texts stood in another order
   std::vector<QueryDef> QueryDefs() const;
   void CreateQueryDef(const QueryDef& query);
 
@@ -152,14 +155,14 @@ class Database {
     return *static_cast<T*>(place.get());
   }
 
-  Statement query(std::string_view sql, const Params& params);  ///< translated, bound, not yet stepped
+  Statement query(std::string_view sql, const Params& params);                ///< translated, bound, not yet stepped
+  const std::string& translated(std::string_view sql, const Params& params);  ///< valid until the next call
 
  private:
   friend class Transaction;
   Database(const std::filesystem::path& path, Connection::Mode mode);
   void read_definitions() const;
   const TableDef* known_table(std::string_view name) const;
-  const std::string& translated(std::string_view sql);
 
   std::filesystem::path path_;
   mutable Connection connection_;
@@ -170,7 +173,7 @@ class Database {
   std::shared_ptr<WritingScope> scope_;
   mutable std::optional<std::vector<TableDef>> tables_;
   mutable int64_t definitions_read_at_ = 0;
-  std::map<std::string, std::string, std::less<>> translations_;
+  std::unordered_map<std::string, std::string> translations_;
   std::map<std::type_index, std::shared_ptr<void>> kept_;
 };
 

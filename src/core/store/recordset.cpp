@@ -240,8 +240,9 @@ void Table::step(bool forward) {
 
 bool Table::Seek(const Value& key) {
   if (field_.empty()) throw Error(errors::no_such_field, "Seek without an index on '" + table_ + "'.");
+  const std::string blank = key.blank() ? " OR " + Quoted(field_) + " IS NULL" : "";
   auto statement = db_->connection().prepare("SELECT RowKey FROM " + Quoted(table_) + " WHERE " + Quoted(field_) +
-                                             " IS ? ORDER BY RowKey LIMIT 1");
+                                             " IS ?" + blank + " ORDER BY RowKey LIMIT 1");
   statement.bind(1, key);
   no_match_ = !statement.step();
   if (no_match_) {
@@ -267,7 +268,7 @@ int64_t Table::RecordCount() const {
 // --- Recordset ----------------------------------------------------------------------------------------------
 
 Recordset::Recordset(Database& db, std::string_view sql, const Database::Params& params) : RowSet(db) {
-  auto split = Split_Query(Translate(sql));
+  auto split = Split_Query(db.translated(sql, params));
   const TableDef* definition = split.table.empty() ? nullptr : db.find_table(split.table);
   Statement shape = db.query(sql, params);
   std::vector<Field> fields;

@@ -2,7 +2,8 @@
 
 #include <array>
 
-#include "core/store/error.h"
+#include "core/store/sql_blanks.h"
+#include "core/store/sql_pieces.h"
 #include "core/values/date.h"
 #include "core/values/text.h"
 
@@ -12,48 +13,6 @@ namespace {
 /// Column names of the program that the engine would take for words of its own.
 constexpr std::array<std::string_view, 7> reserved_columns = {"Index", "Default", "Group", "Order",
                                                               "To",    "Check",   "Limit"};
-
-bool Is_Word_Character(char c) { return std::isalnum(static_cast<unsigned char>(c)) || c == '_' || (c & 0x80); }
-
-/// Walks a statement word by word; texts, quoted names and comments come as one piece each.
-class Pieces {
- public:
-  explicit Pieces(std::string_view sql) : sql_(sql) {}
-
-  bool next() {
-    start_ = end_;
-    if (start_ >= sql_.size()) return false;
-    end_ = end_of_piece();
-    return true;
-  }
-  std::string_view text() const { return sql_.substr(start_, end_ - start_); }
-  size_t start() const { return start_; }
-  size_t end() const { return end_; }
-  char first() const { return sql_[start_]; }
-  bool is_word() const { return Is_Word_Character(first()); }
-  bool is_blank() const { return std::isspace(static_cast<unsigned char>(first())); }
-
- private:
-  size_t end_of_piece() const {
-    char c = sql_[start_];
-    if (c == '\'' || c == '"' || c == '#' || c == '`') return closing(c);
-    if (c == '[') return closing(']');
-    size_t at = start_ + 1;
-    if (Is_Word_Character(c))
-      while (at < sql_.size() && Is_Word_Character(sql_[at])) ++at;
-    return at;
-  }
-  size_t closing(char mark) const {
-    size_t at = sql_.find(mark, start_ + 1);
-    while (at != std::string_view::npos && mark == '\'' && at + 1 < sql_.size() && sql_[at + 1] == '\'')
-      at = sql_.find(mark, at + 2);
-    if (at == std::string_view::npos)
-      throw Error(errors::bad_statement, "Syntax error in query: unclosed " + std::string(1, mark) + ".");
-    return at + 1;
-  }
-  std::string_view sql_;
-  size_t start_ = 0, end_ = 0;
-};
 
 std::string Day_Literal(std::string_view piece) {
   auto day = Date::parse(piece.substr(1, piece.size() - 2));
@@ -90,32 +49,46 @@ bool Begins_With_Digit_But_Names(std::string_view word) {
   return false;
 }
 
+std::string Translated_Word(std::string_view word, std::string_view rest) {
+  if (same_text(word, "True")) return "-1";
+  if (same_text(word, "False")) return "0";
+  if (Begins_With_Digit_But_Names(word) || Is_Reserved_Column(word, rest)) return Quoted(word);
+  return std::string(word);
+}
+
+SqlPiece::Kind Kind_Of(const Pieces& piece) {
+  using enum SqlPiece::Kind;
+  if (piece.is_blank()) return Blank;
+  if (piece.is_parameter()) return Parameter;
+  if (piece.first() == '\'') return Text;
+  if (piece.is_word() || piece.first() == '"' || piece.first() == '[' || piece.first() == '`') return Word;
+  return Mark;
+}
+
 }  // namespace
 
 std::string Quoted(std::string_view name) { return "\"" + replace_all(std::string(name), "\"", "\"\"") + "\""; }
 
-std::string Translate(std::string_view sql) {
-  std::string out;
+std::string Translate(std::string_view sql, std::span<const Value> params) {
+  std::vector<SqlPiece> pieces;
   bool after_like = false;
   for (Pieces piece(sql); piece.next();) {
     auto text = piece.text();
+    SqlPiece::Kind kind = Kind_Of(piece);
+    std::string translated(text);
     if (piece.first() == '#') {
-      out += Day_Literal(text);
-    } else if (piece.first() == '\'' && after_like) {
-      out += Like_Pattern(text);
-    } else if (!piece.is_word()) {
-      out += text;
-    } else if (same_text(text, "True")) {
-      out += "-1";
-    } else if (same_text(text, "False")) {
-      out += "0";
-    } else if (Begins_With_Digit_But_Names(text) || Is_Reserved_Column(text, sql.substr(piece.end()))) {
-      out += Quoted(text);
-    } else {
-      out += text;
+      translated = Day_Literal(text);
+    } else if (kind == SqlPiece::Kind::Text && after_like) {
+      translated = Like_Pattern(text);
+    } else if (piece.is_word()) {
+      translated = Translated_Word(text, sql.substr(piece.end()));
     }
+    pieces.push_back({kind, std::move(translated)});
     if (!piece.is_blank()) after_like = piece.is_word() && same_text(text, "LIKE");
   }
+  Take_Null_As_Blank(pieces, params);
+  std::string out;
+  for (const SqlPiece& piece : pieces) out += piece.text;
   return out;
 }
 

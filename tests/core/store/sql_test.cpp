@@ -29,6 +29,28 @@ TEST(Sql, TheProgramsPointsOfSqlBecomeTheEngines) {
     EXPECT_THROW(Translate(broken), Error) << broken;
 }
 
+/// Each pair is a fault of its own: rows that a plain comparison with null would drop, or an operator torn apart.
+TEST(Sql, AnEmptyFieldIsAnEmptyTextWhetherNullOrNot) {
+  struct Case {
+    std::string program, engine;
+    std::vector<Value> params = {};
+  };
+  const Case cases[] = {
+      {"WHERE SourceName <> 'Inventory Part'", "WHERE SourceName IS NOT 'Inventory Part'"},
+      {"WHERE NOT a!='x'", "WHERE NOT a IS NOT 'x'"},
+      {"WHERE Class = '' AND b=''", "WHERE (Class = '' OR Class IS NULL) AND (b='' OR b IS NULL)"},
+      {"WHERE a <> '' AND b = 'x' AND c >= 'x'", "WHERE a <> '' AND b = 'x' AND c >= 'x'"},
+      {"WHERE t.Name = ? AND n = ?", "WHERE (t.Name = ? OR t.Name IS NULL) AND n = ?", {"", 3}},
+      {"WHERE Name <> ?2 AND Class = ?1", "WHERE Name IS NOT ?2 AND (Class = ?1 OR Class IS NULL)", {"", "x"}},
+      {"UPDATE T SET a = '', b = ? WHERE a = ''", "UPDATE T SET a = '', b = ? WHERE (a = '' OR a IS NULL)", {""}},
+      {"SELECT a || b = '', Trim(c) = ''", "SELECT a || b = '', Trim(c) = ''"},
+      {"WHERE T.Type NOT IN ('Bill', ?)", "WHERE IFNULL(T.Type, '') COLLATE NOCASE NOT IN ('Bill', ?)", {"x"}},
+      {"WHERE Class IN ('', 'x')", "WHERE IFNULL(Class, '') COLLATE NOCASE IN ('', 'x')"},
+      {"WHERE a IN ('x') AND b NOT IN (1) AND c = 'IN ('", "WHERE a IN ('x') AND b NOT IN (1) AND c = 'IN ('"},
+  };
+  for (const Case& c : cases) EXPECT_EQ(Translate(c.program, c.params), c.engine);
+}
+
 TEST(Sql, OnlyAQueryOverOnePlainTableIsADynaset) {
   EXPECT_EQ(Split_Query("SELECT * FROM Accounts WHERE CatID IN ('a', 'b') ORDER BY A, B").table, "Accounts");
   EXPECT_EQ(Split_Query("select Name from [Other Names]").table, "Other Names");
