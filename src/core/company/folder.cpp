@@ -13,7 +13,9 @@ using store::FileKind;
 
 /// What has to be done to files written before a change of the schema that new tables, fields and indexes alone don't
 /// bring. The next change adds a row here and raises schema_version.
-constexpr std::array<UpgradeStep, 0> upgrade_steps = {};
+constexpr std::array<UpgradeStep, 1> upgrade_steps = {{
+    {3, [](Database& db) { db.rebuild_indexes(); }},  // texts stood in the order of ASCII's case alone
+}};
 
 std::span<const TableDef> Tables_Of(FileKind kind) {
   return kind == FileKind::Shared ? accounts_tables() : company_tables();

@@ -2,6 +2,7 @@
 #include <array>
 
 #include "core/company/schema.h"
+#include "core/values/text.h"
 
 // What joins the tables: indexes made for reading, the stored query, and what points at what.
 namespace tallymere {
@@ -83,20 +84,17 @@ constexpr Reference links[] = {
     {"PreDeducSet", "PreDeduc", "PayrollItems", "Name"},
 };
 
-constexpr char lower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
-
-bool same(std::string_view a, std::string_view b) { return std::ranges::equal(a, b, {}, lower, lower); }
-
 // "Time20260104": a table made on demand, followed by its day.
 bool dated(std::string_view name, const TableDef& table) {
-  if (!table.on_demand || name.size() != table.name.size() + 8 || !same(name.substr(0, table.name.size()), table.name))
+  if (!table.on_demand || name.size() != table.name.size() + 8 ||
+      !same_text(name.substr(0, table.name.size()), table.name))
     return false;
   return std::ranges::all_of(name.substr(table.name.size()), [](char c) { return c >= '0' && c <= '9'; });
 }
 
 const TableDef* find_in(std::span<const TableDef> tables, std::string_view name) {
   const auto found = std::ranges::find_if(
-      tables, [name](const TableDef& table) { return same(table.name, name) || dated(name, table); });
+      tables, [name](const TableDef& table) { return same_text(table.name, name) || dated(name, table); });
   return found == tables.end() ? nullptr : &*found;
 }
 
@@ -112,7 +110,7 @@ const TableDef* find_table(std::string_view name) {
 }
 
 const FieldDef* TableDef::find_field(std::string_view field) const {
-  const auto found = std::ranges::find_if(fields, [field](const FieldDef& def) { return same(def.name, field); });
+  const auto found = std::ranges::find_if(fields, [field](const FieldDef& def) { return same_text(def.name, field); });
   return found == fields.end() ? nullptr : &*found;
 }
 

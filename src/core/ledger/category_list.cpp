@@ -47,7 +47,7 @@ std::vector<const Row*> Top_Rows(const std::vector<Row>& rows) {
 template <typename Row>
 void Sort_By_Type(std::vector<const Row*>& tops, const std::string Row::*type) {
   std::stable_sort(tops.begin(), tops.end(),
-                   [&](const Row* a, const Row* b) { return lower(a->*type) < lower(b->*type); });
+                   [&](const Row* a, const Row* b) { return folded(a->*type) < folded(b->*type); });
 }
 
 template <typename Row>

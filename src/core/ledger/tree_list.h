@@ -26,7 +26,7 @@ class TreeList {
  public:
   explicit TreeList(const std::vector<Row>& rows) {
     for (const Row& row : rows)
-      if (!row.parent().empty()) children_[lower(row.parent())].push_back(&row);
+      if (!row.parent().empty()) children_[folded(row.parent())].push_back(&row);
   }
 
   /// Adds a row at this level and all below it.
@@ -40,7 +40,7 @@ class TreeList {
 
  private:
   void SubList(const std::string& parent, int level) {
-    const auto found = children_.find(lower(parent));
+    const auto found = children_.find(folded(parent));
     if (found == children_.end()) return;
     for (const Row* child : found->second) add(*child, level);
   }

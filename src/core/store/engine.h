@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <filesystem>
 #include <functional>
@@ -76,10 +77,12 @@ struct ChangeStamp {
   friend bool operator==(const ChangeStamp&, const ChangeStamp&) = default;
 };
 
-/// An open file. Waits a few seconds for another process's lock, then gives Error 3218.
+/// An open file. Waits for another process's lock as long as `lock_patience`, then gives Error 3218.
 class Connection {
  public:
   enum class Mode { Create, ReadWrite };
+  /// Long enough for a queue of colleagues who all save at once, short enough for a person at the window.
+  static inline std::chrono::milliseconds lock_patience{12000};
   Connection(const std::filesystem::path& path, Mode mode);
   ~Connection();
   Connection(const Connection&) = delete;
@@ -121,8 +124,10 @@ class Connection {
   std::vector<std::string> integrity_faults();
 
  private:
+  static int wait_for_lock(void* self, int waits_before);
   void check(int code, const std::string& doing);
   sqlite3* handle_ = nullptr;
+  std::chrono::steady_clock::time_point waiting_since_;
   std::optional<ChangeRecorder> recorder_;
   std::unordered_map<std::string, size_t> savepoint_marks_;
   std::unordered_map<std::string, std::vector<std::unique_ptr<Statement::Slot>>> statements_;

@@ -10,7 +10,7 @@ namespace tallymere {
 
 struct CaselessHash {
   using is_transparent = void;
-  size_t operator()(std::string_view text) const { return std::hash<std::string>{}(lower(text)); }
+  size_t operator()(std::string_view text) const { return std::hash<std::string>{}(folded(text)); }
 };
 struct CaselessEqual {
   using is_transparent = void;

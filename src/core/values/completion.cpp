@@ -14,7 +14,7 @@ Completion Complete(std::string_view typed, int count, const std::function<std::
   if (!start.empty()) {
     for (int row = 0; row < count; ++row) {
       const std::string_view candidate = Without_Indent(name(row));
-      if (starts_with_same_text(candidate, start)) return {row, std::string(candidate), start.size()};
+      if (const auto same = same_text_start(candidate, start)) return {row, std::string(candidate), *same};
     }
   }
   return {-1, std::string(typed), typed.size()};

@@ -7,7 +7,7 @@
 namespace tallymere {
 
 /// What a box shows after a key: the whole text and where the proposed part, shown selected, begins (in bytes
-/// of UTF-8, the length of what was typed). row is the list's row, or -1 when nothing begins so: then text is
+/// of its UTF-8). row is the list's row, or -1 when nothing begins so: then text is
 /// what was typed.
 struct Completion {
   int row = -1;

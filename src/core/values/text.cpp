@@ -2,36 +2,42 @@
 
 #include <algorithm>
 
+#include "core/values/letters.h"
+
 namespace tallymere {
 namespace {
 
 constexpr std::string_view blanks = " \t\r\n\f\v";
 
-// Not std::tolower: that depends on the locale and would break UTF-8 bytes in some.
-constexpr char lower_char(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c; }
-constexpr char upper_char(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - ('a' - 'A')) : c; }
-
-template <class Fold>
-std::string folded(std::string_view text, Fold fold) {
-  std::string result(text);
-  std::transform(result.begin(), result.end(), result.begin(), fold);
-  return result;
-}
-
 bool is_digit(char c) { return c >= '0' && c <= '9'; }
 
 }  // namespace
 
-std::string lower(std::string_view text) { return folded(text, lower_char); }
-std::string upper(std::string_view text) { return folded(text, upper_char); }
+std::string folded(std::string_view text) {
+  std::string result;
+  result.reserve(text.size());
+  for (Letters letters(text); !letters.at_end();) append_letter(result, letters.next_folded());
+  return result;
+}
 
-bool same_text(std::string_view a, std::string_view b) {
-  return std::equal(a.begin(), a.end(), b.begin(), b.end(),
-                    [](char x, char y) { return lower_char(x) == lower_char(y); });
+std::string upper(std::string_view text) {
+  std::string result(text);
+  for (char& c : result)
+    if (c >= 'a' && c <= 'z') c = static_cast<char>(c - ('a' - 'A'));
+  return result;
+}
+
+bool same_text(std::string_view a, std::string_view b) { return compare_same_text(a, b) == 0; }
+
+std::optional<size_t> same_text_start(std::string_view text, std::string_view start) {
+  Letters letters(text);
+  for (Letters wanted(start); !wanted.at_end();)
+    if (letters.at_end() || letters.next_folded() != wanted.next_folded()) return std::nullopt;
+  return letters.position();
 }
 
 bool starts_with_same_text(std::string_view text, std::string_view start) {
-  return same_text(text.substr(0, start.size()), start);
+  return same_text_start(text, start).has_value();
 }
 
 bool contains(std::string_view text, std::string_view part) { return text.find(part) != text.npos; }

@@ -1,18 +1,21 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace tallymere {
 
-// Helpers for UTF-8 text. Case means ASCII case, as the store compares: letters beyond ASCII are left as they
-// are.
-std::string lower(std::string_view text);
-std::string upper(std::string_view text);
-bool same_text(std::string_view a, std::string_view b);                     // equal but for case
+// Helpers for UTF-8 text. Case is that of all scripts, one letter for one letter, as the store compares: "école" is
+// "ÉCOLE".
+std::string folded(std::string_view text);               // what equals and orders texts without case; not for the eye
+bool same_text(std::string_view a, std::string_view b);  // equal but for case
 bool starts_with_same_text(std::string_view text, std::string_view start);  // begins so, but for case
-bool contains(std::string_view text, std::string_view part);                // case counts; every text contains ""
+// How many bytes of a text are that beginning, which need not be as long as `start` is.
+std::optional<size_t> same_text_start(std::string_view text, std::string_view start);
+std::string upper(std::string_view text);                     // of ASCII letters only: for names that machines give
+bool contains(std::string_view text, std::string_view part);  // case counts; every text contains ""
 
 // Blanks, tabs and line ends at both ends, or at the start only.
 std::string trim(std::string_view text);

@@ -13,7 +13,7 @@ std::vector<const Category*> Top_Level_By_Name(const CategoryTree& tree) {
   for (const Category& category : tree.all())
     if (category.ParentAccount.empty()) top.push_back(&category);
   std::stable_sort(top.begin(), top.end(),
-                   [](auto* a, auto* b) { return lower(a->AccountName) < lower(b->AccountName); });
+                   [](auto* a, auto* b) { return folded(a->AccountName) < folded(b->AccountName); });
   return top;
 }
 

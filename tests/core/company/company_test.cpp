@@ -1,6 +1,7 @@
 #include "core/company/company.h"
 
 #include <gtest/gtest.h>
+#include <sqlite3.h>
 #include <sys/stat.h>
 
 #include <fstream>
@@ -152,6 +153,27 @@ TEST(Company, AnOlderFileIsBroughtUpToDateOnOpening) {
   EXPECT_EQ(acme.db().value("SELECT Amount FROM Transactions WHERE TransNum = 7").money(), Money::dollars(7));
   EXPECT_EQ(acme.db().value("SELECT COUNT(*) FROM pragma_index_info('Transactions_Account')").integer(), 7);
   EXPECT_EQ(acme.db().value("SELECT At FROM History ORDER BY RowKey DESC").text().substr(0, 10), "2026-06-15");
+}
+
+/// Where names beyond ASCII stood in an index in another order, a search would pass them by.
+TEST(Company, NamesOfAnOlderFileAreFoundWhateverTheirCase) {
+  TestCompany acme;
+  for (auto name : {"École", "eclair", "Zebra", "Ärzte", "ärmel", "Žižek", "ÿ", "Étude"})
+    acme.run("INSERT INTO Customers (Name) VALUES (?)", {name});
+  Close_Company_File(*acme.session);
+  sqlite3* plain = nullptr;  // as a program that folds ASCII alone has it
+  ASSERT_EQ(sqlite3_open((acme.folder / "Acme.cmf").c_str(), &plain), SQLITE_OK);
+  EXPECT_EQ(sqlite3_exec(plain, "REINDEX; PRAGMA user_version = 2", nullptr, nullptr, nullptr), SQLITE_OK);
+  sqlite3_close(plain);
+  acme.open(*acme.session);
+  auto& customers = *acme.session->sets.Customers;
+  for (auto name : {"éCOLE", "ECLAIR", "zebra", "ärzte", "ÄRMEL", "žIŽEK", "Ÿ", "étude"})
+    EXPECT_TRUE(customers.Seek(name)) << name;
+  EXPECT_FALSE(customers.Seek("ecole"));
+  EXPECT_EQ(acme.db().value("SELECT COUNT(*) FROM Customers WHERE Name LIKE 'É*'").integer(), 2);
+  EXPECT_EQ(acme.db().value("SELECT COUNT(DISTINCT Name) FROM Customers WHERE Name IN ('ärzte', 'ÄRZTE')").integer(),
+            1);
+  EXPECT_TRUE(acme.db().connection().integrity_faults().empty());
 }
 
 TEST(Company, StepsOfAnUpgradeRunOnceInOrderAndAllOrNothing) {

@@ -61,16 +61,17 @@ TEST_F(Processes, AKilledWriterLeavesNoHalfDocumentAndLosesNoneItToldOf) {
   EXPECT_GE(safe.size(), 25u);
 }
 
-TEST_F(Processes, TwoDesksSaveIntoOneFileAndNothingMergesOrDisappears) {
-  constexpr int each = 150;
-  auto ann = writer("Ann's", each), bob = writer("Bob's", each);
-  std::string said = ann->rest() + bob->rest();
-  EXPECT_EQ(ann->wait_for_end(), 0);
-  EXPECT_EQ(bob->wait_for_end(), 0);
-  EXPECT_EQ(told(said).size(), size_t{2 * each});
+TEST_F(Processes, EightDesksSaveIntoOneFileAndNoneStarvesMergesOrDisappears) {
+  constexpr int desks = 8, each = 60;
+  std::vector<std::unique_ptr<ChildProcess>> writers;
+  for (int desk = 0; desk < desks; ++desk) writers.push_back(writer("Desk " + std::to_string(desk), each));
+  for (auto& desk : writers) {
+    EXPECT_EQ(told(desk->rest()).size(), size_t{each});
+    EXPECT_EQ(desk->wait_for_end(), 0);
+  }
   auto& db = opened();
   EXPECT_TRUE(Verify_Company(db).empty());
-  EXPECT_EQ(db.value("SELECT COUNT(DISTINCT TransNum) FROM Transactions").integer(), 2 * each);
+  EXPECT_EQ(db.value("SELECT COUNT(DISTINCT TransNum) FROM Transactions").integer(), desks * each);
   EXPECT_EQ(db.value("SELECT COUNT(*) FROM (SELECT 1 FROM Transactions GROUP BY TransNum"
                      " HAVING COUNT(*) <> 3 OR MIN(Name) <> MAX(Name))")
                 .integer(),

@@ -24,7 +24,7 @@ TEST(Completion, TakesTheFirstNameInListOrderWhateverItsCaseOrIndentation) {
   };
   for (const Case& c : {Case{"off", 3, "Office Supplies", "ice Supplies"}, Case{"OFF-", 4, "Off-site", "site"},
                         Case{"fuel", 1, "Fuel", ""}, Case{"Fuel,", 2, "fuel, Diesel", " Diesel"},
-                        Case{"  fu", 1, "Fuel", "el"}, Case{"Café", 5, "Café Rent", " Rent"}}) {
+                        Case{"  fu", 1, "Fuel", "el"}, Case{"CAFÉ", 5, "Café Rent", " Rent"}}) {
     const Completion found = complete(c.typed);
     EXPECT_EQ(found.row, c.row) << c.typed;
     EXPECT_EQ(found.text, c.text);

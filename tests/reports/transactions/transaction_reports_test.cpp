@@ -123,7 +123,7 @@ TEST(TransactionReports, ComeUpWithTheirColumnsAndDates) {
 TEST(Reports, KeysAreUniqueAndFoundByTheirWindow) {
   std::set<std::string> keys;
   for (const ReportDef& report : Reports()) {
-    EXPECT_TRUE(keys.insert(lower(report.key)).second) << report.key;
+    EXPECT_TRUE(keys.insert(folded(report.key)).second) << report.key;
     EXPECT_EQ(Find_Report(report.window, report.asked_as()), &report);
     EXPECT_EQ(Find_Report(upper(report.key)), &report);
   }

@@ -33,7 +33,7 @@ bool precedes(const store::Value& a, const store::Value& b) {
     case 2:
       return a.date() < b.date();
     case 3:
-      return lower(a.text()) < lower(b.text());
+      return folded(a.text()) < folded(b.text());
     default:
       return false;
   }
