@@ -3,11 +3,11 @@
 #include <QApplication>
 #include <QFileDialog>
 #include <QInputDialog>
-#include <QMessageBox>
 #include <QStandardPaths>
 
 #include "shell/frmProgress.h"
 #include "shell/frmStatus.h"
+#include "shell/widgets/MessageBox.h"
 #include "shell/widgets/grid/arrow_pointer.h"
 #include "shell/widgets/line_icon.h"
 #include "shell/widgets/sounds.h"
@@ -19,31 +19,6 @@ namespace {
 
 constexpr int quick = 250;         // milliseconds: a pass that takes less shows no window
 constexpr int between_looks = 40;  // milliseconds between two paintings of a bar
-
-QMessageBox::Icon icon_of(Icon icon) {
-  switch (icon) {
-    case Icon::Information:
-      return QMessageBox::Information;
-    case Icon::Question:
-      return QMessageBox::Question;
-    case Icon::Critical:
-      return QMessageBox::Critical;
-    case Icon::None:
-      break;
-  }
-  return QMessageBox::NoIcon;
-}
-
-int run_box(QWidget* above, const Box& box, QMessageBox::StandardButtons buttons, QMessageBox::StandardButton usual) {
-  const ArrowPointer arrow;
-  QString text = qt(box.text);
-  text.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
-  QMessageBox dialog(icon_of(box.icon), qt(box.title), text, buttons, above);
-  dialog.setTextFormat(Qt::PlainText);
-  dialog.setInformativeText(qt(box.detail));
-  dialog.setDefaultButton(usual);
-  return dialog.exec();
-}
 
 /// "Company Files (*.cmf)|*.cmf" as the toolkit writes it.
 QString filter_of(const std::string& filter) {
@@ -76,16 +51,19 @@ QWidget* DesktopPrompts::above() const {
   return active ? active : frame_.data();
 }
 
-void DesktopPrompts::box(const Box& box) { run_box(above(), box, QMessageBox::Ok, QMessageBox::Ok); }
+using Answer = MessageBox::Answer;
+
+void DesktopPrompts::box(const Box& box) { MessageBox(above(), box, {Answer::Ok}, Answer::Ok, Answer::Ok).ask(); }
 
 bool DesktopPrompts::ask(const Box& box, Buttons buttons) {
-  const auto usual = buttons == Buttons::YesNoDefaultNo ? QMessageBox::No : QMessageBox::Yes;
-  return run_box(above(), box, QMessageBox::Yes | QMessageBox::No, usual) == QMessageBox::Yes;
+  const Answer usual = buttons == Buttons::YesNoDefaultNo ? Answer::No : Answer::Yes;
+  return MessageBox(above(), box, {Answer::Yes, Answer::No}, usual, Answer::No).ask() == Answer::Yes;
 }
 
 std::optional<bool> DesktopPrompts::ask_or_stay(const Box& box) {
-  const int answer = run_box(above(), box, QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, QMessageBox::Yes);
-  return answer == QMessageBox::Cancel ? std::nullopt : std::optional(answer == QMessageBox::Yes);
+  MessageBox asking(above(), box, {Answer::Yes, Answer::No, Answer::Cancel}, Answer::Yes, Answer::Cancel);
+  const Answer answer = asking.ask();
+  return answer == Answer::Cancel ? std::nullopt : std::optional(answer == Answer::Yes);
 }
 
 std::optional<std::string> DesktopPrompts::input(const std::string& title, const std::string& prompt) {

@@ -62,7 +62,7 @@ void SmallListForm::row_goes(int row, bool& cancel) {
   const SmallListRow gone = row_at(row);
   const Box question{"You are about to delete \"" + gone.text + "\". Do you want to go on?", "Confirm Delete",
                      Icon::Question};
-  if (!session.prompts.ask(question, Buttons::YesNo)) return;
+  if (!session.prompts.ask(question, Buttons::YesNoDefaultNo)) return;
   if (gone.key != 0) Delete_From_Small_List(session, list_, gone);
   cancel = false;
   shell.changed(std::string(list_.table));

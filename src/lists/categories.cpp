@@ -81,7 +81,7 @@ bool Opens_Register(std::string_view AccountType) { return Names(double_click_ty
 bool Delete_Category(Session& session, const AccountRow& row) {
   const std::string name = ltrim(row.Name);
   const Box question{"Are you sure you want to delete \"" + name + "\"", "Confirm Delete", Icon::Critical};
-  if (!session.prompts.ask(question, Buttons::YesNo)) return false;
+  if (!session.prompts.ask(question, Buttons::YesNoDefaultNo)) return false;
 
   store::Transaction tx(*session.dbCompany, "Deleted category " + name);
   if (In_Use(session, row.CatID)) {

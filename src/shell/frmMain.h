@@ -122,6 +122,7 @@ class frmMain : public QMainWindow, public Shell, public CompanyCommands {
   void Apply_User_Rights();
   void caption_switch_mode();
   bool Backup();
+  bool may_exit();
   void show_start();
 
   const WindowTable& windows_;

@@ -223,12 +223,19 @@ void frmMain::mnuTaxCheck_Click() {
 
 void frmMain::mnuExit_Click() { close(); }
 
+/// Whether the program may end: with a backup, without one, or not at all. Who asked for a backup and did not get it
+/// is not sent away without one.
+bool frmMain::may_exit() {
+  if (!session.company_open()) return true;
+  const auto wanted = session.prompts.ask_or_stay({"Do you want to Back up your data?", "Back Up", Icon::Question});
+  if (!wanted) return false;
+  bool kept = !*wanted;
+  guard("MDIForm_Unload", [&] { kept = kept || Backup(); });
+  return kept;
+}
+
 void frmMain::closeEvent(QCloseEvent* event) {
-  if (!Hide_All()) return event->ignore();
-  const bool asked =
-      session.company_open() && session.prompts.ask({"Do you want to Back up your data?", "Back Up", Icon::Question});
-  // Who asked for a backup and did not get it is not sent away without one.
-  if (asked && !guard("MDIForm_Unload", [this] { Backup(); })) return event->ignore();
+  if (!Hide_All() || !may_exit()) return event->ignore();
   Timer1->stop();
   if (session.company_open()) Close_Sets(session);
   session.log.close();

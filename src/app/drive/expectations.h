@@ -17,11 +17,12 @@ class Expectations {
 
   struct Expected {
     Kind kind;
-    std::optional<std::string> title;   ///< nothing: any
-    std::optional<std::string> text;    ///< nothing: any
-    std::optional<std::string> answer;  ///< nothing: cancelled, or no answer given
-    QJSValue act;                       ///< what to do in a modal window
-    std::string where = {};             ///< the line that expects it
+    std::optional<std::string> title;        ///< nothing: any
+    std::optional<std::string> text;         ///< nothing: any
+    std::optional<std::string> answer;       ///< nothing: cancelled, or no answer given
+    QJSValue act;                            ///< what to do in a modal window
+    std::optional<std::string> detail = {};  ///< words that the line below a box's text holds; nothing: any
+    std::string where = {};                  ///< the line that expects it
   };
 
   /// "SCRIPT.js:LINE", of the step that runs now.

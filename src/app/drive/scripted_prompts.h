@@ -32,6 +32,9 @@ class ScriptedPrompts : public Prompts {
   const std::vector<std::string>& sounds() const { return sounds_; }
 
  private:
+  std::optional<Expectations::Expected> meet(const Box& box);
+  std::string answer(const Box& box, const std::vector<std::string>& words, const std::string& usual,
+                     const std::string& stay);
   std::string file(const std::string& filter);
 
   Expectations& expectations_;

@@ -140,7 +140,8 @@ QJSValue Close(Toolbox&, const Args& args) {
 // --- what is expected ----------------------------------------------------------------------------
 
 QJSValue Expect_Box(Toolbox& tools, const Args& args) {
-  tools.expectations.add({Kind::Box, args.maybe_text(0), args.maybe_text(1), args.maybe_text(2), {}});
+  tools.expectations.add(
+      {Kind::Box, args.maybe_text(0), args.maybe_text(1), args.maybe_text(2), {}, args.maybe_text(3)});
   return {};
 }
 

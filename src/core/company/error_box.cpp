@@ -6,6 +6,7 @@
 
 #include "core/backup/clsHuffman.h"
 #include "core/store/error.h"
+#include "core/values/control_characters.h"
 
 namespace tallymere {
 namespace {
@@ -22,6 +23,37 @@ int Number_Of(const std::exception& fault) {
   return 5;
 }
 
+/// What a person can make of it: what happened, in plain words, and what to do. The words of most faults are plain
+/// already; those of the engine about its statements are for the log.
+std::string Plain_Words(const std::exception& fault) {
+  if (dynamic_cast<const std::filesystem::filesystem_error*>(&fault)) return fault.what();
+  if (dynamic_cast<const HuffmanError*>(&fault)) return fault.what();
+  const auto* error = dynamic_cast<const store::Error*>(&fault);
+  switch (error ? error->number : 0) {
+    case store::errors::locked:
+      return "Somebody else is saving just now; please try again in a moment.";
+    case store::errors::data_changed:
+      return "Another user changed this meanwhile; please look at it again first.";
+    case store::errors::read_only:
+      return "The company's file may only be read here.";
+    case store::errors::disk_full:
+      return error->description() + " Please make room and try again.";
+    case store::errors::file_not_found:
+    case store::errors::wrong_password:
+    case store::errors::disk_or_network:
+    case store::errors::bad_path:
+    case store::errors::file_damaged:
+    case store::errors::cannot_open:
+    case store::errors::database_exists:
+    case store::errors::not_a_database:
+    case store::errors::newer_file:
+    case store::errors::undo_refused:
+      return error->description();
+    default:
+      return "What happened stands in ErrorLog.txt.";
+  }
+}
+
 }  // namespace
 
 void Error_Box(Session& session, const std::string& object, const std::string& procedure, const std::exception& fault) {
@@ -29,7 +61,7 @@ void Error_Box(Session& session, const std::string& object, const std::string& p
   session.prompts.box(
       {"An Error Occured. Contact Quillbrook Software Inc.\r\nCall 555-010-2000 Locally or 1-800-555-0100 "
        "Nationwide",
-       "Error", Icon::Critical});
+       "Error", Icon::Critical, in_one_plain_line(Plain_Words(fault))});
 }
 
 }  // namespace tallymere

@@ -353,7 +353,9 @@ void Delete_And_Free_Bills(Session& session, const Check& check) {
 }  // namespace
 
 DeleteResult Delete_Check(Session& session, const Check& check) {
-  if (!Confirm_Delete(session.prompts, "Are you sure you want to delete this Check?", check.Cleared)) return {};
+  const std::string spoken =
+      Spoken(check.is_new() ? "the new Check" : check.Type, check.Number, check.Name, check.Amount);
+  if (!Confirm_Delete(session.prompts, "Are you sure you want to delete this Check?", check.Cleared, spoken)) return {};
   auto previous = Load_Check(session, check.TransNum, false).check;
   auto conflict = Save_Or_Conflict([&] {
     // The number of a check that was never saved may be another user's by now.

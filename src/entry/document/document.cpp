@@ -1,6 +1,7 @@
 #include "entry/document/document.h"
 
 #include "core/store/recordset.h"
+#include "core/values/format.h"
 #include "core/values/text.h"
 
 namespace tallymere {
@@ -40,12 +41,22 @@ std::optional<Fault> Balance_Fault(Money lines, Money amount, std::string contro
   return Mistake("Transaction does not Balance", "No Balance", std::move(control));
 }
 
-bool Confirm_Delete(Prompts& prompts, const std::string& question, bool cleared, Buttons buttons) {
-  if (!prompts.ask({question, "Confirm Delete", Icon::Question}, buttons)) return false;
+std::string Spoken(const std::string& Type, const std::string& Number, const std::string& Name,
+                   std::optional<Money> amount) {
+  std::string words = Type;
+  if (!Number.empty() && Number != "Print") words += " " + Number;
+  if (!Name.empty()) words += (lower(Type).ends_with("check") ? " to " : ", ") + Name;
+  if (amount) words += " for " + Dollar_Text(*amount);
+  return words;
+}
+
+bool Confirm_Delete(Prompts& prompts, const std::string& question, bool cleared, const std::string& spoken) {
+  const std::string what = "Delete " + spoken + "?";
+  if (!prompts.ask({question, "Confirm Delete", Icon::Question, what}, Buttons::YesNoDefaultNo)) return false;
   return !cleared || prompts.ask({"This Transaction has been cleared by your bank, are you sure you want to "
                                   "delete this transaction?",
-                                  "Transaction Cleared", Icon::Critical},
-                                 Buttons::YesNo);
+                                  "Transaction Cleared", Icon::Critical, what},
+                                 Buttons::YesNoDefaultNo);
 }
 
 // --- the walk --------------------------------------------------------------------------------------------

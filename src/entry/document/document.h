@@ -96,8 +96,12 @@ struct Step {
 /// ledger, back goes to the last and forward stays.
 Step Walk_From(Session& session, const Walk& walk, int64_t TransNum, bool forward);
 
-/// Asks whether to delete, and asks again about what the bank has cleared.
-bool Confirm_Delete(Prompts& prompts, const std::string& question, bool cleared, Buttons buttons = Buttons::YesNo);
+/// A transaction as one speaks of it: "Check 1042 to Acme Supply for $145.50".
+std::string Spoken(const std::string& Type, const std::string& Number, const std::string& Name,
+                   std::optional<Money> amount);
+
+/// Asks whether to delete what is `spoken` of, and asks again about what the bank has cleared. Enter keeps it.
+bool Confirm_Delete(Prompts& prompts, const std::string& question, bool cleared, const std::string& spoken);
 
 /// The window that enters transactions of this type; "" when there is none to go to.
 std::string_view Entry_Window(std::string_view Type);

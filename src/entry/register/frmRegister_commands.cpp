@@ -43,7 +43,9 @@ bool frmRegister::close_and_record() { return close_break_down() && record_line(
 
 bool frmRegister::let_go() {
   if (!changed_) return true;
-  if (session.prompts.ask(Save_Changes_Question())) return close_and_record();
+  const std::optional<bool> wanted = session.prompts.ask_or_stay(Save_Changes_Question());
+  if (!wanted) return false;
+  if (*wanted) return close_and_record();
   drop_changes();
   return true;
 }

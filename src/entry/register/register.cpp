@@ -157,10 +157,10 @@ GoTo Go_To(Session& session, int64_t TransNum) {
 
 RegisterDeletion Delete_From_Register(Session& session, const RegisterLine& line) {
   if (line.TransNum == 0) return {};
-  if (!Confirm_Delete(session.prompts, "Are you sure you want to delete this Item?", line.Cleared,
-                      Buttons::YesNoDefaultNo))
-    return {};
-  if (Go_To(session, line.TransNum).Type == "Payment") {
+  const std::string Type = Go_To(session, line.TransNum).Type;
+  const std::string spoken = Spoken(Type, line.Number, line.Name, line.Credit ? line.Credit : line.Debit);
+  if (!Confirm_Delete(session.prompts, "Are you sure you want to delete this Item?", line.Cleared, spoken)) return {};
+  if (Type == "Payment") {
     session.prompts.box({"Payments can only be deleted from the payment screen.", "No Delete", Icon::Critical});
     return {};
   }

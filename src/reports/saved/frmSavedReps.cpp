@@ -91,7 +91,7 @@ void frmSavedReps::mnuDelSavRep_Click() {
   const auto report = selected("Please Select a Report to delete");
   if (!report) return;
   const std::string question = "Are you sure you want to delete \"" + report->ReportName + "\"";
-  if (!session.prompts.ask({question, "Confirm Delete", Icon::Critical})) return;
+  if (!session.prompts.ask({question, "Confirm Delete", Icon::Critical}, Buttons::YesNoDefaultNo)) return;
   Delete_Saved_Report(session, *report);
   shell.changed("SavedReports");
 }

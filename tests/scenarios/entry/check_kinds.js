@@ -78,7 +78,8 @@ ok(!again.DTPicker1.enabled && again.txtNumber.enabled, "only its number");
 shot("frmCheck");
 
 // Deleting a bill payment frees the bill that it alone paid.
-box("Confirm Delete", "Are you sure you want to delete this Check?", "No");
+box("Confirm Delete", "Are you sure you want to delete this Check?", "Enter",  // keeps it
+    "Delete Billcheck ");
 click(again.cmdDelete);
 equal(ledger(1).length, 2);
 other("UPDATE Transactions SET Cleared = -1 WHERE TransNum = 1");

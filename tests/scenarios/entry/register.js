@@ -147,7 +147,7 @@ box("Transaction Cleared", null, "Yes");
 popup("mnuDelReg");
 equal([ledger(2).length, next.rows, w.lblTotal.value], [0, 4, "($102.33)"]);
 rightclick(next, 0);
-box("Confirm Delete", null, "No");
+box("Confirm Delete", null, "Enter", "Delete ");  // which is kept, and named
 popup("mnuDelReg");
 equal(next.rows, 4);
 shot("frmRegister");
@@ -157,6 +157,9 @@ next.set(4, "Memo", "half a line");
 rightclick(next, 4);
 popup("mnuDelReg");  // not in the ledger yet: nothing to take out
 equal(next.text(4, "Memo"), "half a line");
+box("Save Changes", null, "Cancel");
+close(w);
+equal([isOpen("frmRegister"), next.text(4, "Memo")], [true, "half a line"], "gone on with");
 box("Save Changes", null, "No");
 close(w);
 ok(!isOpen("frmRegister"));

@@ -27,8 +27,9 @@ tool("btnHelp");
 
 // Closing the frame asks like the command does.
 box("Back Up", "Do you want to Back up your data?", "Yes");
-file("Backup Files (*.cbk)|*.cbk", null);
+file("Backup Files (*.cbk)|*.cbk", "last");
+box("Backup", "Backup Successful.");
 tool("btnExit");
-ok(!isOpen("frmMain"));
+ok(!isOpen("frmMain") && exists("last.cbk"));
 equal(log(), []);
 equal(rows("SELECT Name FROM CompanyInfo"), [{Name: "Acme"}]);

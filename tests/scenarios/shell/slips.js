@@ -34,9 +34,20 @@ openCompany("Birch & Sons");
 // Who asked for a backup on the way out and did not get it is not sent away without one.
 box("Back Up", "Do you want to Back up your data?", "Yes");
 file(backups, "no such folder/x.cbk");
-box("Error", null);
+box("Error", null, null, "no such folder");  // which file
 menu("mnuExit");
 ok(isOpen("frmMain"));
+
+// So it is with one who turns back at the question, and one who asked for a backup and gave it no name.
+for (const answer of ["Cancel", "Esc"]) {
+  box("Back Up", null, answer);
+  tool("btnExit");
+  ok(isOpen("frmMain") && win("frmMain").mnuAction.enabled, answer);
+}
+box("Back Up", null, "Enter");
+file(backups, null);
+close(win("frmMain"));
+ok(isOpen("frmMain") && win("frmMain").mnuAction.enabled);
 box("Back Up", "Do you want to Back up your data?", "No");
 tool("btnExit");
 ok(!isOpen("frmMain"));
