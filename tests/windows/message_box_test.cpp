@@ -55,7 +55,7 @@ TEST(MessageBox, LettersWithAltChooseAndTheColourFollowsTheFocus) {
   EXPECT_EQ(choose([](MessageBox& box) { press(box, Qt::Key_Y, Qt::AltModifier); }), Answer::Yes);
   EXPECT_EQ(choose([](MessageBox& box) { press(box, Qt::Key_N, Qt::AltModifier); }), Answer::No);
   EXPECT_EQ(choose([](MessageBox& box) {
-      press(box, Qt::Key_Y);  // a letter typed ahead answers nothing
+              press(box, Qt::Key_Y);  // a letter typed ahead answers nothing
               press(box, Qt::Key_Backtab, Qt::ShiftModifier);
               EXPECT_TRUE(box.findChild<QPushButton*>("cmdNo")->isDefault());
               EXPECT_FALSE(box.findChild<QPushButton*>("cmdCancel")->isDefault());

@@ -36,7 +36,10 @@ char32_t folded(char32_t letter) {
 
 char32_t Letters::next_long() {
   const auto byte = static_cast<unsigned char>(text_[at_]);
-  const int more = byte >= 0xf0 && byte < 0xf5 ? 3 : byte >= 0xe0 && byte < 0xf0 ? 2 : byte >= 0xc2 && byte < 0xe0 ? 1 : 0;
+  const int more = byte >= 0xf0 && byte < 0xf5   ? 3
+                   : byte >= 0xe0 && byte < 0xf0 ? 2
+                   : byte >= 0xc2 && byte < 0xe0 ? 1
+                                                 : 0;
   constexpr std::array<char32_t, 4> least = {0, 0x80, 0x800, 0x10000};
   char32_t letter = byte & (0x3f >> more);
   int read = 0;

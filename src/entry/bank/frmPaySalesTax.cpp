@@ -43,10 +43,11 @@ void frmPaySalesTax::build() {
   dteQtrDate = named("dteQtrDate", new QuillbrookDatePick);
   SSDBGrid1 = named("SSDBGrid1", new SSDBGrid);
   SSDBGrid1->setAccessibleName(QStringLiteral("Sales taxes"));
-  SSDBGrid1->set_columns({{.name = QStringLiteral("Select"), .kind = Kind::check, .width = 8},
-                          {.name = QStringLiteral("Item"), .locked = true},
-                          {.name = QStringLiteral("Vendor"), .locked = true},
-                          {.name = QStringLiteral("Amount"), .kind = Kind::money, .width = 14, .locked = true, .mask = "#,##0.00"}});
+  SSDBGrid1->set_columns(
+      {{.name = QStringLiteral("Select"), .kind = Kind::check, .width = 8},
+       {.name = QStringLiteral("Item"), .locked = true},
+       {.name = QStringLiteral("Vendor"), .locked = true},
+       {.name = QStringLiteral("Amount"), .kind = Kind::money, .width = 14, .locked = true, .mask = "#,##0.00"}});
   SSDBGrid1->set_read_only(false);
   SSDBGrid1->set_empty_hint(QStringLiteral("No item is a sales tax."));
   cmdOk = named("cmdOk", new QPushButton(QStringLiteral("C&reate")));
@@ -102,7 +103,8 @@ void frmPaySalesTax::show_payment() {
   cmdOk->setText(is_edit() ? QStringLiteral("&Save") : QStringLiteral("C&reate"));
   const SSDBGrid::Fill fill(*SSDBGrid1);
   SSDBGrid1->RemoveAll();
-  for (const SalesTaxLine& line : payment_.lines) SSDBGrid1->AddValues({line.Select, line.Item, line.Vendor, line.Amount});
+  for (const SalesTaxLine& line : payment_.lines)
+    SSDBGrid1->AddValues({line.Select, line.Item, line.Vendor, line.Amount});
 }
 
 void frmPaySalesTax::show_balance() {
@@ -116,7 +118,8 @@ void frmPaySalesTax::Load_List() {
   const auto before = std::move(now.lines);
   now.lines = Sales_Tax_Owed(session, now.PaidThrough);
   for (SalesTaxLine& line : now.lines)
-    line.Select = std::ranges::any_of(before, [&](const SalesTaxLine& old) { return old.Select && old.Item == line.Item; });
+    line.Select =
+        std::ranges::any_of(before, [&](const SalesTaxLine& old) { return old.Select && old.Item == line.Item; });
   payment_ = std::move(now);
   show_payment();
 }

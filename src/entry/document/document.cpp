@@ -45,7 +45,7 @@ std::string Spoken(const std::string& Type, const std::string& Number, const std
                    std::optional<Money> amount) {
   std::string words = Type;
   if (!Number.empty() && Number != "Print") words += " " + Number;
-  if (!Name.empty()) words += (lower(Type).ends_with("check") ? " to " : ", ") + Name;
+  if (!Name.empty()) words += (Type.ends_with("heck") ? " to " : ", ") + Name;
   if (amount) words += " for " + Dollar_Text(*amount);
   return words;
 }

@@ -14,9 +14,11 @@ using testing::Rows_Of;
 struct SalesTax : ::testing::Test {
   SalesTax() {
     store::Transaction tx(company.db(), "two taxes of one agency, one of another");
-    for (const auto& [item, vendor] : {std::pair{"State", "Revenue Dept"}, {"City", "revenue dept"}, {"County", "County Clerk"}})
-      company.db().Execute("INSERT INTO Items (ItemName, ItemType, ItemCat, TaxVendor) VALUES (?, 'Sales Tax', '21SS', ?)",
-                           {std::string(item), std::string(vendor)});
+    for (const auto& [item, vendor] :
+         {std::pair{"State", "Revenue Dept"}, {"City", "revenue dept"}, {"County", "County Clerk"}})
+      company.db().Execute(
+          "INSERT INTO Items (ItemName, ItemType, ItemCat, TaxVendor) VALUES (?, 'Sales Tax', '21SS', ?)",
+          {std::string(item), std::string(vendor)});
     company.db().Execute("UPDATE GeneralPrefs SET State = 'Accural' WHERE Preference = 'SalesBase'");
     tx.commit();
   }
@@ -29,7 +31,8 @@ struct SalesTax : ::testing::Test {
   }
   std::string owed(Date as_of) {
     std::string text;
-    for (const SalesTaxLine& line : Sales_Tax_Owed(*company.session, as_of)) text += line.Item + "=" + line.Amount.to_text() + " ";
+    for (const SalesTaxLine& line : Sales_Tax_Owed(*company.session, as_of))
+      text += line.Item + "=" + line.Amount.to_text() + " ";
     return text;
   }
   SalesTaxPayment selected(std::initializer_list<const char*> items) {
