@@ -1,6 +1,7 @@
 #include "app/windows.h"
 
 #include "entry/bank/frmPaySalesTax.h"
+#include "entry/bank/frmReconcile.h"
 #include "entry/checks/frmCheck.h"
 #include "entry/find/frmFind.h"
 #include "entry/register/frmRegister.h"
@@ -40,6 +41,7 @@ const WindowTable& Windows() {
       {"frmSavedReps", Make_Window<frmSavedReps>},
       {"frmPrintListCat", Make_Report<"frmPrintListCat">},
       {"frmPaySalesTax", Make_Window<frmPaySalesTax>},
+      {"frmReconcile", Make_Window<frmReconcile>},
       {"frmUsers", Make_Window<frmUsers>},
       {"frmModUser", Make_Window<frmModUser>},
       {"frmInfo", Make_Window<frmInfo>},
