@@ -10,6 +10,7 @@
 #include "lists/frmModAccount.h"
 #include "lists/frmNewPayee.h"
 #include "lists/frmOtherNames.h"
+#include "payroll/frmTimeSheet.h"
 #include "reports/profit/frmPrintPL2.h"
 #include "reports/saved/frmSavedReps.h"
 #include "reports/transactions/frmPrintCustom.h"
@@ -42,6 +43,7 @@ const WindowTable& Windows() {
       {"frmPrintListCat", Make_Report<"frmPrintListCat">},
       {"frmPaySalesTax", Make_Window<frmPaySalesTax>},
       {"frmReconcile", Make_Window<frmReconcile>},
+      {"frmTimeSheet", Make_Window<frmTimeSheet>},
       {"frmUsers", Make_Window<frmUsers>},
       {"frmModUser", Make_Window<frmModUser>},
       {"frmInfo", Make_Window<frmInfo>},

@@ -21,13 +21,6 @@ std::span<const TableDef> Tables_Of(FileKind kind) {
   return kind == FileKind::Shared ? accounts_tables() : company_tables();
 }
 
-store::TableDef Definition(const TableDef& table) {
-  store::TableDef definition{std::string(table.name), {}, {}};
-  for (const FieldDef& field : table.fields) definition.CreateField(std::string(field.name), field.type);
-  for (const IndexDef& index : table.indexes) definition.CreateIndex(std::string(index.name), std::string(index.field));
-  return definition;
-}
-
 void Create_Stored_Queries(Database& db) {
   auto there = db.QueryDefs();
   for (const StoredQuery& query : stored_queries()) {
@@ -91,6 +84,13 @@ void Build_Or_Upgrade(const fs::path& path, FileKind kind, const fs::path& rows)
 }
 
 }  // namespace
+
+store::TableDef Definition(const TableDef& table, std::string_view name) {
+  store::TableDef definition{std::string(name.empty() ? table.name : name), {}, {}};
+  for (const FieldDef& field : table.fields) definition.CreateField(std::string(field.name), field.type);
+  for (const IndexDef& index : table.indexes) definition.CreateIndex(std::string(index.name), std::string(index.field));
+  return definition;
+}
 
 void Prepare_Folder(const fs::path& folder, const fs::path& data) {
   fs::create_directories(folder);

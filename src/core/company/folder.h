@@ -13,6 +13,9 @@ namespace tallymere {
 inline constexpr std::string_view connect_text = "MS Access;pwd=xar72kt;";
 inline constexpr std::string_view database_password = "xar72kt";
 
+/// A table as the schema describes it; one that is made on demand under the name it gets ("Time20260104").
+store::TableDef Definition(const TableDef& table, std::string_view name = {});
+
 /// First start: builds Model.mdb and Accounts.mdb from the rows in `data` (model/*.tsv, accounts/*.tsv) where they are
 /// missing; brings older ones up to date. A file appears whole or not at all.
 void Prepare_Folder(const std::filesystem::path& folder, const std::filesystem::path& data);

@@ -21,7 +21,7 @@ struct PartCost {
   Money Amount;
   double Qty = 0;
 
-  Money average() const;         ///< of one piece, to the ten-thousandth; 0 when no quantity came in
+  Money average() const;          ///< of one piece, to the ten-thousandth; 0 when no quantity came in
   Money value(double qty) const;  ///< of so many pieces, rounded once
 };
 /// By ItemName of every "Inventory Part" that has such rows. What an adjustment or a returned line took out lowers

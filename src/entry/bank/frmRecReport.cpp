@@ -55,10 +55,12 @@ void frmRecReport::build() {
 
 void frmRecReport::cmdOk_AfterClick() {
   const Date closing = dteCloseDate->value();
-  const ReportTable table = optType->checkedId() == Summary ? Reconcile_Summary(reconciled_, closing) : Reconcile_Full(reconciled_, closing);
+  const ReportTable table =
+      optType->checkedId() == Summary ? Reconcile_Summary(reconciled_, closing) : Reconcile_Full(reconciled_, closing);
   do {
-    frmPreview preview(shell, qt(table.heading.title),
-                       [&](const QPageLayout& page) { return std::make_unique<Report_Pages>(table, page); }, Page_For(table));
+    frmPreview preview(
+        shell, qt(table.heading.title),
+        [&](const QPageLayout& page) { return std::make_unique<Report_Pages>(table, page); }, Page_For(table));
     shell.Run_Modal(preview);
   } while (session.prompts.ask({"Print Report Again?", "Print", Icon::Question}));
   finish(true);

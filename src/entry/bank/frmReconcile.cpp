@@ -24,7 +24,9 @@ enum { Cleared, Number, Date, Payee, Amount, TransNum };
 
 GridRow cells_of(const ReconcileLine& line) {
   const std::string date = line.Date ? line.Date->to_text() : "";
-  return {join({line.Cleared ? "-1" : "0", line.Number, date, line.Name, line.Amount.to_text(), std::to_string(line.TransNum)}, "\t"),
+  return {join({line.Cleared ? "-1" : "0", line.Number, date, line.Name, line.Amount.to_text(),
+                std::to_string(line.TransNum)},
+               "\t"),
           {}};
 }
 
@@ -119,7 +121,11 @@ SSDBGrid* frmReconcile::build_list(const char* name, const char* caption, Side s
                      {.name = QStringLiteral("Check #"), .width = 9, .locked = true},
                      {.name = QStringLiteral("Date"), .kind = Kind::date, .width = 11, .locked = true},
                      {.name = QStringLiteral("Payee"), .locked = true},
-                     {.name = QStringLiteral("Amount"), .kind = Kind::money, .width = 13, .locked = true, .mask = std::string(money_mask)},
+                     {.name = QStringLiteral("Amount"),
+                      .kind = Kind::money,
+                      .width = 13,
+                      .locked = true,
+                      .mask = std::string(money_mask)},
                      {.name = QStringLiteral("TransNum"), .kind = Kind::hidden}});
   grid->set_read_only(false);
   on(grid, &SSDBGrid::AfterColUpdate, (std::string(name) + "_Click").c_str(),
@@ -165,7 +171,8 @@ void frmReconcile::Load_Lists() {
 void frmReconcile::show_list(SSDBGrid& grid, Side side) {
   const int row = grid.Row();
   const int count = static_cast<int>(reconciliation_->lines(side).size());
-  grid.set_rows(count, [this, side](int at) { return cells_of(reconciliation_->lines(side)[static_cast<size_t>(at)]); });
+  grid.set_rows(count,
+                [this, side](int at) { return cells_of(reconciliation_->lines(side)[static_cast<size_t>(at)]); });
   if (row >= 0 && row < count) grid.set_Row(row);
 }
 
@@ -210,8 +217,9 @@ void frmReconcile::cmdRefreshValues_AfterClick() {
 void frmReconcile::cmdGoTo_AfterClick() {
   const int row = highlighted_ ? highlighted_->Row() : -1;
   if (row < 0 || row >= highlighted_->rows())
-    return session.prompts.box({"Use the Mouse and Right Click on a transaction to highlight it and then click 'Go To Transaction'",
-                                "No Selection"});
+    return session.prompts.box(
+        {"Use the Mouse and Right Click on a transaction to highlight it and then click 'Go To Transaction'",
+         "No Selection"});
   const Side side = highlighted_ == grdDeposits ? Side::Deposits : Side::Payments;
   const ReconcileLine line = reconciliation_->lines(side)[static_cast<size_t>(row)];
   reconciliation_->mark(side, static_cast<size_t>(row), false);

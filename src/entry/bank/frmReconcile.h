@@ -43,7 +43,8 @@ class frmReconcile : public Form {
   std::unique_ptr<Reconciliation> reconciliation_;
   SSDBGrid* highlighted_ = nullptr;  ///< the list in which a line was highlighted last
   MoneyEdit *txtOpen, *txtEnd;
-  QLabel *lblEndBalance, *lblClearedBalance, *lblDifference, *lblDepositCount, *lblDepositTotal, *lblPaymenyCount, *lblPayTotal;
+  QLabel *lblEndBalance, *lblClearedBalance, *lblDifference, *lblDepositCount, *lblDepositTotal, *lblPaymenyCount,
+      *lblPayTotal;
   SSDBGrid *grdDeposits, *grdPayments;
   QPushButton *cmdBalance, *cmdMark, *cmdUnMark, *cmdRefreshValues, *cmdGoTo, *cmdCancel;
 };

@@ -31,7 +31,8 @@ std::vector<ReconcileLine> Reconciliation::read(Side side) const {
   session_.dbCompany->each(
       std::string("SELECT Type, Number, Date, Name, Memo, Amount, TransNum, RowKey FROM Transactions"
                   " WHERE Account = ? AND Cleared = 0 AND ") +
-          (deposits ? "COALESCE(Credit, 0) = 0 ORDER BY Date, RowKey" : "COALESCE(Debit, 0) = 0 ORDER BY Number, Date, RowKey"),
+          (deposits ? "COALESCE(Credit, 0) = 0 ORDER BY Date, RowKey"
+                    : "COALESCE(Debit, 0) = 0 ORDER BY Number, Date, RowKey"),
       {CatID_}, [&](const store::Row& row) {
         lines.push_back({.Type = std::string(row.text(0)),
                          .Number = std::string(row.text(1)),

@@ -21,7 +21,9 @@ LineSum Sum_Of(const Reconciled& reconciled, Side side, State state, Date closin
 }
 
 ReportHeading Heading(const Reconciled& reconciled, const char* title, Date closing) {
-  return {.title = reconciled.bank + " - " + title, .company = reconciled.company, .period = "As of " + Format(closing, long_date_mask)};
+  return {.title = reconciled.bank + " - " + title,
+          .company = reconciled.company,
+          .period = "As of " + Format(closing, long_date_mask)};
 }
 
 struct Section {
@@ -35,7 +37,8 @@ struct Half {
   Side side;
   const char* title;
 };
-constexpr Half halves[] = {{Side::Deposits, "Deposits and Other Credits"}, {Side::Payments, "Checks and Other Payments"}};
+constexpr Half halves[] = {{Side::Deposits, "Deposits and Other Credits"},
+                           {Side::Payments, "Checks and Other Payments"}};
 
 }  // namespace
 
@@ -63,7 +66,8 @@ ReportTable Reconcile_Summary(const Reconciled& reconciled, Date closing) {
       const LineSum sum = Sum_Of(reconciled, side, state, closing);
       table.add_row().skip().text(label).value(int64_t{sum.count}).money(sum.total);
     }
-    return Sum_Of(reconciled, Side::Deposits, state, closing).total - Sum_Of(reconciled, Side::Payments, state, closing).total;
+    return Sum_Of(reconciled, Side::Deposits, state, closing).total -
+           Sum_Of(reconciled, Side::Payments, state, closing).total;
   };
   balance("Opening Balance", reconciled.opening);
   moved(State::Cleared, "Cleared Deposits", "Cleared Payments");

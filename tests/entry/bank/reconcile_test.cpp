@@ -45,9 +45,8 @@ TEST_F(Reconciling, OnlyTheBanksOwnRowsAreStamped) {
   now.set_ending(Dollars(345));
   EXPECT_TRUE(now.Balance().ok());
   EXPECT_EQ(cleared_rows(), 4);
-  EXPECT_FALSE(company.db()
-                   .value("SELECT Cleared FROM Transactions WHERE TransNum = ? AND Account = '1SS'", {transfer})
-                   .flag())
+  EXPECT_FALSE(
+      company.db().value("SELECT Cleared FROM Transactions WHERE TransNum = ? AND Account = '1SS'", {transfer}).flag())
       << "the other bank has not seen it yet";
   const Reconciliation next(*company.session, "0SS");
   EXPECT_EQ(next.opening(), Dollars(345));
@@ -99,18 +98,21 @@ TEST_F(Reconciling, TheReportTellsOpenFromNewByTheClosingDate) {
   const ReportTable summary = Reconcile_Summary(record, Date(2026, 5, 31));
   std::string text;
   for (int row = 0; row < summary.rows(); ++row)
-    if (!summary.is_spacer(row)) text += summary.text(row, 1) + " " + summary.text(row, 2) + " " + summary.text(row, 3) + "\n";
-  EXPECT_EQ(text,
-            "Opening Balance  0\nCleared Deposits 1 500\nCleared Payments 1 25\nCleared Balance  475\n"
-            "Ending Statement Balance  475\nUncleared Deposits 0 0\nUncleared Payments 2 130\n"
-            "Register Balance at Closing  345\nNew Deposits 0 0\nNew Payments 1 7\nRegister Balance after Closing  338\n");
+    if (!summary.is_spacer(row))
+      text += summary.text(row, 1) + " " + summary.text(row, 2) + " " + summary.text(row, 3) + "\n";
+  EXPECT_EQ(
+      text,
+      "Opening Balance  0\nCleared Deposits 1 500\nCleared Payments 1 25\nCleared Balance  475\n"
+      "Ending Statement Balance  475\nUncleared Deposits 0 0\nUncleared Payments 2 130\n"
+      "Register Balance at Closing  345\nNew Deposits 0 0\nNew Payments 1 7\nRegister Balance after Closing  338\n");
   const ReportTable full = Reconcile_Full(record, Date(2026, 5, 31));
   std::string heads;
   for (int row = 0; row < full.rows(); ++row)
     if (full.is_head(row)) heads += full.text(row, 1) + "|";
-  EXPECT_EQ(heads,
-            "Cleared Transactions|     Deposits and Other Credits|     Checks and Other Payments|Uncleared Transactions|"
-            "     Checks and Other Payments|New Transactions|     Checks and Other Payments|");
+  EXPECT_EQ(
+      heads,
+      "Cleared Transactions|     Deposits and Other Credits|     Checks and Other Payments|Uncleared Transactions|"
+      "     Checks and Other Payments|New Transactions|     Checks and Other Payments|");
 }
 
 }  // namespace
