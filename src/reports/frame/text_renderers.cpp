@@ -91,7 +91,16 @@ class Aligned {
   std::vector<size_t> widths_;
 };
 
-std::string Csv_Field(const std::string& text) {
+/// A spreadsheet would compute what begins so; behind an apostrophe it stays the text it is.
+std::string As_Text(const std::string& text) {
+  const std::string start = trim(text);
+  const bool is_formula = !start.empty() && contains("=+-@", start.substr(0, 1));
+  const bool is_percent = is_formula && start.back() == '%' && is_numeric(start.substr(0, start.size() - 1));
+  return is_formula && !is_percent && !is_numeric(start) ? "'" + text : text;
+}
+
+std::string Csv_Field(const std::string& cell) {
+  const std::string text = As_Text(cell);
   if (text.find_first_of(",\"\r\n") == std::string::npos) return text;
   return "\"" + replace_all(text, "\"", "\"\"") + "\"";
 }
@@ -123,7 +132,7 @@ std::string Tab_Separated(const ReportTable& table, const std::vector<int>& rows
   auto add_line = [&](auto&& text_at) {
     for (size_t at = 0; at < shown.size(); ++at) {
       if (at > 0) text += '\t';
-      text += On_One_Line(text_at(shown[at]));
+      text += As_Text(On_One_Line(text_at(shown[at])));
     }
     text += "\r\n";
   };

@@ -70,6 +70,16 @@ TEST(Renderers, CsvQuotesAndKeepsPlainValues) {
             ",,,\r\n");
 }
 
+TEST(Renderers, WhatASpreadsheetWouldComputeStaysText) {
+  ReportTable table;
+  table.columns = {{.caption = "Name"}};
+  for (auto text : {"=1+1", "  +A1", "@SUM(A1)", "-x\"", "+1 (555) 010-2000", "-12.50", "-3.5%", "a=b"})
+    table.add_row().text(text);
+  EXPECT_EQ(Written(table, Write_Csv),
+            "Name\r\n'=1+1\r\n'  +A1\r\n'@SUM(A1)\r\n\"'-x\"\"\"\r\n'+1 (555) 010-2000\r\n-12.50\r\n-3.5%\r\na=b\r\n");
+  EXPECT_EQ(Tab_Separated(table, {0, 5}), "'=1+1\r\n-12.50\r\n");
+}
+
 TEST(Renderers, TheClipboardTakesAllOrTheChosenRows) {
   EXPECT_EQ(Tab_Separated(Motley(), {1, 2}), "a\\tb<&>\t3/5/2026\t2.5\t-1.2345\r\n\t\t4\t1000\r\n");
   EXPECT_TRUE(
