@@ -10,6 +10,7 @@
 #include "core/backup/whole_file.h"
 #include "core/company/company.h"
 #include "core/company/folder.h"
+#include "core/store/shape.h"
 #include "core/values/control_characters.h"
 
 namespace tallymere {
@@ -24,6 +25,7 @@ using store::FileKind;
 /// Before anything in the copy is believed.
 std::optional<std::string> Prove_Seal(const fs::path& file) {
   Connection copy(file, Connection::Mode::ReadWrite);
+  store::Refuse_What_Acts(copy);
   return Break_Seal(copy);
 }
 

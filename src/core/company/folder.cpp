@@ -1,6 +1,7 @@
 #include "core/company/folder.h"
 
 #include "core/backup/whole_file.h"
+#include "core/company/shape.h"
 #include "core/store/recordset.h"
 #include "core/values/tsv.h"
 
@@ -101,7 +102,11 @@ void Prepare_Folder(const fs::path& folder, const fs::path& data) {
 std::unique_ptr<Database> Open_Current(const fs::path& path, FileKind kind, const store::Author& author) {
   auto db = Database::OpenDatabase(path, kind, connect_text, schema_version);
   db->set_author(author);
-  if (db->version() < schema_version) Upgrade(*db, kind, upgrade_steps, schema_version);
+  if (db->version() < schema_version) {
+    Check_Shape(*db, kind, true);
+    Upgrade(*db, kind, upgrade_steps, schema_version);
+  }
+  Check_Shape(*db, kind, false);
   return db;
 }
 

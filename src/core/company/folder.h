@@ -20,7 +20,7 @@ store::TableDef Definition(const TableDef& table, std::string_view name = {});
 /// missing; brings older ones up to date. A file appears whole or not at all.
 void Prepare_Folder(const std::filesystem::path& folder, const std::filesystem::path& data);
 
-/// Opens a file of this program and brings an older one up to date, in one transaction of this author.
+/// Opens a file of this program, looks at its shape and brings an older one up to date, in one transaction of this author.
 std::unique_ptr<store::Database> Open_Current(const std::filesystem::path& path, store::FileKind kind,
                                               const store::Author& author = {});
 

@@ -29,8 +29,9 @@ CategoryTree CategoryTree::Load(store::Database& db) {
       {}, [&](const store::Row& row) { tree.categories_.push_back(Read_Category(row)); });
   for (size_t at = 0; at < tree.categories_.size(); ++at) {
     const Category& category = tree.categories_[at];
-    tree.by_id_.try_emplace(category.CatID, at);
-    if (!category.ParentAccount.empty()) tree.children_[category.ParentAccount].push_back(at);
+    const bool is_first =
+        tree.by_id_.try_emplace(category.CatID, at).second;  // a second of its id would multiply all below
+    if (is_first && !category.ParentAccount.empty()) tree.children_[category.ParentAccount].push_back(at);
   }
   return tree;
 }
@@ -58,16 +59,20 @@ std::vector<const Category*> CategoryTree::children(std::string_view CatID) cons
 
 std::vector<const Category*> CategoryTree::descendants(std::string_view CatID) const {
   std::vector<const Category*> found;
-  // A category that was made its own ancestor must not send this round in circles.
+  // However deep, and a category that was made its own ancestor must not send this round in circles.
   CaselessMap<bool> seen{{std::string(CatID), true}};
-  auto descend = [&](auto& self, std::string_view parent) -> void {
-    for (const Category* child : children(parent)) {
-      if (!seen.try_emplace(child->CatID, true).second) continue;
-      found.push_back(child);
-      self(self, child->CatID);
-    }
+  std::vector<const Category*> open;
+  const auto open_below = [&](std::string_view parent) {
+    const auto below = children(parent);
+    open.insert(open.end(), below.rbegin(), below.rend());
   };
-  descend(descend, CatID);
+  for (open_below(CatID); !open.empty();) {
+    const Category* next = open.back();
+    open.pop_back();
+    if (!seen.try_emplace(next->CatID, true).second) continue;
+    found.push_back(next);
+    open_below(next->CatID);
+  }
   return found;
 }
 

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <map>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -20,7 +21,7 @@ inline std::string Indented(const std::string& name, int level) {
 
 /// Arranges the rows of one reading as lists show them: each top row followed by what stands below it,
 /// children in the order of `rows`. `Row` has key(), parent() and a `level`, which is set here. A row whose
-/// parent is missing does not show.
+/// parent is missing does not show; none shows twice, however rows name each other.
 template <typename Row>
 class TreeList {
  public:
@@ -29,8 +30,9 @@ class TreeList {
       if (!row.parent().empty()) children_[folded(row.parent())].push_back(&row);
   }
 
-  /// Adds a row at this level and all below it.
+  /// Adds a row of those handed over, at this level, and all below it.
   void add(const Row& row, int level = 0) {
+    if (!shown_.insert(&row).second) return;
     list.push_back(row);
     list.back().level = level;
     if (level < Deepest_Level) SubList(row.key(), level + 1);
@@ -45,7 +47,8 @@ class TreeList {
     for (const Row* child : found->second) add(*child, level);
   }
 
-  std::map<std::string, std::vector<const Row*>> children_;  ///< by the parent's key, in lower case
+  std::map<std::string, std::vector<const Row*>> children_;  ///< by the parent's key, folded
+  std::set<const Row*> shown_;
 };
 
 }  // namespace tallymere

@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "core/store/recordset.h"
+#include "core/store/shape.h"
 #include "core/store/sql.h"
 #include "core/values/text.h"
 
@@ -89,6 +90,16 @@ int64_t Pragma(Connection& connection, const std::string& name) {
   return row.step() ? row.integer(0) : 0;
 }
 
+/// A pipe would wait for somebody to write into it; a link may lead back to itself.
+void Require_File(const fs::path& path) {
+  std::error_code ignored;
+  const auto type = fs::status(path, ignored).type();
+  if (type == fs::file_type::regular) return;
+  if (type == fs::file_type::not_found || type == fs::file_type::none)
+    throw Error(errors::file_not_found, "Could not find file '" + path.string() + "'.");
+  throw Error(errors::cannot_open, "'" + path.string() + "' is no file that can be opened.");
+}
+
 void Check_Kind(Connection& connection, FileKind kind, const fs::path& path, int newest) {
   if (Pragma(connection, "application_id") != static_cast<int64_t>(kind))
     throw Error(errors::not_a_database, "Unrecognized database format '" + path.string() + "'.");
@@ -157,9 +168,11 @@ std::unique_ptr<Database> Database::CreateDatabase(const fs::path& path, FileKin
 
 std::unique_ptr<Database> Database::OpenDatabase(const fs::path& path, FileKind kind, std::string_view connect,
                                                  int newest) {
-  if (!fs::exists(path)) throw Error(errors::file_not_found, "Could not find file '" + path.string() + "'.");
+  Require_File(path);
   std::unique_ptr<Database> db(new Database(path, Connection::Mode::ReadWrite));
   Check_Kind(db->connection_, kind, path, newest);
+  Refuse_What_Acts(db->connection_);
+  Require_Own_Tables(db->connection_);
   if (!Password_Fits(db->connection_, Password_Of(connect)))
     throw Error(errors::wrong_password, "Not a valid password.");
   db->keeps_history_ = kind == FileKind::Company;
@@ -289,13 +302,21 @@ void Database::rebuild_indexes() {
   connection_.execute("REINDEX");
 }
 
+bool Database::is_decimal_view(std::string_view name, std::string_view sql) const {
+  constexpr std::string_view ending = "_decimal";
+  if (!name.ends_with(ending)) return false;
+  const TableDef* table = find_table(name.substr(0, name.size() - ending.size()));
+  return table && sql == Decimal_View(*table);
+}
+
 std::vector<QueryDef> Database::QueryDefs() const {
   std::vector<QueryDef> queries;
-  auto views = connection_.prepare(
-      "SELECT name, sql FROM sqlite_schema WHERE type = 'view' AND name NOT LIKE '%\\_decimal' ESCAPE '\\' ORDER BY rowid");
+  auto views = connection_.prepare("SELECT name, sql FROM sqlite_schema WHERE type = 'view' ORDER BY rowid");
   while (views.step()) {
     auto sql = views.text(1);
-    queries.push_back({std::string(views.text(0)), std::string(sql.substr(sql.find(" AS ") + 4))});
+    if (is_decimal_view(views.text(0), sql)) continue;
+    const size_t as = sql.find(" AS ");
+    queries.push_back({std::string(views.text(0)), as == sql.npos ? "" : std::string(sql.substr(as + 4))});
   }
   return queries;
 }
@@ -415,6 +436,7 @@ void Transaction::write_history() {
   if (history_ == History::Rows) {
     changes = db_.connection_.take_changes();
     if (changes.empty()) return;  // nothing was written that a history could tell
+    if (changes.size() > Connection::longest_text) history_ = History::Summary;
   }
   auto row = db_.connection_.prepare("INSERT INTO History (At, User, What, Undoes, Changes) VALUES (?, ?, ?, ?, ?)");
   const Author& author = db_.author_;

@@ -95,7 +95,7 @@ class Database {
   /// Error 3204 when the file exists and is not empty, 3044 when it cannot be made.
   static std::unique_ptr<Database> CreateDatabase(const std::filesystem::path& path, FileKind kind);
   /// `connect` is "MS Access;pwd=...;". Errors: 3024 not found, 3343 not such a database, 3049 damaged,
-  /// 3031 wrong password, 3349 made by a newer version. `version` is the newest schema this program knows.
+  /// or of a shape that no file of ours has, 3031 wrong password, 3349 made by a newer version. `version` is the newest schema this program knows.
   static std::unique_ptr<Database> OpenDatabase(const std::filesystem::path& path, FileKind kind,
                                                 std::string_view connect, int version);
   ~Database();
@@ -115,8 +115,8 @@ class Database {
   /// inside the same Transaction.
   std::vector<std::string> drop_indexes(const std::string& table);
   void create_indexes(const std::vector<std::string>& statements);
-  void rebuild_indexes();  ///< inside a Transaction: for files whose texts stood in another order
-  std::vector<QueryDef> QueryDefs() const;
+  void rebuild_indexes();                   ///< inside a Transaction: for files whose texts stood in another order
+  std::vector<QueryDef> QueryDefs() const;  ///< without the views for the eye that every table with amounts has
   void CreateQueryDef(const QueryDef& query);
 
   std::unique_ptr<Table> OpenTable(
@@ -163,6 +163,7 @@ class Database {
   Database(const std::filesystem::path& path, Connection::Mode mode);
   void read_definitions() const;
   const TableDef* known_table(std::string_view name) const;
+  bool is_decimal_view(std::string_view name, std::string_view sql) const;
 
   std::filesystem::path path_;
   mutable Connection connection_;

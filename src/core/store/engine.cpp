@@ -38,6 +38,8 @@ int Number_Of(int code) {
       return errors::disk_or_network;
     case SQLITE_CONSTRAINT:
       return errors::duplicate_key;
+    case SQLITE_TOOBIG:
+      return errors::too_long;
     default:
       return errors::bad_statement;
   }
@@ -55,6 +57,8 @@ std::string Words_Of(int number, const std::string& engine_words, const std::str
       return "Disk or network error: " + engine_words + ".";
     case errors::disk_full:
       return "The disk is full.";
+    case errors::too_long:
+      return "A text is too long.";
     case errors::read_only:
       return "Cannot update. Database or object is read-only.";
     default:
@@ -228,6 +232,22 @@ Value Statement::raw(int column) const {
   }
 }
 
+namespace {
+
+/// Whatever a file says: no triggers, no changes of its definitions behind the engine's back, nothing attached, no text
+/// that would fill the memory, and a name in quotes is a name and never a text.
+void Set_Bounds(sqlite3* handle) {
+  sqlite3_db_config(handle, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
+  sqlite3_db_config(handle, SQLITE_DBCONFIG_ENABLE_TRIGGER, 0, nullptr);
+  sqlite3_db_config(handle, SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
+  sqlite3_db_config(handle, SQLITE_DBCONFIG_DQS_DDL, 0, nullptr);
+  sqlite3_limit(handle, SQLITE_LIMIT_LENGTH, static_cast<int>(Connection::longest_text + (1 << 20)));
+  sqlite3_limit(handle, SQLITE_LIMIT_ATTACHED, 0);
+  sqlite3_limit(handle, SQLITE_LIMIT_TRIGGER_DEPTH, 1);
+}
+
+}  // namespace
+
 // --- Connection ---------------------------------------------------------------------------------------------
 
 Connection::Connection(const std::filesystem::path& path, Mode mode) {
@@ -236,13 +256,15 @@ Connection::Connection(const std::filesystem::path& path, Mode mode) {
   int code = sqlite3_open_v2(path.string().c_str(), &handle_, flags, nullptr);
   try {
     check(code, path.string());
+    Set_Bounds(handle_);
     check(Teach_Letters(handle_), path.string());
     sqlite3_busy_handler(handle_, wait_for_lock, this);
     // One file at rest, no shared memory: what a folder on a file server can carry. EXTRA, for a save is told only when
     // its journal is gone for good: a journal that came back after a power cut would take the save back.
     constexpr auto manners =
         "PRAGMA journal_mode = DELETE; PRAGMA synchronous = EXTRA; PRAGMA foreign_keys = OFF;"
-        "PRAGMA cache_size = -16000; PRAGMA temp_store = MEMORY; PRAGMA trusted_schema = OFF;";
+        "PRAGMA cache_size = -16000; PRAGMA temp_store = MEMORY; PRAGMA trusted_schema = OFF;"
+        "PRAGMA cell_size_check = ON;";
     check(sqlite3_exec(handle_, manners, nullptr, nullptr, nullptr), path.string());
   } catch (...) {
     sqlite3_close_v2(std::exchange(handle_, nullptr));

@@ -83,6 +83,8 @@ class Connection {
   enum class Mode { Create, ReadWrite };
   /// Long enough for a queue of colleagues who all save at once, short enough for a person at the window.
   static inline std::chrono::milliseconds lock_patience{12000};
+  /// Bytes of one text, or of all changes that one action keeps; more is none of this program's, Error 3163.
+  static constexpr size_t longest_text = 64 << 20;
   Connection(const std::filesystem::path& path, Mode mode);
   ~Connection();
   Connection(const Connection&) = delete;

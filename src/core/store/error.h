@@ -28,6 +28,7 @@ inline constexpr int file_damaged = 3049;
 inline constexpr int cannot_open = 3051;
 inline constexpr int bad_statement = 3075;
 inline constexpr int no_such_table = 3078;
+inline constexpr int too_long = 3163;
 inline constexpr int data_changed = 3197;
 inline constexpr int database_exists = 3204;
 inline constexpr int locked = 3218;

@@ -147,7 +147,9 @@ TEST_F(RestoreTest, ColleaguesGoOnWithTheRestoredCompany) {
   auto stale = colleague.dbCompany->OpenTable("CompanyInfo");
   {
     store::Transaction busy(*colleague.dbCompany, "a long save");
+    const auto patience = std::exchange(store::Connection::lock_patience, std::chrono::milliseconds(100));
     EXPECT_THROW(restore(made), store::Error);
+    store::Connection::lock_patience = patience;
     expect_still_open("after the backup");
   }
   ASSERT_TRUE(restore(made));
