@@ -22,7 +22,8 @@ DropDowns::DropDowns(Session& session, QObject* parent)
       drpItems(new SSDBDropDown(this)),
       drpCustomers(new SSDBDropDown(this)),
       drpClass(new SSDBDropDown(this)),
-      session_(session) {
+      session_(session),
+      small_{{Class_List.table, {Class_List, drpClass}}} {
   drpExpenseList->set_columns({{.name = QStringLiteral("AccountName")}, {.name = QStringLiteral("Type")}});
   drpItems->set_columns({{.name = QStringLiteral("ItemName")},
                          {.name = QStringLiteral("Description"), .width = 30},
@@ -33,7 +34,7 @@ void DropDowns::fill() {
   fill_categories();
   fill_items();
   fill_payees();
-  fill_classes();
+  for (const auto& [table, small] : small_) fill(small);
 }
 
 void DropDowns::changed(const std::string& table) {
@@ -41,7 +42,7 @@ void DropDowns::changed(const std::string& table) {
   if (table == "Accounts") fill_categories();
   if (table == "Items") fill_items();
   if (payees) fill_payees();
-  if (table == "Class") fill_classes();
+  if (const auto found = small_.find(table); found != small_.end()) fill(found->second);
 }
 
 void DropDowns::fill_categories() {
@@ -61,10 +62,18 @@ void DropDowns::fill_items() {
 
 void DropDowns::fill_payees() { drpCustomers->set_items(plain_items(VENandCustList(session_))); }
 
-void DropDowns::fill_classes() {
+void DropDowns::fill(const Small& small) {
   std::vector<std::string> names;
-  for (const SmallListRow& row : Small_List_Rows(session_, Class_List)) names.push_back(row.text);
-  drpClass->set_items(plain_items(names));
+  for (const SmallListRow& row : Small_List_Rows(session_, small.list)) names.push_back(row.text);
+  small.rows->set_items(plain_items(names));
+}
+
+SSDBDropDown* DropDowns::small_list(const SmallList& list) {
+  const auto found = small_.find(list.table);
+  if (found != small_.end()) return found->second.rows;
+  const Small made{list, new SSDBDropDown(this)};
+  small_.emplace(list.table, made);
+  return made.rows;
 }
 
 }  // namespace tallymere

@@ -19,7 +19,7 @@ std::string Title(const std::string& type, const std::string& number, const std:
 }
 
 Value Text(const std::string& text) { return text.empty() ? Value() : Value(text); }
-Value Text(const std::string& own, const std::string& head) { return Text(own.empty() ? head : own); }
+Value Text(const std::optional<std::string>& own, const std::string& head) { return Text(own ? *own : head); }
 
 struct Column {
   std::string_view name;
@@ -93,44 +93,7 @@ void Delete_Rows(Session& session, int64_t number) {
   session.dbCompany->Execute("DELETE FROM Transactions WHERE TransNum = ?", {number});
 }
 
-std::string Title_Of_Rows(store::Database& db, int64_t number) {
-  auto row = db.OpenRecordset("SELECT * FROM Transactions WHERE TransNum = ? ORDER BY RowKey", {number});
-  if (!row.has_row()) return "transaction " + std::to_string(number);
-  return Title(row["Type"].text(), row["Number"].text(), row["Name"].text());
-}
-
 }  // namespace
-
-// --- Probe ---------------------------------------------------------------------------------------
-
-Probe::Probe(store::RowSet& row) {
-  if (!row.has_row()) return;
-  Remembered remembered{row.key(), {}};
-  for (size_t at = 0; at < row.Fields().size(); ++at) remembered.values.push_back(row[at].value());
-  rows_.push_back(std::move(remembered));
-}
-
-Probe Probe::Of(store::Database& db, int64_t TransNum) {
-  Probe probe;
-  probe.rows_ = read(db, "TransNum = ?", TransNum);
-  probe.whole_ = TransNum;
-  return probe;
-}
-
-std::vector<Probe::Remembered> Probe::read(store::Database& db, std::string_view condition, int64_t key) {
-  std::vector<Remembered> found;
-  auto rows =
-      db.OpenRecordset("SELECT * FROM Transactions WHERE " + std::string(condition) + " ORDER BY RowKey", {key});
-  for (; !rows.Eof(); rows.MoveNext()) found.push_back(Probe(rows).rows_.front());
-  return found;
-}
-
-void Probe::check(store::Database& db) const {
-  if (is_new()) return;
-  bool unchanged =
-      whole_ ? read(db, "TransNum = ?", *whole_) == rows_ : read(db, "RowKey = ?", rows_.front().key) == rows_;
-  if (!unchanged) throw store::Error(store::errors::data_changed, "The data has been changed; operation stopped.");
-}
 
 // --- Transaction_Writer --------------------------------------------------------------------------
 
@@ -161,6 +124,12 @@ void Transaction_Writer::commit() {
 }
 
 // --- without rewriting ---------------------------------------------------------------------------
+
+std::string Title_Of_Rows(store::Database& db, int64_t TransNum) {
+  auto row = db.OpenRecordset("SELECT * FROM Transactions WHERE TransNum = ? ORDER BY RowKey", {TransNum});
+  if (!row.has_row()) return "transaction " + std::to_string(TransNum);
+  return Title(row["Type"].text(), row["Number"].text(), row["Name"].text());
+}
 
 int64_t Delete_Transaction(Session& session, int64_t TransNum) {
   store::Database& db = *session.dbCompany;

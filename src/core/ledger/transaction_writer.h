@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "core/company/session.h"
+#include "core/ledger/probe.h"
 #include "core/store/recordset.h"
 
 /// The one way transactions get into the ledger: a transaction goes in, and goes out, whole.
@@ -44,10 +45,10 @@ struct LedgerRow {
   bool Paid = false;
   std::string PaidBy = {};
   std::optional<Money> AmountReceived = {};
-  std::string Type = {};  ///< these four: unlike the head's, where a row differs
-  std::string Number = {};
-  std::string Name = {};
-  std::string Address = {};
+  std::optional<std::string> Type = {};  ///< these four: the row's own, be it empty; unset: the head's
+  std::optional<std::string> Number = {};
+  std::optional<std::string> Name = {};
+  std::optional<std::string> Address = {};
   std::string ShippingAddress = {};
   std::string Terms = {};
   std::optional<Date> DueDate = {};
@@ -62,32 +63,6 @@ struct LedgerRow {
   std::string PayrollItem = {};
   std::string PayPeriod = {};
   std::optional<double> Hours = {};
-};
-
-/// What a window remembers of the transaction it shows, to find out at saving whether another user touched it
-/// since.
-class Probe {
- public:
-  Probe() = default;                   ///< a new entry: nothing was loaded
-  explicit Probe(store::RowSet& row);  ///< the current row of a set, as it was read
-  /// All rows of a transaction. Take it before reading the rows to show: a change in between is then noticed
-  /// too.
-  static Probe Of(store::Database& db, int64_t TransNum);
-
-  bool is_new() const { return rows_.empty(); }
-  /// Error 3197 when a remembered row was changed or is gone, or the transaction has other rows by now.
-  void check(store::Database& db) const;
-
- private:
-  struct Remembered {
-    int64_t key;
-    std::vector<store::Value> values;
-    friend bool operator==(const Remembered&, const Remembered&) = default;
-  };
-  static std::vector<Remembered> read(store::Database& db, std::string_view condition, int64_t key);
-
-  std::vector<Remembered> rows_;
-  std::optional<int64_t> whole_;  ///< the TransNum whose rows these are, all of them
 };
 
 /// Writes a transaction, new or in place of its old rows: probe, delete, write, in one store transaction.
@@ -110,6 +85,9 @@ class Transaction_Writer {
   store::Transaction tx_;
   Probe written_;
 };
+
+/// A transaction as the history speaks of it: "Check 1042, Acme Supply".
+std::string Title_Of_Rows(store::Database& db, int64_t TransNum);
 
 /// Removes all rows of a transaction in one store transaction; how many there were.
 int64_t Delete_Transaction(Session& session, int64_t TransNum);

@@ -4,6 +4,7 @@
 
 #include "core/ledger/balances.h"
 #include "core/ledger/ledger.h"
+#include "core/ledger/stored_row.h"
 #include "core/store/recordset.h"
 #include "core/values/text.h"
 
@@ -11,14 +12,9 @@ namespace tallymere {
 namespace {
 
 constexpr std::string_view check_types[] = {"Check", "Liabilitycheck", "Paycheck", "Billcheck"};
-constexpr Walk check_walk{check_types, 1000};
 
 std::string Default_Bank(Session& session) {
   return session.dbCompany->value("SELECT State FROM GeneralPrefs WHERE Preference = 'DefaultBank'").text();
-}
-
-std::optional<Money> Amount_In(store::Recordset& row, std::string_view field) {
-  return row[field].blank() ? std::nullopt : std::optional(row[field].money());
 }
 
 /// "1042;", as a bill that this payment settled names it.
@@ -47,46 +43,39 @@ Bank Read_Bank(Session& session, const std::string& CatID) {
 
 namespace {
 
-void Read_Head(store::Recordset& row, Check& check) {
-  check.Type = row["Type"].text();
-  check.BankID = row["Account"].text();
-  check.Date = row["Date"].date();
-  check.Number = row["Number"].text();
-  check.Name = row["Name"].text();
-  check.Address = row["Address"].text();
-  check.Memo = row["Memo"].text();
-  check.Amount = Amount_In(row, "Amount");
-  check.Cleared = row["Cleared"].flag();
+/// Rows of a check in writing order, the bank's row first: it names no item and stands on a bank. Without one it is the
+/// first row.
+std::vector<LedgerRow> Read_Rows(store::Recordset& rows, const std::vector<Bank>& banks) {
+  std::vector<LedgerRow> read;
+  for (; !rows.Eof(); rows.MoveNext()) read.push_back(Stored_Row(rows));
+  const auto bank = std::ranges::find_if(read, [&](const LedgerRow& row) {
+    return row.Item.empty() && row.PayrollItem.empty() &&
+           std::ranges::find(banks, row.Account, &Bank::CatID) != banks.end();
+  });
+  if (bank != read.end()) std::rotate(read.begin(), bank, bank + 1);
+  return read;
 }
 
-void Read_Expense(Session& session, store::Recordset& row, Check& check) {
-  check.expenses.push_back({.Category = Category_Name(session, row["Account"].text()),
-                            .Amount = Amount_In(row, "Amount"),
-                            .Memo = row["Memo"].text(),
-                            .Customer = row["SourceName"].text(),
-                            .Class = row["Class"].text(),
-                            .CatID = row["Account"].text()});
+void Read_Head(const LedgerRow& row, Check& check) {
+  check.Type = row.Type.value_or("");
+  check.BankID = row.Account;
+  check.Number = row.Number.value_or("");
+  check.Name = row.Name.value_or("");
+  check.Address = row.Address.value_or("");
+  check.Memo = row.Memo;
+  check.Amount = Posted(row, LineSide::Credit);
+  check.Cleared = row.Cleared;
+  check.kept = std::make_shared<const LedgerRow>(row);
 }
 
-void Read_Item(store::Recordset& row, Check& check) {
-  check.items.push_back({.Item = row["Item"].text(),
-                         .Description = row["ItemDescription"].text(),
-                         .Quantity = row["Qty"].blank() ? std::nullopt : std::optional(row["Qty"].number()),
-                         .Cost = Amount_In(row, "SalePrice"),
-                         .Amount = Amount_In(row, "Amount"),
-                         .Customer = row["SourceName"].text(),
-                         .Class = row["Class"].text(),
-                         .CatID = row["Account"].text()});
-}
-
-void Read_Lines(Session& session, store::Recordset& rows, Check& check) {
-  for (; !rows.Eof(); rows.MoveNext()) {
-    if (rows["Item"].blank())
-      Read_Expense(session, rows, check);
+void Read_Lines(Session& session, const std::vector<LedgerRow>& rows, Check& check) {
+  for (size_t at = 1; at < rows.size(); ++at) {
+    if (rows[at].Item.empty())
+      check.expenses.push_back(Read_Expense(session, rows[at], rows.front(), LineSide::Debit));
     else
-      Read_Item(rows, check);
+      check.items.push_back(Read_Item(rows[at], rows.front(), LineSide::Debit));
   }
-  if (check.expenses.empty() && !check.items.empty()) check.Tab = CheckTab::Items;
+  if (check.expenses.empty() && !check.items.empty()) check.Tab = LineTab::Items;
 }
 
 void Read_Bills(Session& session, Check& check) {
@@ -97,18 +86,17 @@ void Read_Bills(Session& session, Check& check) {
                            bills["Amount"].money(), bills["Date"].maybe_date()});
 }
 
-void Read_Paycheck(Session& session, store::Recordset& rows, Check& check) {
-  if (!rows.Eof()) check.PayPeriod = rows["PayPeriod"].text();
-  check.Hours =
-      session.dbCompany->value("SELECT SUM(Hours) FROM Transactions WHERE TransNum = ?", {check.TransNum}).number();
+void Read_Paycheck(const std::vector<LedgerRow>& rows, Check& check) {
+  if (rows.size() > 1) check.PayPeriod = rows[1].PayPeriod;
+  for (const LedgerRow& row : rows) check.Hours += row.Hours.value_or(0);
 }
 
-void Read_Liabilities(store::Recordset& rows, Check& check) {
-  if (!rows.Eof()) check.PaidThrough = rows["PaidThrough"].maybe_date();
-  for (; !rows.Eof(); rows.MoveNext()) {
-    const bool payroll = !rows["PayrollItem"].blank();
+void Read_Liabilities(const std::vector<LedgerRow>& rows, Check& check) {
+  if (rows.size() > 1) check.PaidThrough = rows[1].PaidThrough;
+  for (size_t at = 1; at < rows.size(); ++at) {
+    const bool payroll = !rows[at].PayrollItem.empty();
     check.has_payroll_items |= payroll;
-    check.liabilities.push_back({rows[payroll ? "PayrollItem" : "Item"].text(), rows["Amount"].money()});
+    check.liabilities.push_back({payroll ? rows[at].PayrollItem : rows[at].Item, rows[at].Amount.value_or(Money())});
   }
 }
 
@@ -116,8 +104,7 @@ void Read_Liabilities(store::Recordset& rows, Check& check) {
 
 Check Open_Checks(Session& session, int64_t TransNum) {
   Update_Accounts(session, Categories::Bank);
-  auto asked = TransNum == 0 ? std::nullopt : Load_Check(session, TransNum);
-  return asked ? std::move(*asked) : New_Check(session);
+  return Open_Document(session, Check_Kind, TransNum);
 }
 
 Check New_Check(Session& session) {
@@ -127,37 +114,23 @@ Check New_Check(Session& session) {
 std::optional<Check> Load_Check(Session& session, int64_t TransNum) {
   store::Database& db = *session.dbCompany;
   Check check{.TransNum = TransNum, .Date = session.today(), .probe = Probe::Of(db, TransNum)};
-  // The bank's row comes first: it names no item, and nothing is debited there. Negative lines stay behind
-  // it.
-  auto rows = db.OpenRecordset(
+  auto stored = db.OpenRecordset(
       "SELECT * FROM Transactions WHERE TransNum = ? AND Type IN ('Check', 'Liabilitycheck', 'Paycheck', "
-      "'Billcheck') ORDER BY Item, PayrollItem, Debit < 0, Debit, RowKey",
+      "'Billcheck') ORDER BY RowKey",
       {TransNum});
-  if (!rows.has_row()) return std::nullopt;
-  Read_Head(rows, check);
-  rows.MoveNext();
+  if (!stored.has_row()) return std::nullopt;
+  check.Date = stored["Date"].date();
+  const std::vector<LedgerRow> rows = Read_Rows(stored, Banks(session));
+  Read_Head(rows.front(), check);
   if (check.Type == "Billcheck")
     Read_Bills(session, check);
   else if (check.Type == "Paycheck")
-    Read_Paycheck(session, rows, check);
+    Read_Paycheck(rows, check);
   else if (check.Type == "Liabilitycheck")
     Read_Liabilities(rows, check);
   else
     Read_Lines(session, rows, check);
   return check;
-}
-
-CheckStep Load_Check(Session& session, int64_t TransNum, bool forward) {
-  const Step step = Walk_From(session, check_walk, TransNum, forward);
-  switch (step.arrival) {
-    case Arrival::Document:
-      return {Load_Check(session, step.TransNum)};
-    case Arrival::New:
-      return {New_Check(session)};
-    case Arrival::Stay:
-      break;
-  }
-  return {.bounce = step.bounce};
 }
 
 // --- the payee's address ---------------------------------------------------------------------------------
@@ -215,7 +188,7 @@ std::optional<Fault> Expenses_Fault(const Check& check) {
 }
 
 std::optional<Fault> Lines_Fault(const Check& check) {
-  const bool items = check.Tab == CheckTab::Items;
+  const bool items = check.Tab == LineTab::Items;
   const char* grid = items ? "grdItems" : "grdExpense";
   if (auto fault = items ? Items_Fault(check) : Expenses_Fault(check)) return fault;
   // Both grids are written, so both count, whichever is in front.
@@ -226,11 +199,22 @@ std::optional<Fault> Lines_Fault(const Check& check) {
   return std::nullopt;
 }
 
-/// What the bank's row names as the other side.
-std::string Other_Side(Session& session, const Check& check) {
-  const bool split = check.Tab == CheckTab::Items || check.expenses.size() > 1 || !check.items.empty();
-  if (split) return std::string(break_down);
-  return check.expenses.empty() ? "" : Get_Postable_Category(session, check.expenses.front().CatID);
+/// The bank's row: what the check book shows of it, the rest as it was.
+LedgerRow Bank_Row(Session& session, const Check& check) {
+  LedgerRow row = check.kept ? *check.kept : LedgerRow{};
+  row.Account = check.BankID;
+  row.Category = Other_Side(session, check.expenses, check.items);
+  Post(row, LineSide::Credit, check.Amount);
+  row.Memo = check.Memo;
+  row.Cleared = check.Cleared;
+  row.Type = row.Number = row.Name = row.Address = std::nullopt;  // the head's
+  return row;
+}
+
+/// A line that was there keeps its own mark: the other bank of a transfer is cleared by itself.
+LedgerRow Marked(LedgerRow row, const KeptRow& kept, const Check& check) {
+  if (!kept) row.Cleared = check.Cleared;
+  return row;
 }
 
 void Write_Check(Session& session, Check& check) {
@@ -240,33 +224,13 @@ void Write_Check(Session& session, Check& check) {
                            .Date = check.Date,
                            .Number = check.Number,
                            .Name = check.Name,
-                           .Address = check.Address,
-                           .Cleared = check.Cleared},
+                           .Address = check.Address},
                           check.probe);
-  rows.add({.Account = check.BankID,
-            .Category = Other_Side(session, check),
-            .Credit = *check.Amount,
-            .Amount = check.Amount,
-            .Memo = check.Memo});
+  rows.add(Bank_Row(session, check));
   for (const ExpenseLine& line : check.expenses)
-    rows.add({.Account = Get_Postable_Category(session, line.CatID),
-              .Category = check.BankID,
-              .Debit = line.Amount.value_or(Money()),
-              .Amount = line.Amount,
-              .Memo = line.Memo,
-              .SourceName = line.Customer,
-              .Class = line.Class});
+    rows.add(Marked(Expense_Row(session, line, check.BankID, LineSide::Debit), line.kept, check));
   for (const ItemLine& line : check.items)
-    rows.add({.Account = line.CatID,
-              .Category = check.BankID,
-              .Debit = line.Amount.value_or(Money()),
-              .Amount = line.Amount,
-              .SourceName = line.Customer,
-              .Class = line.Class,
-              .Item = line.Item,
-              .ItemDescription = line.Description,
-              .Qty = line.Quantity,
-              .SalePrice = line.Cost});
+    rows.add(Marked(Item_Row(line, check.BankID, LineSide::Debit), line.kept, check));
   rows.commit();
   check.TransNum = rows.number();
   check.Type = "Check";
@@ -300,11 +264,6 @@ void Rewrite_Narrow(Session& session, const Check& check) {
   Rewrite_Fields(session, check.TransNum, fields);
 }
 
-void Drop_Blank_Lines(Check& check) {
-  std::erase_if(check.expenses, [](const ExpenseLine& line) { return line.CatID.empty(); });
-  std::erase_if(check.items, [](const ItemLine& line) { return line.blank(); });
-}
-
 }  // namespace
 
 SaveResult Enter_Check(Session& session, Check& check) {
@@ -316,10 +275,10 @@ SaveResult Enter_Check(Session& session, Check& check) {
     if (check.BankID.empty())
       return {.fault = Mistake("Please select the bank category this check is paid from.", "No Bank", "cmbAccount")};
     // What the amount proposed on the other tab before an item was chosen is not written and does not count.
-    if (check.Tab == CheckTab::Items)
+    if (check.Tab == LineTab::Items)
       std::erase_if(check.expenses, [](const ExpenseLine& line) { return line.CatID.empty(); });
     if (auto fault = Lines_Fault(check)) return {.fault = fault};
-    Drop_Blank_Lines(check);
+    Drop_Blank_Lines(check.expenses, check.items);
   }
   auto conflict = Save_Or_Conflict([&] {
     if (check.is_narrow())
@@ -337,32 +296,20 @@ std::optional<Fault> Cannot_Print(const Check& check) {
 
 // --- deleting --------------------------------------------------------------------------------------------
 
-namespace {
+const DocumentKind<Check> Check_Kind = {"check", {check_types, 1000}, New_Check, Load_Check, Enter_Check};
 
-void Delete_And_Free_Bills(Session& session, const Check& check) {
-  store::Database& db = *session.dbCompany;
-  store::Transaction tx(db, "Deleted " + check.Type + " " + check.Number + ", " + check.Name);
-  db.Execute(
-      "UPDATE Transactions SET Paid = False, PaidBy = NULL WHERE Type = 'Bill' AND Paid = True AND PaidBy = "
-      "?",
-      {Paid_By(check.TransNum)});
-  Delete_Transaction(session, check.TransNum);
-  tx.commit();
-}
-
-}  // namespace
-
-DeleteResult Delete_Check(Session& session, const Check& check) {
-  const std::string spoken =
-      Spoken(check.is_new() ? "the new Check" : check.Type, check.Number, check.Name, check.Amount);
-  if (!Confirm_Delete(session.prompts, "Are you sure you want to delete this Check?", check.Cleared, spoken)) return {};
-  auto previous = Load_Check(session, check.TransNum, false).check;
-  auto conflict = Save_Or_Conflict([&] {
-    // The number of a check that was never saved may be another user's by now.
-    if (!check.probe.is_new()) Delete_And_Free_Bills(session, check);
-  });
-  if (conflict) return {.conflict = conflict};
-  return {.deleted = true, .show = previous ? std::move(previous) : New_Check(session)};
+Deleted<Check> Delete_Check(Session& session, const Check& check) {
+  const auto free_bills = [&] {
+    session.dbCompany->Execute(
+        "UPDATE Transactions SET Paid = False, PaidBy = NULL WHERE Type = 'Bill' AND Paid = True AND PaidBy = ?",
+        {Paid_By(check.TransNum)});
+  };
+  return Delete_Document(
+      session, Check_Kind, check,
+      {.question = "Are you sure you want to delete this Check?",
+       .spoken = Spoken(check.is_new() ? "the new Check" : check.Type, check.Number, check.Name, check.Amount),
+       .cleared = check.Cleared,
+       .frees = free_bills});
 }
 
 }  // namespace tallymere

@@ -5,7 +5,8 @@
 #include <vector>
 
 #include "core/values/amount_in_words.h"
-#include "entry/document/document.h"
+#include "entry/document/deletion.h"
+#include "entry/document/lines.h"
 
 /// The check book: checks, and the three kinds of check that other windows write.
 namespace tallymere {
@@ -32,8 +33,6 @@ struct LiabilityLine {
   Money Amount = {};
 };
 
-enum class CheckTab { Expenses = 0, Items = 1 };
-
 /// What frmCheck shows.
 struct Check {
   int64_t TransNum = 0;     ///< txtIndex
@@ -44,10 +43,10 @@ struct Check {
   std::string Name = {};
   std::string Address = {};
   std::string Memo = {};
-  std::optional<Money> Amount = {};
+  std::optional<Money> Amount = {};  ///< negative: money that comes in
   bool Cleared = false;
   bool Valid = true;  ///< the category, item or payee typed last is one of its list
-  CheckTab Tab = CheckTab::Expenses;
+  LineTab Tab = LineTab::Expenses;
   std::vector<ExpenseLine> expenses = {};
   std::vector<ItemLine> items = {};
 
@@ -58,6 +57,7 @@ struct Check {
   std::optional<tallymere::Date> PaidThrough = {};
   bool has_payroll_items = false;  ///< pays payroll items, else sales tax
 
+  KeptRow kept = {};  ///< the bank's row as it was loaded
   Probe probe = {};
 
   bool is_new() const { return Type.empty(); }
@@ -76,13 +76,6 @@ Check Open_Checks(Session& session, int64_t TransNum = 0);
 Check New_Check(Session& session);
 /// The check under this number; nothing when it is no check or another user has deleted it.
 std::optional<Check> Load_Check(Session& session, int64_t TransNum);
-
-/// What Next and Previous bring. Without a check the screen stays as it is.
-struct CheckStep {
-  std::optional<Check> check = {};
-  bool bounce = false;  ///< play ball_bounce.wav
-};
-CheckStep Load_Check(Session& session, int64_t TransNum, bool forward);
 
 /// The address of a payee, its lines parted by CR LF; "" when there is none or it is incomplete.
 std::string Load_Address_Box(Session& session, const std::string& name);
@@ -103,12 +96,10 @@ CheckFields Editable_Fields(const Check& check);
 /// "Print" is no number to print a check under.
 std::optional<Fault> Cannot_Print(const Check& check);
 
-struct DeleteResult {
-  bool deleted = false;
-  std::optional<Conflict> conflict = {};
-  std::optional<Check> show = {};  ///< after deleting: the previous check, or a blank one
-};
+/// Checks, for the walk from one to the next.
+extern const DocumentKind<Check> Check_Kind;
+
 /// Asks, frees the bills that this check alone paid, and deletes its rows, all in one step.
-DeleteResult Delete_Check(Session& session, const Check& check);
+Deleted<Check> Delete_Check(Session& session, const Check& check);
 
 }  // namespace tallymere

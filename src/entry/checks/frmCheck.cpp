@@ -6,11 +6,11 @@
 #include <QPushButton>
 #include <QStackedWidget>
 #include <QTabWidget>
-#include <utility>
 
 #include "core/values/format.h"
 #include "core/values/text.h"
-#include "lists/categories.h"
+#include "entry/document/ExpenseGrid.h"
+#include "entry/document/ItemGrid.h"
 #include "lists/small_lists.h"
 #include "shell/drop_downs.h"
 #include "shell/widgets/AddressEdit.h"
@@ -23,14 +23,6 @@ namespace tallymere {
 
 namespace {
 
-/// The columns of grdExpense and grdItems.
-namespace expense {
-enum { Category, Amount, Memo, Customer, Class, CatID };
-}
-namespace item {
-enum { Item, Description, Quantity, Cost, Amount, Customer, Class, CatID };
-}
-
 QString text_of(double hours) { return QString::number(hours, 'g', 10); }
 
 }  // namespace
@@ -42,15 +34,8 @@ void frmCheck::load() {
   lblCompany->setText(qt(session.dbCompany->value("SELECT Name FROM CompanyInfo").text()));
   on_changed("Accounts");
   on_changed("Colors");
-  show_check(Open_Checks(session));
+  show(Open_Checks(session));
   cmbPayee->setFocus();
-}
-
-void frmCheck::take(const Request& request) {
-  if (request.number == 0 || !let_go()) return;
-  const auto check = tallymere::Load_Check(session, request.number);
-  if (!check) return shell.say("There is no check " + std::to_string(request.number) + " any more.");
-  show_check(*check);
 }
 
 void frmCheck::on_changed(const std::string& table) {
@@ -64,17 +49,16 @@ void frmCheck::on_changed(const std::string& table) {
 
 // --- document to screen --------------------------------------------------------------------------
 
-void frmCheck::show_check(const Check& check) {
-  check_ = check;
+void frmCheck::show_document(const Check& check) {
   show_head(check);
-  show_expenses(check.expenses);
-  show_items(check.items);
+  expenses_->show(check.expenses);
+  items_->show(check.items);
   show_other_kinds(check);
   set_editable(check);
-  valid_ = true;
-  left_line_ = -1;
-  keep();
-  if (check.is_new() && !cmbPayee->hasFocus()) go_to(cmbPayee);
+}
+
+void frmCheck::shown() {
+  if (document_.is_new() && !cmbPayee->hasFocus()) go_to(cmbPayee);
 }
 
 void frmCheck::show_head(const Check& check) {
@@ -89,21 +73,6 @@ void frmCheck::show_head(const Check& check) {
   lblAmount->setText(qt(Check_Amount_In_Words(session.words, in_words_).words));
   txtAddress->set_text(check.Address);
   txtMemo->setText(qt(check.Memo));
-}
-
-void frmCheck::show_expenses(const std::vector<ExpenseLine>& lines) {
-  grdExpense->RemoveAll();
-  for (const ExpenseLine& line : lines)
-    grdExpense->AddValues({line.Category, line.Amount, line.Memo, line.Customer, line.Class, line.CatID});
-  grdExpense->set_cell(0, expense::Category);
-}
-
-void frmCheck::show_items(const std::vector<ItemLine>& lines) {
-  grdItems->RemoveAll();
-  for (const ItemLine& line : lines)
-    grdItems->AddValues(
-        {line.Item, line.Description, line.Quantity, line.Cost, line.Amount, line.Customer, line.Class, line.CatID});
-  grdItems->set_cell(0, item::Item);
 }
 
 void frmCheck::show_other_kinds(const Check& check) {
@@ -139,7 +108,7 @@ void frmCheck::set_editable(const Check& check) {
 // --- screen to document --------------------------------------------------------------------------
 
 Check frmCheck::read() const {
-  Check check = check_;
+  Check check = document_;
   check.BankID = utf8(lblBankID->text());
   check.Date = DTPicker1->value();
   check.Number = utf8(txtNumber->text());
@@ -147,37 +116,11 @@ Check frmCheck::read() const {
   check.Address = Without_Last_Line_End(txtAddress->text());
   check.Memo = utf8(txtMemo->text());
   check.Amount = txtAmount->amount();
-  check.Valid = valid_;
-  check.Tab = static_cast<CheckTab>(SSTab1->currentIndex());
-  check.expenses = read_expenses();
-  check.items = read_items();
+  check.Valid = Valid();
+  check.Tab = static_cast<LineTab>(SSTab1->currentIndex());
+  check.expenses = expenses_->read();
+  check.items = items_->read();
   return check;
-}
-
-std::vector<ExpenseLine> frmCheck::read_expenses() const {
-  std::vector<ExpenseLine> lines;
-  for (int row = 0; row < grdExpense->rows(); ++row)
-    lines.push_back({.Category = grdExpense->text(row, expense::Category),
-                     .Amount = Money_At(*grdExpense, row, expense::Amount),
-                     .Memo = grdExpense->text(row, expense::Memo),
-                     .Customer = grdExpense->text(row, expense::Customer),
-                     .Class = grdExpense->text(row, expense::Class),
-                     .CatID = grdExpense->text(row, expense::CatID)});
-  return lines;
-}
-
-std::vector<ItemLine> frmCheck::read_items() const {
-  std::vector<ItemLine> lines;
-  for (int row = 0; row < grdItems->rows(); ++row)
-    lines.push_back({.Item = grdItems->text(row, item::Item),
-                     .Description = grdItems->text(row, item::Description),
-                     .Quantity = Number_At(*grdItems, row, item::Quantity),
-                     .Cost = Money_At(*grdItems, row, item::Cost),
-                     .Amount = Money_At(*grdItems, row, item::Amount),
-                     .Customer = grdItems->text(row, item::Customer),
-                     .Class = grdItems->text(row, item::Class),
-                     .CatID = grdItems->text(row, item::CatID)});
-  return lines;
 }
 
 // --- while it is filled in -----------------------------------------------------------------------
@@ -196,21 +139,21 @@ void frmCheck::Load_Address_Box() {
   const std::string name = cmbPayee->text();
   if (name == addressed_) return;
   addressed_ = name;
-  if (!check_.is_narrow()) txtAddress->set_text(tallymere::Load_Address_Box(session, name));
+  if (!document_.is_narrow()) txtAddress->set_text(tallymere::Load_Address_Box(session, name));
   if (name.empty()) return;
-  valid_ = cmbPayee->Valid();
+  set_Valid(cmbPayee->Valid());
   Check_New_Payee();
 }
 
 void frmCheck::Check_New_Payee() {
   const std::string name = cmbPayee->text();
   if (tallymere::Check_New_Payee(session, name)) return;
-  if (shell.Ask_Window({.window = "frmNewPayee", .key = name})) valid_ = true;
+  if (shell.Ask_Window({.window = "frmNewPayee", .key = name})) set_Valid(true);
 }
 
 /// The amount routine. false: what was typed was refused.
 bool frmCheck::txtAmount_LostFocus() {
-  if (check_.is_narrow()) return true;
+  if (document_.is_narrow()) return true;
   const CheckAmount amount = Check_Amount_In_Words(session.words, utf8(txtAmount->text()));
   txtAmount->setText(qt(amount.text));
   lblAmount->setText(qt(amount.words));
@@ -220,45 +163,9 @@ bool frmCheck::txtAmount_LostFocus() {
     go_to(txtAmount);
     return false;
   }
-  if (amount.value && SSTab1->currentIndex() == static_cast<int>(CheckTab::Expenses)) propose_remainder(*amount.value);
+  if (amount.value && SSTab1->currentIndex() == static_cast<int>(LineTab::Expenses))
+    expenses_->propose_remainder(*amount.value);
   return true;
-}
-
-/// Lines without an amount go; what the others leave of the check is proposed on a new one.
-void frmCheck::propose_remainder(Money amount) {
-  std::vector<ExpenseLine> lines = read_expenses();
-  const std::optional<Money> rest = Expense_Remainder(lines, amount);
-  if (lines.size() == static_cast<size_t>(grdExpense->rows()) && !rest) return;
-  for (int row = grdExpense->rows() - 1; row >= 0; --row)
-    if (!Money_At(*grdExpense, row, expense::Amount)) grdExpense->RemoveItem(row);
-  if (rest) grdExpense->set_value(grdExpense->rows(), expense::Amount, *rest);
-  grdExpense->set_cell(grdExpense->rows() - 1, expense::Category);
-}
-
-void frmCheck::grdExpense_AfterColUpdate(int, int column) {
-  if (column == expense::Category || column == expense::Class) valid_ = grdExpense->Valid();
-}
-
-void frmCheck::new_category() {
-  const int row = std::exchange(left_line_, -1);
-  const std::string name = grdExpense->text(row, expense::Category);
-  if (name.empty() || !grdExpense->text(row, expense::CatID).empty()) return;
-  const auto CatID = shell.Ask_Window(
-      {.window = "frmModAccount", .key = name, .number = static_cast<int64_t>(AccountMode::FromCheck)});
-  if (!CatID) return;
-  const SSDBDropDown& categories = *lists_->drpExpenseList;
-  grdExpense->set_text(row, expense::Category, categories.text(categories.find_id(*CatID)));
-  grdExpense->set_text(row, expense::CatID, *CatID);
-  valid_ = true;
-}
-
-void frmCheck::grdItems_AfterColUpdate(int row, int column) {
-  const std::string name = grdItems->text(row, item::Item);
-  if (column == item::Item) grdItems->set_text(row, item::CatID, Item_Category(session, name));
-  if (column == item::Item || column == item::Class) valid_ = grdItems->Valid();
-  if (column != item::Quantity && column != item::Cost) return;
-  const ItemLine line = read_items()[static_cast<size_t>(row)];
-  grdItems->set_value(row, item::Amount, Item_Amount(line, Item_Type(session, name)));
 }
 
 void frmCheck::go_to_lines() {
@@ -267,55 +174,20 @@ void frmCheck::go_to_lines() {
 }
 
 bool frmCheck::settle() {
-  grdExpense->commit();
-  grdItems->commit();
-  new_category();
+  expenses_->settle();
+  items_->settle();
   Load_Address_Box();
   return utf8(txtAmount->text()) == in_words_ || txtAmount_LostFocus();
 }
 
-// --- saving and moving ---------------------------------------------------------------------------
-
-bool frmCheck::enter() {
-  if (!settle()) return false;
-  Check check = read();
-  const SaveResult result = Enter_Check(session, check);
-  if (result.fault) point_at_mistake();
-  if (result.written) check_ = check;
-  txtIndex->setText(QString::number(check_.TransNum));
-  return conclude(result);
-}
-
-/// The line that the save routine does not take: an amount without a category, or a category nobody knows.
-void frmCheck::point_at_mistake() {
-  for (int row = 0; row < grdExpense->rows(); ++row) {
-    const bool named = !grdExpense->text(row, expense::Category).empty();
-    const bool known = !grdExpense->text(row, expense::CatID).empty();
-    if (!known && (named || Money_At(*grdExpense, row, expense::Amount)))
-      return grdExpense->set_cell(row, expense::Category);
-  }
-}
-
-void frmCheck::step(bool forward) {
-  const CheckStep next = tallymere::Load_Check(session, check_.TransNum, forward);
-  if (next.bounce) bounce();
-  if (next.check) show_check(*next.check);
-}
-
-void frmCheck::load_again() {
-  const auto check = tallymere::Load_Check(session, check_.TransNum);
-  show_check(check ? *check : New_Check(session));
+void frmCheck::entered(const SaveResult& result) {
+  if (result.fault) expenses_->point_at_mistake();
+  txtIndex->setText(QString::number(document_.TransNum));
 }
 
 // --- commands ------------------------------------------------------------------------------------
 
-void frmCheck::cmdDelete_Click() {
-  const DeleteResult result = Delete_Check(session, check_);
-  if (result.conflict) return show_conflict(*result.conflict);
-  if (!result.deleted) return;
-  if (result.show) show_check(*result.show);
-  shell.changed("Transactions");
-}
+void frmCheck::cmdDelete_Click() { show_deleted(Delete_Check(session, document_)); }
 
 void frmCheck::cmdPrint_Click() {
   if (!save()) return;
@@ -326,16 +198,17 @@ void frmCheck::cmdPrint_Click() {
 }
 
 void frmCheck::cmdRepeat_Click() {
-  shell.Show_Window({.window = "frmModRepeat", .key = "Check", .number = check_.TransNum, .parent = check_.BankID});
+  shell.Show_Window(
+      {.window = "frmModRepeat", .key = "Check", .number = document_.TransNum, .parent = document_.BankID});
 }
 
 void frmCheck::cmdEditPayCheck_Click() {
-  shell.Show_Window({.window = "frmPayCheck", .key = {}, .number = check_.TransNum});
+  shell.Show_Window({.window = "frmPayCheck", .key = {}, .number = document_.TransNum});
 }
 
 void frmCheck::cmdLiaEdit_Click() {
-  const char* window = check_.has_payroll_items ? "frmPayLiabilites" : "frmPaySalesTax";
-  shell.Show_Window({.window = window, .key = {}, .number = check_.TransNum});
+  const char* window = document_.has_payroll_items ? "frmPayLiabilites" : "frmPaySalesTax";
+  shell.Show_Window({.window = window, .key = {}, .number = document_.TransNum});
 }
 
 }  // namespace tallymere

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "entry/checks/check.h"
-#include "entry/document/EntryForm.h"
+#include "entry/document/DocumentForm.h"
 
 class QFrame;
 class QGroupBox;
@@ -14,26 +14,29 @@ namespace tallymere {
 
 class AddressEdit;
 class DropDowns;
+class ExpenseGrid;
+class ItemGrid;
 class MoneyEdit;
 class QuillbrookDatePick;
 class SSDBCombo;
 
 /// The check book: a paper check over the rows of one transaction. It writes plain checks and shows the three
 /// kinds that other windows write.
-class frmCheck : public EntryForm {
+class frmCheck : public DocumentForm<Check> {
   Q_OBJECT
 
  public:
   explicit frmCheck(Shell& shell_of_frame);
 
   void load() override;
-  void take(const Request& request) override;  ///< `number`: the check to show
   void on_changed(const std::string& table) override;
 
  protected:
-  bool enter() override;
-  void step(bool forward) override;
-  void load_again() override;
+  void show_document(const Check& check) override;
+  void shown() override;
+  Check read() const override;
+  bool settle() override;
+  void entered(const SaveResult& result) override;
 
  private:
   // --- the screen (frmCheck_build.cpp)
@@ -45,33 +48,20 @@ class frmCheck : public EntryForm {
   QGroupBox* build_paycheck();
   QGroupBox* build_liability();
   void connect_controls();
-  void connect_lines();
   void order_tabs();
 
   // --- document to screen and back
-  void show_check(const Check& check);
   void show_head(const Check& check);
-  void show_expenses(const std::vector<ExpenseLine>& lines);
-  void show_items(const std::vector<ItemLine>& lines);
   void show_other_kinds(const Check& check);
   void set_editable(const Check& check);
-  Check read() const;
-  std::vector<ExpenseLine> read_expenses() const;
-  std::vector<ItemLine> read_items() const;
 
   // --- what happens while it is filled in
-  bool settle();  ///< what leaving the fields and lines sets off, before saving; false: something was refused
   void set_bank(const std::string& CatID);
   void cmbAccount_LostFocus();
   void Load_Address_Box();
   void Check_New_Payee();
   bool txtAmount_LostFocus();
-  void propose_remainder(Money amount);
-  void grdExpense_AfterColUpdate(int row, int column);
-  void new_category();  ///< for a line that was left with text that is no category
-  void grdItems_AfterColUpdate(int row, int column);
   void go_to_lines();
-  void point_at_mistake();
 
   // --- commands
   void cmdDelete_Click();
@@ -80,12 +70,11 @@ class frmCheck : public EntryForm {
   void cmdEditPayCheck_Click();
   void cmdLiaEdit_Click();
 
-  Check check_;            ///< as it was loaded or last saved
-  bool valid_ = true;      ///< Valid: the category, item or payee last typed is one of its list
   std::string addressed_;  ///< the payee whose address was last asked for
   std::string in_words_;   ///< the text of txtAmount that lblAmount and the remainder stand for
-  int left_line_ = -1;     ///< the expense line that was left last; -1: dealt with
   DropDowns* lists_;
+  ExpenseGrid* expenses_;
+  ItemGrid* items_;
 
   QFrame* fraCheck;
   SSDBCombo *cmbAccount, *cmbPayee;
@@ -97,7 +86,7 @@ class frmCheck : public EntryForm {
   QStackedWidget* pages_;
   QTabWidget* SSTab1;
   QGroupBox *fraBill, *fraPaycheck, *fraLiability;
-  SSDBGrid *grdExpense, *grdItems, *grdBills, *grdLiabilities;
+  SSDBGrid *grdBills, *grdLiabilities;
   QPushButton *cmdPrint, *cmdDelete, *cmdRepeat, *cmdEditPayCheck, *cmdLiaEdit;
 };
 

@@ -3,100 +3,37 @@
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
-#include <QPainter>
 #include <QPushButton>
 #include <QStackedWidget>
 #include <QTabWidget>
 
 #include "entry/checks/frmCheck.h"
+#include "entry/document/ExpenseGrid.h"
+#include "entry/document/ItemGrid.h"
 #include "shell/drop_downs.h"
 #include "shell/widgets/AddressEdit.h"
 #include "shell/widgets/MoneyEdit.h"
 #include "shell/widgets/QuillbrookDatePick.h"
 #include "shell/widgets/company_color.h"
 #include "shell/widgets/grid/SSDBCombo.h"
+#include "shell/widgets/paper.h"
 #include "shell/widgets/theme.h"
 
 namespace tallymere {
 
 namespace {
 
-constexpr int account_id = 5;  // grdExpense's hidden column
-
-/// The sheet of paper: one fine line around what is written on it.
-class Paper : public QFrame {
- public:
-  Paper() { setFrameShape(QFrame::NoFrame); }
-
- protected:
-  void paintEvent(QPaintEvent*) override {
-    QPainter painter(this);
-    QColor edge = palette().color(QPalette::WindowText);
-    edge.setAlpha(90);
-    painter.setPen(edge);
-    painter.drawRect(rect().adjusted(0, 0, -1, -1));
-    edge.setAlpha(40);
-    painter.setPen(edge);
-    painter.drawRect(rect().adjusted(3, 3, -4, -4));
-  }
-};
-
-/// The words of the amount stand on a line. The asterisks before them are cut when there is no room, the
-/// words never: they are set smaller.
-class WordsLine : public QLabel {
- public:
-  WordsLine() { setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed); }
-  QSize sizeHint() const override { return {60 * theme::unit, QFontMetrics(font()).height() + theme::unit}; }
-  QSize minimumSizeHint() const override { return {20 * theme::unit, sizeHint().height()}; }
-
- protected:
-  void paintEvent(QPaintEvent*) override {
-    QPainter painter(this);
-    painter.setPen(palette().color(QPalette::WindowText));
-    painter.drawLine(0, height() - 1, width(), height() - 1);
-    painter.setFont(fitting_font());
-    painter.drawText(rect().adjusted(0, 0, 0, -3), Qt::AlignRight | Qt::AlignBottom, text());
-  }
-
- private:
-  QFont fitting_font() const {
-    QString words = text();
-    while (words.startsWith(QLatin1String("* "))) words.remove(0, 2);
-    QFont fitting = font();
-    // Widths do not shrink in step with the size: tried until the words fit.
-    while (QFontMetricsF(fitting, this).horizontalAdvance(words) + 1 > width() && fitting.pointSizeF() > 4)
-      fitting.setPointSizeF(fitting.pointSizeF() - 0.25);
-    return fitting;
-  }
-};
-
 QLabel* label(const char* text, QWidget* control) { return label_for(control, QString::fromLatin1(text)); }
-
-QHBoxLayout* figure(const char* text, QLabel* value) {
-  auto* row = row_layout();
-  row->addWidget(new QLabel(QString::fromLatin1(text)));
-  row->addWidget(value);
-  row->addStretch(1);
-  return row;
-}
-
-QPushButton* later(QPushButton* button, bool there, const char* window) {
-  button->setEnabled(there);
-  if (!there)
-    button->setToolTip(QStringLiteral("%1 is not part of this version yet.").arg(QString::fromLatin1(window)));
-  return button;
-}
 
 }  // namespace
 
 frmCheck::frmCheck(Shell& shell_of_frame)
-    : EntryForm(shell_of_frame, "frmCheck"), check_{.Date = session.today()}, lists_(new DropDowns(session, this)) {
+    : DocumentForm(shell_of_frame, "frmCheck", Check_Kind), lists_(new DropDowns(session, this)) {
   setWindowTitle(QStringLiteral("Checks"));
   build_fields();
   build_lines();
   build();
   connect_controls();
-  connect_lines();
   order_tabs();
 }
 
@@ -159,27 +96,8 @@ QFrame* frmCheck::build_check() {
 }
 
 void frmCheck::build_lines() {
-  const auto list = [](const char* name, SSDBDropDown* choices, int id = -1) {
-    return GridColumn{.name = QString::fromLatin1(name), .list = choices, .id_column = id};
-  };
-  grdExpense = line_grid("grdExpense",
-                         {list("Category", lists_->drpExpenseList, account_id),
-                          {.name = QStringLiteral("Amount"), .kind = Kind::money, .width = 15},
-                          {.name = QStringLiteral("Memo")},
-                          list("Customer", lists_->drpCustomers),
-                          list("Class", lists_->drpClass),
-                          {.name = QStringLiteral("CatID"), .kind = Kind::hidden}},
-                         QStringLiteral("Choose a category for what this check pays."));
-  grdItems = line_grid("grdItems",
-                       {list("Item", lists_->drpItems),
-                        {.name = QStringLiteral("Description")},
-                        {.name = QStringLiteral("Quantity"), .kind = Kind::number, .width = 10},
-                        {.name = QStringLiteral("Cost"), .kind = Kind::money, .width = 12},
-                        {.name = QStringLiteral("Amount"), .kind = Kind::money, .width = 15},
-                        list("Customer", lists_->drpCustomers),
-                        list("Class", lists_->drpClass),
-                        {.name = QStringLiteral("CatID"), .kind = Kind::hidden}},
-                       QStringLiteral("Choose an item that this check buys."));
+  expenses_ = new ExpenseGrid(*this, shell, *lists_, QStringLiteral("Choose a category for what this check pays."));
+  items_ = new ItemGrid(*this, shell, *lists_, {.hint = QStringLiteral("Choose an item that this check buys.")});
 }
 
 QGroupBox* frmCheck::build_bill() {
@@ -199,11 +117,11 @@ QGroupBox* frmCheck::build_paycheck() {
   fraPaycheck = named("fraPaycheck", new QGroupBox(QStringLiteral("Pay Check Summary")));
   lblPayPeriod = named("lblPayPeriod", new QLabel);
   lblHours = named("lblHours", new QLabel);
-  cmdEditPayCheck = later(named("cmdEditPayCheck", new QPushButton(QStringLiteral("&Edit Paycheck"))),
-                          shell.has_window("frmPayCheck"), "frmPayCheck");
+  cmdEditPayCheck =
+      leads_to(named("cmdEditPayCheck", new QPushButton(QStringLiteral("&Edit Paycheck"))), "frmPayCheck");
   auto* column = column_layout(fraPaycheck);
-  column->addLayout(figure("Pay Period:", lblPayPeriod));
-  column->addLayout(figure("Hours:", lblHours));
+  column->addLayout(figure_row("Pay Period:", lblPayPeriod));
+  column->addLayout(figure_row("Hours:", lblHours));
   column->addLayout(plain_button_row({cmdEditPayCheck}, {}));
   column->addStretch(1);
   return fraPaycheck;
@@ -217,7 +135,7 @@ QGroupBox* frmCheck::build_liability() {
       {{.name = QStringLiteral("PayrollItem")}, {.name = QStringLiteral("Amount"), .kind = Kind::money, .width = 14}});
   cmdLiaEdit = named("cmdLiaEdit", new QPushButton(QStringLiteral("&Edit Liability Check")));
   auto* column = column_layout(fraLiability);
-  column->addLayout(figure("Paid Through", lblPaidThrough));
+  column->addLayout(figure_row("Paid Through", lblPaidThrough));
   column->addWidget(grdLiabilities);
   column->addLayout(plain_button_row({cmdLiaEdit}, {}));
   return fraLiability;
@@ -233,8 +151,8 @@ void frmCheck::build() {
   bank->addWidget(lblBalance);
 
   SSTab1 = named("SSTab1", new QTabWidget);
-  SSTab1->addTab(grdExpense, QStringLiteral("E&xpenses"));
-  SSTab1->addTab(grdItems, QStringLiteral("&Items"));
+  SSTab1->addTab(expenses_->grid, QStringLiteral("E&xpenses"));
+  SSTab1->addTab(items_->grid, QStringLiteral("&Items"));
   pages_ = new QStackedWidget;
   for (QWidget* page : {static_cast<QWidget*>(SSTab1), static_cast<QWidget*>(build_bill()),
                         static_cast<QWidget*>(build_paycheck()), static_cast<QWidget*>(build_liability())})
@@ -242,8 +160,7 @@ void frmCheck::build() {
 
   cmdPrint = named("cmdPrint", new QPushButton(QStringLiteral("&Print Check")));
   cmdDelete = named("cmdDelete", new QPushButton(QStringLiteral("&Delete Check")));
-  cmdRepeat = later(named("cmdRepeat", new QPushButton(QStringLiteral("&Repeat Check"))),
-                    shell.has_window("frmModRepeat"), "frmModRepeat");
+  cmdRepeat = leads_to(named("cmdRepeat", new QPushButton(QStringLiteral("&Repeat Check"))), "frmModRepeat");
   auto* column = column_layout(this);
   column->addLayout(bank);
   column->addWidget(build_check());
@@ -254,9 +171,10 @@ void frmCheck::build() {
 
 /// As a check is written: payee and amount before address and memo, then the lines.
 void frmCheck::order_tabs() {
-  QWidget* const order[] = {cmbAccount, txtNumber, DTPicker1, cmbPayee,        txtAmount,      txtAddress, txtMemo,
-                            grdExpense, grdItems,  grdBills,  cmdEditPayCheck, grdLiabilities, cmdLiaEdit, cmdPrev,
-                            cmdNext,    cmdOk,     cmdPrint,  cmdDelete,       cmdRepeat};
+  QWidget* const order[] = {cmbAccount,      txtNumber,      DTPicker1,       cmbPayee,     txtAmount,
+                            txtAddress,      txtMemo,        expenses_->grid, items_->grid, grdBills,
+                            cmdEditPayCheck, grdLiabilities, cmdLiaEdit,      cmdPrev,      cmdNext,
+                            cmdOk,           cmdPrint,       cmdDelete,       cmdRepeat};
   for (size_t i = 1; i < std::size(order); ++i) setTabOrder(order[i - 1], order[i]);
 }
 
@@ -278,17 +196,6 @@ void frmCheck::connect_controls() {
   on(cmdRepeat, "cmdRepeat_Click", [this] { cmdRepeat_Click(); });
   on(cmdEditPayCheck, "cmdEditPayCheck_Click", [this] { cmdEditPayCheck_Click(); });
   on(cmdLiaEdit, "cmdLiaEdit_Click", [this] { cmdLiaEdit_Click(); });
-}
-
-void frmCheck::connect_lines() {
-  on(grdExpense, &SSDBGrid::AfterColUpdate, "grdExpense_AfterColUpdate",
-     [this](int row, int column) { grdExpense_AfterColUpdate(row, column); });
-  on(grdItems, &SSDBGrid::AfterColUpdate, "grdItems_AfterColUpdate",
-     [this](int row, int column) { grdItems_AfterColUpdate(row, column); });
-  on(grdExpense, &SSDBGrid::AfterUpdate, "grdExpense_RowColChange", [this](int row) { left_line_ = row; });
-  connect(
-      grdExpense, &SSDBGrid::AfterUpdate, this,
-      [this] { guard("grdExpense_RowColChange", [this] { new_category(); }); }, Qt::QueuedConnection);
 }
 
 }  // namespace tallymere

@@ -46,36 +46,32 @@ bool is_amount(Kind kind) { return kind == Kind::money || kind == Kind::number; 
 }  // namespace
 
 EntryForm::EntryForm(Shell& shell_of_frame, const char* name) : Form(shell_of_frame, name) {
-  cmdPrev = named("cmdPrev", new QPushButton(QStringLiteral("P&revious")));
-  cmdNext = named("cmdNext", new QPushButton(QStringLiteral("&Next")));
   cmdOk = named("cmdOk", new QPushButton(QStringLiteral("&Ok")));
-  cmdPrev->setToolTip(QStringLiteral("Saves and shows the one before"));
-  cmdNext->setToolTip(QStringLiteral("Saves and shows the one after, or a new one (Ctrl+Enter)"));
   cmdOk->setToolTip(QStringLiteral("Saves and closes"));
-  on(cmdPrev, "cmdPrev_Click", [this] { walk(false); });
-  on(cmdNext, "cmdNext_Click", [this] { walk(true); });
   on(cmdOk, "cmdOk_AfterClick", [this] { save_and_close(); });
 }
 
-// --- saving and moving -------------------------------------------------------------------------------------
+// --- saving ----------------------------------------------------------------------------------------------
 
 bool EntryForm::save() {
-  if (!enter()) return false;
-  keep();
-  return true;
-}
-
-void EntryForm::walk(bool forward) {
-  const Hourglass hourglass(session.prompts);
-  if (save()) step(forward);
+  const CategoriesMade categories(session);
+  const bool saved = enter();
+  if (saved) keep();
+  if (categories.any()) shell.changed("Accounts");
+  return saved;
 }
 
 void EntryForm::save_and_close() {
   if (save()) finish(true);
 }
 
+void EntryForm::discard() {
+  keep();
+  finish(false);
+}
+
 bool EntryForm::control_enter() {
-  walk(true);
+  save_and_close();
   return true;
 }
 
@@ -90,8 +86,6 @@ void EntryForm::show_conflict(const Conflict& conflict) {
   session.prompts.box(conflict.box);
   if (conflict.reload) load_again();
 }
-
-void EntryForm::bounce() { session.prompts.sound(ball_bounce); }
 
 // --- nothing is lost by a slip -------------------------------------------------------------------
 
@@ -110,6 +104,23 @@ bool EntryForm::let_go() {
 }
 
 bool EntryForm::may_close() { return let_go(); }
+
+// --- buttons ---------------------------------------------------------------------------------------------
+
+QPushButton* EntryForm::cancel_button(const char* name) {
+  auto* button = named(name, new QPushButton(QStringLiteral("&Cancel")));
+  button->setToolTip(QStringLiteral("Closes without saving"));
+  on(button, "cmdCancel_Click", [this] { discard(); });
+  return button;
+}
+
+QPushButton* EntryForm::leads_to(QPushButton* button, const char* window) {
+  const bool there = shell.has_window(window);
+  button->setEnabled(there);
+  if (!there)
+    button->setToolTip(QStringLiteral("%1 is not part of this version yet.").arg(QString::fromLatin1(window)));
+  return button;
+}
 
 // --- grids of lines ------------------------------------------------------------------------------
 

@@ -12,7 +12,7 @@ namespace {
 
 constexpr int64_t filled_at_load = 20;
 
-std::optional<Money> Side(const store::Row& row, int column) {
+std::optional<Money> Amount_On(const store::Row& row, int column) {
   const Money amount = row.money(column);
   return amount.is_zero() ? std::nullopt : std::optional(amount);
 }
@@ -99,9 +99,9 @@ void Register::read(Day& day) {
                              .Category = other == break_down ? other : categories_.name(other),
                              .Memo = text(6),
                              .Class = text(7),
-                             .Credit = Side(row, 9),
+                             .Credit = Amount_On(row, 9),
                              .Cleared = row.flag(10),
-                             .Debit = Side(row, 8),
+                             .Debit = Amount_On(row, 8),
                              .Balance = balance,
                              .TransNum = row.integer(1),
                              .CatID = other,

@@ -11,7 +11,7 @@ namespace {
 
 constexpr const char* grid = "grdRegister";
 
-std::optional<Money> Side(store::Recordset& row, const char* field) {
+std::optional<Money> Amount_On(store::Recordset& row, const char* field) {
   const Money amount = row[field].money();
   return amount.is_zero() ? std::nullopt : std::optional(amount);
 }
@@ -50,9 +50,9 @@ std::optional<RegisterEntry> Open_Entry(Session& session, const Register& reg, c
   entry.Category = Category_Name(session, row["Category"].text());
   entry.Memo = row["Memo"].text();
   entry.Class = row["Class"].text();
-  entry.Credit = Side(row, "Credit");
+  entry.Credit = Amount_On(row, "Credit");
   entry.Cleared = row["Cleared"].flag();
-  entry.Debit = Side(row, "Debit");
+  entry.Debit = Amount_On(row, "Debit");
   entry.CatID = entry.is_broken_down() ? "" : row["Category"].text();
   Read_Lines(session,
              db.OpenRecordset("SELECT * FROM Transactions WHERE TransNum = ? AND Account <> ? ORDER BY RowKey",

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "entry/document/document.h"
+#include "entry/document/lines.h"
 #include "entry/register/register.h"
 
 /// A simple two-sided entry typed straight into a register, or broken down over several categories.

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "entry/document/LineGrid.h"
+
+namespace tallymere {
+
+/// grdExpense, as checks and bills have it: what a document is for, category by category.
+class ExpenseGrid : public LineGrid {
+ public:
+  enum Column { Category, Amount, Memo, Customer, Class, CatID, Kept };
+
+  ExpenseGrid(EntryForm& window, Shell& shell_of_frame, DropDowns& lists_of_window, const QString& hint);
+
+  void show(const std::vector<ExpenseLine>& lines);
+  std::vector<ExpenseLine> read() const;
+
+  /// Lines without an amount go; what the others leave of the document's amount is proposed on a new one.
+  void propose_remainder(Money amount);
+  /// Offers to make the category of the line that was left last, where it is none.
+  void new_category();
+  /// Takes what is being typed, and asks what leaving its line asks.
+  void settle();
+  /// Goes to the line that no save takes: an amount without a category, or a category nobody knows.
+  void point_at_mistake();
+
+ private:
+  int left_line_ = -1;  ///< -1: dealt with
+};
+
+}  // namespace tallymere
