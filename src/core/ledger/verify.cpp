@@ -1,6 +1,7 @@
 #include "core/ledger/verify.h"
 
 #include "core/company/schema.h"
+#include "core/names/name_faults.h"
 #include "core/store/sql.h"
 #include "core/values/text.h"
 
@@ -110,7 +111,8 @@ constexpr Check checks[] = {{"file", File_Is_Sound},
                             {"documents", One_Document_A_Number},
                             {"categories", Fixed_Categories_Stand},
                             {"links", All_Links_Resolve},
-                            {"payments", Payments_Exist}};
+                            {"payments", Payments_Exist},
+                            {"names", Name_Faults}};
 
 }  // namespace
 
