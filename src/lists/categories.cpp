@@ -47,13 +47,17 @@ std::optional<Fault> Form_Fault(Session& session, const CategoryForm& form) {
   return std::nullopt;
 }
 
-store::Recordset Row_Of(Session& session, const std::string& CatID) {
-  return session.dbCompany->OpenRecordset("SELECT * FROM Accounts WHERE CatID = ?", {CatID});
+/// A parent of another type would carry the category to where its type does not belong.
+std::optional<Fault> Parent_Fault(Session& session, const CategoryForm& form) {
+  if (!form.Check1 || form.lblParentID.empty()) return std::nullopt;
+  for (const ParentChoice& choice : Parent_Choices(session, form))
+    if (same_text(choice.CatID, form.lblParentID)) return std::nullopt;
+  return Mistake("Please select a Parent Category of the same type.", "No Parent", "cmbSubCat");
 }
 
-void Begin_Row(Session& session, store::Recordset& row, CategoryForm& form) {
-  if (form.mode == AccountMode::Edit) return row.Edit();
-  row.AddNew();
+void Begin_Category(Session& session, ListRow& row, CategoryForm& form) {
+  if (!row.is_new()) return;
+  form.CatID = Unused_CatID(*session.dbCompany);
   row["CatID"] = form.CatID;
   row["OpeningDate"] = session.today();
   row["LastYearEndBal"] = Money();
@@ -97,21 +101,19 @@ bool Delete_Category(Session& session, const AccountRow& row) {
 
 CategoryForm New_Category(AccountMode mode, const std::string& name) { return {.mode = mode, .txtName = name}; }
 
-CategoryForm Edit_Category(Session& session, const std::string& CatID) {
-  auto row = Row_Of(session, CatID);
+CategoryForm Edit_Category(Session& session, ListRow& row) {
   CategoryForm form{.mode = AccountMode::Edit,
-                    .CatID = CatID,
+                    .CatID = row.key(),
                     .txtName = row["AccountName"].text(),
                     .cmbType = row["AccountType"].text(),
                     .txtAcctNum = row["AccountNum"].text(),
                     .txtDescripiton = row["Description"].text(),
                     .chkDormant = row["Dormant"].flag()};
-  if (row["ParentAccount"].blank()) return form;
+  const std::string parent = row["ParentAccount"].text();
+  if (parent.empty()) return form;
   form.Check1 = true;
-  auto parent = Row_Of(session, row["ParentAccount"].text());
-  if (!parent.has_row()) return form;
-  form.cmbSubCat = parent["AccountName"].text();
-  form.lblParentID = parent["CatID"].text();
+  form.cmbSubCat = Category_Name(session, parent);
+  if (!form.cmbSubCat.empty()) form.lblParentID = parent;
   return form;
 }
 
@@ -138,23 +140,19 @@ std::optional<Fault> Check_Sub_Category(const CategoryForm& form) {
   return Mistake("Please select a Parent Category before selecting a Sub Category.", "No Parent", "cmbType");
 }
 
-std::optional<Fault> Save_Category(Session& session, CategoryForm& form) {
-  if (auto fault = Form_Fault(session, form)) return fault;
-  store::Transaction tx(*session.dbCompany, "Category " + form.txtName);
-  const bool is_new = form.mode != AccountMode::Edit;
-  const std::string CatID = is_new ? Unused_CatID(*session.dbCompany) : form.CatID;
-  auto row = Row_Of(session, CatID);
-  if (is_new) form.CatID = CatID;
-  Begin_Row(session, row, form);
-  row["AccountName"] = form.txtName;
-  row["AccountType"] = form.cmbType;
-  row["AccountNum"] = form.txtAcctNum;
-  row["Description"] = form.txtDescripiton;
-  row["ParentAccount"] = form.Check1 ? form.lblParentID : std::string();
-  row["Dormant"] = form.chkDormant;
-  row.Update();
-  tx.commit();
-  return std::nullopt;
+RowSave Save_Category(Session& session, ListRow& row, CategoryForm& form) {
+  if (auto fault = Form_Fault(session, form)) return {.fault = fault};
+  return Save_Row(session, row, "Category " + form.txtName, [&](ListRow& fields) {
+    if (auto fault = Parent_Fault(session, form)) return fault;
+    Begin_Category(session, fields, form);
+    fields.set_text("AccountName", form.txtName);
+    fields.set_text("AccountType", form.cmbType);
+    fields.set_text("AccountNum", form.txtAcctNum);
+    fields.set_text("Description", form.txtDescripiton);
+    fields.set_text("ParentAccount", form.Check1 ? form.lblParentID : "");
+    fields["Dormant"] = form.chkDormant;
+    return std::optional<Fault>();
+  });
 }
 
 }  // namespace tallymere

@@ -8,6 +8,7 @@
 #include "core/company/prompts.h"
 #include "core/company/session.h"
 #include "core/ledger/category_list.h"
+#include "lists/list_row.h"
 
 /// The list of categories and the form that makes or changes one.
 namespace tallymere {
@@ -55,8 +56,8 @@ struct CategoryForm {
 
 /// A blank form; `name` is what was typed into an entry window's grid.
 CategoryForm New_Category(AccountMode mode = AccountMode::New, const std::string& name = "");
-/// The form on a category. Error 3021 when it is gone.
-CategoryForm Edit_Category(Session& session, const std::string& CatID);
+/// The form on a category.
+CategoryForm Edit_Category(Session& session, ListRow& row);
 
 /// The types that cmbType offers.
 std::vector<std::string> Account_Types(Session& session);
@@ -71,8 +72,7 @@ std::vector<ParentChoice> Parent_Choices(Session& session, const CategoryForm& f
 /// Ticking Check1 needs a type first.
 std::optional<Fault> Check_Sub_Category(const CategoryForm& form);
 
-/// Saves the form, or answers with the first mistake. A new category gets the lowest unused number followed
-/// by "SS".
-std::optional<Fault> Save_Category(Session& session, CategoryForm& form);
+/// Saves the form, or answers with the first mistake. A new category gets an unused number followed by "SS".
+RowSave Save_Category(Session& session, ListRow& row, CategoryForm& form);
 
 }  // namespace tallymere

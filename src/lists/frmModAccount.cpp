@@ -4,21 +4,19 @@
 #include <QFormLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPushButton>
 
 #include "shell/widgets/grid/SSDBCombo.h"
 #include "shell/widgets/theme.h"
 
 namespace tallymere {
 
-frmModAccount::frmModAccount(Shell& shell_of_frame) : Form(shell_of_frame, "frmModAccount", Place::Above) {
+frmModAccount::frmModAccount(Shell& shell_of_frame)
+    : RowForm(shell_of_frame, "frmModAccount", Category_Rows, {"New Category", "Edit Category"}) {
   build();
   on(Check1, "Check1_Click", [this] { Check1_Click(); });
   on(cmbType, &SSDBCombo::Changed, "cmbType_Change", [this] { cmbType_Change(); });
   on(cmbSubCat, &SSDBCombo::Changed, "cmbSubCat_Change", [this] { cmbSubCat_Change(); });
   on(cmbSubCat, &SSDBCombo::LostFocus, "cmbSubCat_LostFocus", [this] { cmbSubCat_LostFocus(); });
-  on(cmdOk, "cmdOk_AfterClick", [this] { cmdOk_AfterClick(); });
-  on(cmdCancel, "cmdCancel_Click", [this] { finish(false); });
 }
 
 void frmModAccount::build() {
@@ -33,8 +31,6 @@ void frmModAccount::build() {
   chkDormant = named("chkDormant", new QCheckBox(QStringLiteral("&Dormant Category")));
   lblParentID = named("lblParentID", new QLabel(this));
   lblParentID->hide();
-  cmdOk = named("cmdOk", new QPushButton(QStringLiteral("&Ok")));
-  cmdCancel = named("cmdCancel", new QPushButton(QStringLiteral("&Cancel")));
 
   auto* fields = form_layout();
   add_field(fields, QStringLiteral("Category &Name:"), txtName);
@@ -52,14 +48,14 @@ void frmModAccount::load() {
 }
 
 void frmModAccount::take(const Request& request) {
-  const auto mode = static_cast<AccountMode>(request.number);
-  const bool edit = mode == AccountMode::Edit;
-  form_ = edit ? Edit_Category(session, request.key) : New_Category(mode, request.key);
-  setWindowTitle(edit ? QStringLiteral("Edit Category") : QStringLiteral("New Category"));
-  show_form();
+  mode_ = static_cast<AccountMode>(request.number);
+  const bool edit = mode_ == AccountMode::Edit;
+  typed_ = edit ? "" : request.key;
+  RowForm::take({.window = request.window, .key = edit ? request.key : ""});
 }
 
-void frmModAccount::show_form() {
+void frmModAccount::show_row() {
+  form_ = is_new() ? New_Category(mode_, typed_) : Edit_Category(session, row());
   txtName->setText(qt(form_.txtName));
   cmbType->set_text(form_.cmbType);
   Check1->setChecked(form_.Check1);
@@ -104,8 +100,12 @@ void frmModAccount::Check1_Click() {
   cmbSubCat->setEnabled(Check1->isChecked());
 }
 
+/// A parent of another type is none.
 void frmModAccount::cmbType_Change() {
-  if (Check1->isChecked()) fill_parents();
+  if (!Check1->isChecked()) return;
+  fill_parents();
+  if (!cmbSubCat->Valid()) cmbSubCat->set_text({});
+  lblParentID->setText(qt(cmbSubCat->id()));
 }
 
 void frmModAccount::cmbSubCat_Change() { lblParentID->setText(qt(cmbSubCat->id())); }
@@ -115,11 +115,9 @@ void frmModAccount::cmbSubCat_LostFocus() {
   if (lblParentID->text().isEmpty()) cmbSubCat->set_text({});
 }
 
-void frmModAccount::cmdOk_AfterClick() {
-  CategoryForm form = read();
-  if (const auto fault = Save_Category(session, form)) return show_fault(*fault);
-  shell.changed("Accounts");
-  finish(true, form.CatID);
+RowSave frmModAccount::save_row() {
+  form_ = read();
+  return Save_Category(session, row(), form_);
 }
 
 }  // namespace tallymere

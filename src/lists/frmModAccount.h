@@ -1,12 +1,11 @@
 #pragma once
 
+#include "lists/RowForm.h"
 #include "lists/categories.h"
-#include "shell/widgets/Form.h"
 
 class QCheckBox;
 class QLabel;
 class QLineEdit;
-class QPushButton;
 
 namespace tallymere {
 
@@ -14,7 +13,7 @@ class SSDBCombo;
 
 /// Makes or changes a category. Asked with its mode as `number`, and as `key` the CatID to change or the name
 /// that was typed into an entry window; its answer is the CatID.
-class frmModAccount : public Form {
+class frmModAccount : public RowForm {
   Q_OBJECT
 
  public:
@@ -23,23 +22,27 @@ class frmModAccount : public Form {
   void load() override;
   void take(const Request& request) override;
 
+ protected:
+  void show_row() override;
+  RowSave save_row() override;
+  std::string saved_key() const override { return form_.CatID; }
+
  private:
   void build();
-  void show_form();
   CategoryForm read() const;
   void fill_parents();
   void Check1_Click();
   void cmbType_Change();
   void cmbSubCat_Change();
   void cmbSubCat_LostFocus();
-  void cmdOk_AfterClick();
 
+  AccountMode mode_ = AccountMode::New;
+  std::string typed_;  ///< the name that was typed into an entry window
   CategoryForm form_;
   QLineEdit *txtName, *txtAcctNum, *txtDescripiton;
   SSDBCombo *cmbType, *cmbSubCat;
   QCheckBox *Check1, *chkDormant;
   QLabel* lblParentID;
-  QPushButton *cmdOk, *cmdCancel;
 };
 
 }  // namespace tallymere

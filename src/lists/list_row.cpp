@@ -10,10 +10,11 @@ std::string Query(const RowList& list, std::string_view condition) {
 }
 
 Conflict Changed_Meanwhile(const RowList& list) {
-  return {{"This " + std::string(list.word) +
-               " has been modified by another user since you opened it. It will not be updated. Click Ok to see changes.",
-           "Data has changed", Icon::Information},
-          true};
+  return {
+      {"This " + std::string(list.word) +
+           " has been modified by another user since you opened it. It will not be updated. Click Ok to see changes.",
+       "Data has changed", Icon::Information},
+      true};
 }
 
 }  // namespace
@@ -28,6 +29,13 @@ ListRow::ListRow(Session& session, const RowList& list, const std::string& key)
 
 void ListRow::set_text(std::string_view field, const std::string& text) {
   if (fields_[field].text() != text) fields_[field] = text;
+}
+
+bool Row_Exists(Session& session, const RowList& list, const std::string& key) {
+  return !session.dbCompany
+              ->value("SELECT RowKey FROM " + store::Quoted(list.table) + " WHERE " + store::Quoted(list.key) + " = ?",
+                      {key})
+              .is_null();
 }
 
 struct RowSaving {
@@ -48,12 +56,13 @@ struct RowSaving {
   }
 };
 
-RowSave Save_Row(Session& session, ListRow& row, const std::string& what, const WriteRow& write) {
+RowSave Save_Row(Session& session, ListRow& row, const std::string& what, const WriteRow& write,
+                 const WriteRow& after) {
   return RowSaving::run(session, row, what, [&](store::Recordset& fields) {
     row.is_new() ? fields.AddNew() : fields.Edit();
     auto fault = write(row);
     fault ? fields.CancelUpdate() : fields.Update();
-    return fault;
+    return fault || !after ? fault : after(row);
   });
 }
 

@@ -44,18 +44,22 @@ class ListRow {
   store::Recordset fields_;
 };
 
+bool Row_Exists(Session& session, const RowList& list, const std::string& key);
+
 /// How a save ended: written, the user's mistake, or another user's work. Only a save without both wrote anything.
 struct RowSave {
   std::optional<Fault> fault = {};
   std::optional<Conflict> conflict = {};
+  bool stayed = false;  ///< the user was asked, and goes on with the form
 
-  bool ok() const { return !fault && !conflict; }
+  bool ok() const { return !fault && !conflict && !stayed; }
 };
 
-/// Saves a row in one store transaction: `write` sets its fields, and what else it writes belongs to the same commit.
-/// A fault that it answers with leaves everything as it was.
+/// Saves a row in one store transaction: `write` sets its fields, then `after` writes what goes with it. A fault that
+/// one answers with leaves everything as it was.
 using WriteRow = std::function<std::optional<Fault>(ListRow& row)>;
-RowSave Save_Row(Session& session, ListRow& row, const std::string& what, const WriteRow& write);
+RowSave Save_Row(Session& session, ListRow& row, const std::string& what, const WriteRow& write,
+                 const WriteRow& after = {});
 
 /// Removes the row instead, in the same way; `write` does what goes with it.
 RowSave Remove_Row(Session& session, ListRow& row, const std::string& what, const WriteRow& write);

@@ -88,12 +88,14 @@ TEST(Categories, OnlyAnUnusedCategoryIsDeleted) {
 TEST(Categories, TheFormNamesItsFirstMistake) {
   TestCompany company;
   CategoryForm form = New_Category();
-  EXPECT_EQ(Save_Category(*company.session, form)->control, "txtName");
+  ListRow row(*company.session, Category_Rows);
+  const auto save = [&] { return Save_Category(*company.session, row, form).fault; };
+  EXPECT_EQ(save()->control, "txtName");
   form.txtName = "Fuel";
-  EXPECT_EQ(Save_Category(*company.session, form)->box.text, "Please select a type for this Category");
+  EXPECT_EQ(save()->box.text, "Please select a type for this Category");
   EXPECT_EQ(Check_Sub_Category(form)->box.title, "No Parent");
   form.cmbType = "Expanse";  // would show in no list
-  EXPECT_EQ(Save_Category(*company.session, form)->control, "cmbType");
+  EXPECT_EQ(save()->control, "cmbType");
 }
 
 TEST(Categories, ANewCategoryTakesTheLowestFreeNumber) {
@@ -102,7 +104,8 @@ TEST(Categories, ANewCategoryTakesTheLowestFreeNumber) {
   CategoryForm form = New_Category(AccountMode::FromCheck, "Gifts");
   form.cmbType = "Expense";
   form.lblParentID = "41SS";  // picked, then the box was cleared
-  ASSERT_FALSE(Save_Category(*company.session, form));
+  ListRow made(*company.session, Category_Rows);
+  ASSERT_TRUE(Save_Category(*company.session, made, form).ok());
   EXPECT_EQ(form.CatID, "7SS");
   auto row = company.db().OpenRecordset("SELECT * FROM Accounts WHERE CatID = '7SS'");
   EXPECT_EQ(row["OpeningDate"].date(), Date(2026, 6, 15));
@@ -114,16 +117,36 @@ TEST(Categories, ANewCategoryTakesTheLowestFreeNumber) {
 TEST(Categories, AnEditKeepsWhatTheFormDoesNotShow) {
   TestCompany company;
   company.run("UPDATE Accounts SET LastYearEndBal = ?, AccountNum = '6120' WHERE CatID = '42SS'", {Money::dollars(9)});
-  CategoryForm form = Edit_Category(*company.session, "42SS");
+  ListRow fuel(*company.session, Category_Rows, "42SS");
+  CategoryForm form = Edit_Category(*company.session, fuel);
   EXPECT_TRUE(form.Check1);
   EXPECT_EQ(form.cmbSubCat + form.lblParentID + form.txtAcctNum, "Automobile41SS6120");
   form.txtName = "Gas";
   form.chkDormant = true;
-  ASSERT_FALSE(Save_Category(*company.session, form));
+  ASSERT_TRUE(Save_Category(*company.session, fuel, form).ok());
   auto row = company.db().OpenRecordset("SELECT * FROM Accounts WHERE CatID = '42SS'");
   EXPECT_EQ(row["AccountName"].text() + row["ParentAccount"].text(), "Gas41SS");
   EXPECT_TRUE(row["Dormant"].flag());
   EXPECT_EQ(row["LastYearEndBal"].money(), Money::dollars(9));
+}
+
+TEST(Categories, AnotherUsersChangeIsNotOverwrittenAndACategoryStaysWithItsType) {
+  TestCompany company;
+  ListRow row(*company.session, Category_Rows, "42SS");
+  CategoryForm form = Edit_Category(*company.session, row);
+  form.cmbType = "Bank";  // below Automobile, an expense
+  EXPECT_EQ(Save_Category(*company.session, row, form).fault->control, "cmbSubCat");
+  form = Edit_Category(*company.session, row);
+  form.txtAcctNum = "6121";
+  company.run("UPDATE Accounts SET Balance = 10000 WHERE CatID = '42SS'");  // only recomputed
+  EXPECT_TRUE(Save_Category(*company.session, row, form).ok());
+  company.run("UPDATE Accounts SET Description = 'theirs' WHERE CatID = '42SS'");
+  form.txtAcctNum = "mine";
+  const RowSave refused = Save_Category(*company.session, row, form);
+  ASSERT_TRUE(refused.conflict);
+  EXPECT_EQ(refused.conflict->box.title, "Data has changed");
+  EXPECT_TRUE(refused.conflict->reload);
+  EXPECT_EQ(company.db().value("SELECT AccountNum FROM Accounts WHERE CatID = '42SS'").text(), "6121");
 }
 
 TEST(Categories, NoCategoryIsOfferedAFamilyMemberBelowItAsParent) {
@@ -131,7 +154,8 @@ TEST(Categories, NoCategoryIsOfferedAFamilyMemberBelowItAsParent) {
   auto offers = [](const std::vector<ParentChoice>& choices, const char* id) {
     return std::ranges::any_of(choices, [&](const ParentChoice& choice) { return choice.CatID == id; });
   };
-  const auto choices = Parent_Choices(*company.session, Edit_Category(*company.session, "41SS"));
+  ListRow automobile(*company.session, Category_Rows, "41SS");
+  const auto choices = Parent_Choices(*company.session, Edit_Category(*company.session, automobile));
   EXPECT_TRUE(offers(choices, "40SS"));
   EXPECT_FALSE(offers(choices, "41SS"));
   EXPECT_FALSE(offers(choices, "42SS"));

@@ -11,12 +11,12 @@ using store::Quoted;
 
 void Find_Doubles(store::Database& db, const NameTable& table, std::vector<std::string>& faults) {
   const std::string field = Quoted(table.field);
-  db.each("SELECT MIN(" + field + "), COUNT(*) FROM " + Quoted(table.table) + " GROUP BY " + field +
-              " HAVING COUNT(*) > 1",
-          {}, [&](const store::Row& row) {
-            faults.push_back(std::to_string(row.integer(1)) + " rows of " + std::string(table.table) + " are named \"" +
-                             std::string(row.text(0)) + "\"");
-          });
+  db.each(
+      "SELECT MIN(" + field + "), COUNT(*) FROM " + Quoted(table.table) + " GROUP BY " + field + " HAVING COUNT(*) > 1",
+      {}, [&](const store::Row& row) {
+        faults.push_back(std::to_string(row.integer(1)) + " rows of " + std::string(table.table) + " are named \"" +
+                         std::string(row.text(0)) + "\"");
+      });
 }
 
 void Find_Circles(store::Database& db, const NameTable& table, std::vector<std::string>& faults) {

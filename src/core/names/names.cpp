@@ -46,8 +46,7 @@ int64_t Count(Session& session, const NameLink& link, const std::string& name) {
 
 int64_t Rows_Named(Database& db, NameList list, const std::string& name) {
   const NameTable& table = Table_Of(list);
-  return db
-      .value("SELECT COUNT(*) FROM " + Quoted(table.table) + " WHERE " + Quoted(table.field) + " = ?", {name})
+  return db.value("SELECT COUNT(*) FROM " + Quoted(table.table) + " WHERE " + Quoted(table.field) + " = ?", {name})
       .integer();
 }
 
@@ -73,7 +72,8 @@ std::optional<std::string> Why_Not(Session& session, NameList list, const std::s
   std::string why;
   if (const auto uses = Used_In(session, list, name); !uses.empty()) why = "it is used in " + Spoken(uses);
   const Money balance = Balance_Of(db, list, name);
-  if (!balance.is_zero()) why += (why.empty() ? "it has a balance of " : " and has a balance of ") + Dollar_Text(balance);
+  if (!balance.is_zero())
+    why += (why.empty() ? "it has a balance of " : " and has a balance of ") + Dollar_Text(balance);
   return why.empty() ? std::nullopt : std::optional(why);
 }
 
@@ -113,7 +113,7 @@ void Rename(Session& session, NameList list, const std::string& from, const std:
     throw store::Error(store::errors::duplicate_key, "\"" + to + "\" is there already.");
   for (const NameLink& link : Name_Links()) {
     if (link.of != list || (link.hold == NameLink::Entry && carry == Carry::Lists)) continue;
-    link.hold == NameLink::Owned && merge ? Delete_Own(db, link, from) : Carry_Over(session, link, from, to);
+    link.hold == NameLink::Owned&& merge ? Delete_Own(db, link, from) : Carry_Over(session, link, from, to);
   }
 }
 
@@ -134,8 +134,8 @@ std::optional<std::string> Delete_Or_Why_Not(Session& session, NameList list, co
 bool Is_Below_Itself(Session& session, NameList list, const std::string& name, const std::string& parent) {
   const NameTable& table = Table_Of(list);
   if (table.parent.empty() || name.empty()) return false;
-  const std::string up = "SELECT " + Quoted(table.parent) + " FROM " + Quoted(table.table) + " WHERE " +
-                         Quoted(table.field) + " = ?";
+  const std::string up =
+      "SELECT " + Quoted(table.parent) + " FROM " + Quoted(table.table) + " WHERE " + Quoted(table.field) + " = ?";
   CaselessMap<bool> met;
   for (std::string at = parent; !at.empty() && met.emplace(at, true).second;
        at = session.dbCompany->value(up, {at}).text())

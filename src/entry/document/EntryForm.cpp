@@ -1,45 +1,15 @@
 #include "entry/document/EntryForm.h"
 
 #include <QApplication>
-#include <QCheckBox>
-#include <QComboBox>
-#include <QLineEdit>
-#include <QPlainTextEdit>
 #include <QPushButton>
-#include <QRadioButton>
 
 #include "core/values/text.h"
 #include "shell/widgets/theme.h"
+#include "shell/widgets/unsaved.h"
 
 namespace tallymere {
 
 namespace {
-
-const Box save_changes{"Do you wish to record your changes?", "Save Changes", Icon::Question};
-
-QString content_of(const SSDBGrid& grid) {
-  QString text;
-  for (int row = 0; row < grid.rows(); ++row)
-    for (int column = 0; column < grid.columns(); ++column) text += qt(grid.text(row, column)) + QLatin1Char('\t');
-  return text;
-}
-
-/// What a person put into a field; nothing for controls that only show.
-QString content_of(const QWidget& field) {
-  if (const auto* grid = qobject_cast<const SSDBGrid*>(&field)) return content_of(*grid);
-  if (const auto* combo = qobject_cast<const QComboBox*>(&field)) return combo->currentText();
-  if (const auto* line = qobject_cast<const QLineEdit*>(&field)) return line->text();
-  if (const auto* box = qobject_cast<const QPlainTextEdit*>(&field)) return box->toPlainText();
-  if (const auto* check = qobject_cast<const QAbstractButton*>(&field); check && check->isCheckable())
-    return check->isChecked() ? QStringLiteral("1") : QStringLiteral("0");
-  return {};
-}
-
-/// A cell that is being written in belongs to its grid.
-bool is_field(const QWidget& widget) {
-  const QString name = widget.objectName();
-  return !name.isEmpty() && !name.startsWith(QLatin1String("qt_")) && !name.endsWith(QLatin1String("_cell"));
-}
 
 bool is_amount(Kind kind) { return kind == Kind::money || kind == Kind::number; }
 
@@ -89,17 +59,12 @@ void EntryForm::show_conflict(const Conflict& conflict) {
 
 // --- nothing is lost by a slip -------------------------------------------------------------------
 
-std::string EntryForm::content() const {
-  QString all;
-  for (const QWidget* field : findChildren<QWidget*>())
-    if (is_field(*field)) all += content_of(*field) + QLatin1Char('\n');
-  return utf8(all);
-}
+std::string EntryForm::content() const { return Content_Of(*this); }
 
 bool EntryForm::let_go() {
   for (SSDBGrid* grid : findChildren<SSDBGrid*>()) grid->commit();
   if (!changed()) return true;
-  const std::optional<bool> wanted = session.prompts.ask_or_stay(save_changes);
+  const std::optional<bool> wanted = session.prompts.ask_or_stay(Save_Changes);
   return wanted && (!*wanted || save());
 }
 

@@ -2,10 +2,10 @@
 
 #include <gtest/gtest.h>
 
-#include "core/names/name_faults.h"
-#include "core/names/name_links.h"
 #include "core/company/schema.h"
 #include "core/ledger/undo.h"
+#include "core/names/name_faults.h"
+#include "core/names/name_links.h"
 #include "core/store/history.h"
 #include "support/test_company.h"
 

@@ -86,10 +86,32 @@ equal(g.text(place("Drones"), 0), "Drones");
 // Escape and Cancel change nothing.
 modal("frmModAccount", function (m) {
   type(m.txtName, "Rockets");
+  box("Save Changes", "Do you wish to record your changes?", "Cancel");
+  key(m, "Esc");
+  equal(m.txtName.value, "Rockets", "gone on with");
+  box("Save Changes", "Do you wish to record your changes?", "No");
   key(m, "Esc");
 });
 choose("Drones", "mnuEdit");
+modal("frmModAccount", function (m) {
+  type(m.txtName, "Rockets");
+  click(m.cmdCancel);  // asks nothing: one who says Cancel means it
+});
+choose("Drones", "mnuEdit");
 equal(category("Rockets"), undefined);
+
+// Another user changed it while the form stood open: nothing is overwritten, the form shows what the other one did.
+modal("frmModAccount", function (m) {
+  other("UPDATE Accounts SET AccountNum = 'theirs' WHERE AccountName = 'Drones'");
+  type(m.txtName, "Kites");
+  box("Data has changed", "This category has been modified by another user since you opened it. It will not be " +
+                          "updated. Click Ok to see changes.");
+  click(m.cmdOk);
+  equal([m.txtName.value, m.txtAcctNum.value], ["Drones", "theirs"]);
+  click(m.cmdOk);
+});
+choose("Drones", "mnuEdit");
+equal(category("Kites"), undefined);
 
 rightclick(g, place("Drones"));
 modal("frmModAccount", function (m) {
