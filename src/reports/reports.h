@@ -45,6 +45,7 @@ struct ReportDef {
 
   std::string_view key;     ///< unique: what the command line calls it
   std::string_view window;  ///< "frmPrintPL2"
+  std::string_view area;    ///< the command that must be granted to whoever asks for it: "mnuPL"
   std::string_view title;
   Dates dates;
   Builder build;

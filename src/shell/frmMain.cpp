@@ -17,7 +17,7 @@
 
 #include "core/company/company.h"
 #include "core/company/error_box.h"
-#include "core/store/recordset.h"
+#include "core/company/preferences.h"
 #include "shell/frmMenus.h"
 #include "shell/menus.h"
 #include "shell/start/start_panel.h"
@@ -285,9 +285,7 @@ void frmMain::Timer1_Timer() {
   if (!session.sets.Colors) return;
   guard("Timer1_Timer", [this] {
     show_background();
-    session.sets.GeneralPrefs->MoveFirst();
-    const bool there = session.sets.GeneralPrefs->Seek("ToolBarVisible");
-    Toolbar1->setVisible(there && (*session.sets.GeneralPrefs)["State"].text() == "Yes");
+    Toolbar1->setVisible(Preference(*session.dbCompany, preference::ToolBarVisible) == "Yes");
     if (Check_Repeats) Check_Repeats();
   });
 }
@@ -297,11 +295,8 @@ void frmMain::changed(const std::string& table) {
   if (!session.dbCompany) return;
   if (table == "Colors") show_background();
   if (table == "Users") Apply_User_Rights();
-  if (table == "GeneralPrefs") {
-    session.sets.GeneralPrefs->MoveFirst();
-    if (session.sets.GeneralPrefs->Seek("ToolBarVisible"))
-      Toolbar1->setVisible((*session.sets.GeneralPrefs)["State"].text() == "Yes");
-  }
+  if (table == "GeneralPrefs")
+    Toolbar1->setVisible(Preference(*session.dbCompany, preference::ToolBarVisible) == "Yes");
 }
 
 void frmMain::say(const std::string& text) { statusBar()->showMessage(qt(text), 6000); }

@@ -8,6 +8,7 @@
 #include "app/cli/commands.h"
 #include "core/backup/whole_file.h"
 #include "core/company/program_folder.h"
+#include "core/company/users.h"
 #include "core/store/error.h"
 #include "core/values/date_range.h"
 #include "core/values/text.h"
@@ -147,6 +148,9 @@ int Report(Arguments& arguments) {
   Take_Dates(arguments, report.dates, cli.session.today(), request);
   Take_Basis(arguments, report, request);
   cli.open(arguments);
+  if (!May_Use(cli.session, report.area))
+    throw std::runtime_error("The report " + std::string(report.key) + " is not among the rights of " +
+                             cli.session.CurrentUser + ".");
   if (!out.empty()) Refuse_Output(out);  // before the work, and while the company is known
   Take_Options(arguments, report, *cli.session.dbCompany, request);
   arguments.finish();

@@ -1,5 +1,6 @@
 #include "core/company/company_settings.h"
 
+#include "core/company/preferences.h"
 #include "core/store/recordset.h"
 
 namespace tallymere {
@@ -71,24 +72,15 @@ void Save_Custom_Fields(Session& session, const CustomFields& captions) {
 
 WindowColors Read_Colors(Session& session) {
   WindowColors colors;
-  store::Table& rows = *session.sets.Colors;
-  for (size_t at = 0; at < colors.size(); ++at) {
-    rows.MoveFirst();
-    colors[at] = rows.Seek(Colored_Windows[at].key) ? rows["Color"].integer() : white;
-  }
+  for (size_t at = 0; at < colors.size(); ++at)
+    colors[at] = Background(*session.dbCompany, Colored_Windows[at].key).value_or(white);
   return colors;
 }
 
 void Save_Colors(Session& session, const WindowColors& colors) {
   store::Transaction tx(*session.dbCompany, "Colors");
-  store::Table& rows = *session.sets.Colors;
-  for (size_t at = 0; at < colors.size(); ++at) {
-    rows.MoveFirst();
-    rows.Seek(Colored_Windows[at].key) ? rows.Edit() : rows.AddNew();
-    rows["Items"] = Colored_Windows[at].key;
-    rows["Color"] = colors[at];
-    rows.Update();
-  }
+  for (size_t at = 0; at < colors.size(); ++at)
+    Set_Background(*session.dbCompany, Colored_Windows[at].key, colors[at]);
   tx.commit();
 }
 

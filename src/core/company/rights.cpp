@@ -101,4 +101,10 @@ std::vector<CommandRight> Apply_User_Rights(bool MultiUser, std::string_view Cur
   return rights;
 }
 
+bool Is_Granted(std::string_view command, std::string_view CurrentUser, const UserFlags& flags) {
+  for (const Row& row : rows)
+    if (row.name == command) return Granted(row.group, CurrentUser, flags);
+  return true;
+}
+
 }  // namespace tallymere

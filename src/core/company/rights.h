@@ -26,4 +26,7 @@ struct CommandRight {
 /// and the flags count for nothing.
 std::vector<CommandRight> Apply_User_Rights(bool MultiUser, std::string_view CurrentUser, const UserFlags& flags);
 
+/// Whether one command of the table is granted; other commands are everybody's.
+bool Is_Granted(std::string_view command, std::string_view CurrentUser, const UserFlags& flags);
+
 }  // namespace tallymere

@@ -59,6 +59,11 @@ UserFlags Flags_Of(store::Database& company, const std::string& UserName) {
   return user->has_row() ? Flags(*user) : UserFlags{false, false, false, false, false};
 }
 
+bool May_Use(Session& session, std::string_view command) {
+  return !session.MultiUser ||
+         Is_Granted(command, session.CurrentUser, Flags_Of(*session.dbCompany, session.CurrentUser));
+}
+
 std::optional<UserForm> Edit_User(Session& session, const std::string& UserName) {
   const auto user = At_User(*session.dbCompany, UserName);
   if (!user->has_row()) return std::nullopt;

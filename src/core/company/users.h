@@ -27,6 +27,9 @@ std::vector<UserRow> User_List(store::Database& company);  ///< by name
 /// What a user may do; nothing at all when there is no such user any more.
 UserFlags Flags_Of(store::Database& company, const std::string& UserName);
 
+/// Whether the user at work may use a command of the menus; in single-user mode everybody may.
+bool May_Use(Session& session, std::string_view command);
+
 /// The form of a user; nothing when another user has deleted it meanwhile.
 std::optional<UserForm> Edit_User(Session& session, const std::string& UserName);
 /// Writes the form of the user `editing`, or of a new one when that is empty. The administrator keeps its name; names are not

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "core/company/preferences.h"
 #include "core/ledger/ledger.h"
 #include "core/store/recordset.h"
 #include "core/values/caseless.h"
@@ -11,10 +12,6 @@ namespace tallymere {
 namespace {
 
 constexpr const char* check_type = "Liabilitycheck";
-
-bool Is_Cash_Basis(Session& session) {
-  return session.dbCompany->value("SELECT State FROM GeneralPrefs WHERE Preference = 'SalesBase'").text() == "Cash";
-}
 
 /// An agency, and the selected lines it is paid for.
 struct Agency {
@@ -98,7 +95,7 @@ std::vector<SalesTaxLine> Sales_Tax_Owed(Session& session, Date as_of) {
       " FROM Items LEFT JOIN Transactions ON Account = ItemCat AND Item = ItemName"
       " AND (Transactions.Date <= ? OR PaidThrough IS NOT NULL)"
       " WHERE ItemType = 'Sales Tax' GROUP BY Items.RowKey ORDER BY Items.RowKey",
-      {!Is_Cash_Basis(session), as_of}, [&](const store::Row& row) {
+      {!Sales_Tax_On_Cash(*session.dbCompany), as_of}, [&](const store::Row& row) {
         owed.push_back({false, std::string(row.text(0)), std::string(row.text(1)), row.money(2)});
       });
   return owed;
@@ -106,7 +103,7 @@ std::vector<SalesTaxLine> Sales_Tax_Owed(Session& session, Date as_of) {
 
 SalesTaxPayment New_Sales_Tax_Payment(Session& session) {
   const Date as_of = Liability_Date(session.today());
-  return {.BankID = session.dbCompany->value("SELECT State FROM GeneralPrefs WHERE Preference = 'DefaultBank'").text(),
+  return {.BankID = Preference(*session.dbCompany, preference::DefaultBank),
           .PayDate = session.today(),
           .PaidThrough = as_of,
           .lines = Sales_Tax_Owed(session, as_of)};

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "core/company/preferences.h"
 #include "core/ledger/balances.h"
 #include "core/ledger/ledger.h"
 #include "core/ledger/stored_row.h"
@@ -13,9 +14,7 @@ namespace {
 
 constexpr std::string_view check_types[] = {"Check", "Liabilitycheck", "Paycheck", "Billcheck"};
 
-std::string Default_Bank(Session& session) {
-  return session.dbCompany->value("SELECT State FROM GeneralPrefs WHERE Preference = 'DefaultBank'").text();
-}
+std::string Default_Bank(Session& session) { return Preference(*session.dbCompany, preference::DefaultBank); }
 
 /// "1042;", as a bill that this payment settled names it.
 std::string Paid_By(int64_t TransNum) { return std::to_string(TransNum) + ";"; }

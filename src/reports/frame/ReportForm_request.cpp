@@ -120,8 +120,10 @@ void ReportForm::cmdPick_AfterClick() {
   for (const ReportColumn& column : table_.offered) {
     const bool known = std::any_of(choices.begin(), choices.end(),
                                    [&](const FieldChoice& choice) { return choice.name == column.id(); });
-    const bool shown =
-        picked.empty() ? is_shown(column) : std::find(picked.begin(), picked.end(), column.id()) != picked.end();
+    const bool named = std::any_of(picked.begin(), picked.end(), [&](const std::string& name) {
+      return name == column.id() || name == column.caption;
+    });
+    const bool shown = picked.empty() ? is_shown(column) : named;
     if (!known) choices.push_back({column.id(), column.caption, shown});
   }
   frmSelectFields dialog(shell, choices);

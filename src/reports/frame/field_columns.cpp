@@ -1,8 +1,12 @@
 #include "reports/frame/field_columns.h"
 
+#include <algorithm>
+
 #include "core/company/field_captions.h"
+#include "core/company/schema.h"
 #include "core/store/sql.h"
 #include "core/values/format.h"
+#include "reports/frame/names.h"
 
 namespace tallymere {
 namespace {
@@ -26,6 +30,13 @@ Kind Kind_Of(const store::Field& field) {
     default:
       return Kind::Text;
   }
+}
+
+/// Whether a field points at a category.
+bool Is_Category(std::string_view table, std::string_view field) {
+  return std::ranges::any_of(references(), [&](const Reference& link) {
+    return link.from_table == table && link.from_field == field && link.to_table == "Accounts";
+  });
 }
 
 }  // namespace
@@ -58,22 +69,32 @@ store::Value Field_Value(const store::Row& row, int column, FieldType type) {
 }
 
 void Add_Records(store::Database& db, ReportTable& table, std::string_view table_name,
-                 const std::vector<std::string>& fields) {
-  table.columns = {{.kind = Kind::Margin}};
+                 const std::vector<Record_Column>& fields) {
+  const CategoryTree tree = CategoryTree::Load(db);
+  const auto name_of = [&tree](std::string_view CatID) { return Category_Name(tree, CatID); };
+  std::vector<Record_Column> columns = fields;
   std::vector<FieldType> types;
   std::string names;
-  for (const std::string& name : fields) {
-    const store::Field& field = *db.find_table(table_name)->find(name);
+  table.columns = {{.kind = Kind::Margin}};
+  for (Record_Column& column : columns) {
+    const store::Field& field = *db.find_table(table_name)->find(column.field);
     table.columns.push_back(Column_Of(field));
+    if (!column.caption.empty()) table.columns.back().caption = column.caption;
+    if (Is_Category(table_name, field.name)) column.shown = name_of;
     types.push_back(field.type);
     names += store::Quoted(field.name) + ", ";
   }
-  db.each("SELECT " + names + "RowKey FROM " + store::Quoted(table_name) + " ORDER BY " +
-              store::Quoted(fields.front()) + ", RowKey",
-          {}, [&](const store::Row& row) {
+  db.each("SELECT " + names + "RowKey FROM " + store::Quoted(table_name) + " ORDER BY 1, RowKey", {},
+          [&](const store::Row& row) {
             auto line = table.add_row();
             line.skip();
-            for (size_t at = 0; at < types.size(); ++at) line.value(Field_Value(row, static_cast<int>(at), types[at]));
+            for (int at = 0; const Record_Column& column : columns) {
+              if (column.shown)
+                line.text(column.shown(row.text(at)));
+              else
+                line.value(Field_Value(row, at, types[static_cast<size_t>(at)]));
+              ++at;
+            }
           });
 }
 

@@ -1,14 +1,71 @@
 #include "reports/lists/list_reports.h"
 
+#include "core/company/rights.h"
 #include "reports/frame/field_columns.h"
 
 namespace tallymere {
+namespace {
 
-ReportTable Build_Category_List(Session& session, const ReportRequest& request) {
+ReportTable List_Of(Session& session, const ReportRequest& request, std::string_view table_name,
+                    const std::vector<Record_Column>& fields) {
   ReportTable table;
   table.heading = Make_Heading(session, request);
-  Add_Records(*session.dbCompany, table, "Accounts", {"AccountName", "AccountType", "AccountNum", "Balance"});
+  Add_Records(*session.dbCompany, table, table_name, fields);
   return table;
+}
+
+/// "***-**-6789".
+std::string Hidden_SSNum(std::string_view number) {
+  constexpr size_t shown = 4;
+  std::string hidden(number);
+  for (size_t at = 0; at + shown < hidden.size() || (hidden.size() <= shown && at < hidden.size()); ++at)
+    if (hidden[at] >= '0' && hidden[at] <= '9') hidden[at] = '*';
+  return hidden;
+}
+
+}  // namespace
+
+ReportTable Build_Customer_List(Session& session, const ReportRequest& request) {
+  return List_Of(session, request, "Customers", {{"Name", "Customer"}, {"Phone"}, {"AltPhone"}, {"Contact"}});
+}
+
+ReportTable Build_Vendor_List(Session& session, const ReportRequest& request) {
+  return List_Of(session, request, "Vendors", {{"Name", "Vendor"}, {"Phone"}, {"AltPhone"}, {"Contact"}});
+}
+
+ReportTable Build_Employee_List(Session& session, const ReportRequest& request) {
+  Record_Column SSNum{"SSNum"};
+  if (session.MultiUser && session.CurrentUser != Administrator) SSNum.shown = Hidden_SSNum;
+  return List_Of(session, request, "Employees",
+                 {{"Name"},
+                  {"Phone"},
+                  {"AltPhone"},
+                  SSNum,
+                  {"FedStatus"},
+                  {"FedAllow"},
+                  {"FedWithHolding"},
+                  {"StateStatus"},
+                  {"StateAllow"},
+                  {"StateWithHolding"}});
+}
+
+ReportTable Build_Category_List(Session& session, const ReportRequest& request) {
+  return List_Of(session, request, "Accounts", {{"AccountName"}, {"AccountType"}, {"AccountNum"}, {"Balance"}});
+}
+
+ReportTable Build_Item_List(Session& session, const ReportRequest& request) {
+  return List_Of(session, request, "Items",
+                 {{"ItemName"}, {"ItemType"}, {"Description"}, {"PriceRate"}, {"StockQty"}, {"InvVendor"}});
+}
+
+ReportTable Build_Repeat_List(Session& session, const ReportRequest& request) {
+  return List_Of(session, request, "RepeatTrans",
+                 {{"Name", "Transaction"}, {"Type"}, {"SourceCat"}, {"Amount"}, {"Frequency"}, {"NextDate"}});
+}
+
+ReportTable Build_PayItem_List(Session& session, const ReportRequest& request) {
+  return List_Of(session, request, "PayrollItems",
+                 {{"Name", "Item"}, {"Type"}, {"DefaultRate"}, {"DefaultLimit"}, {"ExpenseAcct"}, {"LiabilityAcct"}});
 }
 
 }  // namespace tallymere

@@ -4,7 +4,7 @@
 #include <QWidget>
 #include <cmath>
 
-#include "core/store/recordset.h"
+#include "core/company/preferences.h"
 #include "shell/widgets/theme.h"
 
 namespace tallymere {
@@ -39,10 +39,8 @@ QColor Stored_Color(int64_t value) {
 int64_t Color_To_Store(const QColor& color) { return color.red() + 256 * color.green() + 65536 * color.blue(); }
 
 QColor Company_Color(Session& session, const std::string& item) {
-  if (!session.sets.Colors) return {};
-  session.sets.Colors->MoveFirst();
-  if (!session.sets.Colors->Seek(item)) return {};
-  return suited_to_scheme(Stored_Color((*session.sets.Colors)["Color"].integer()));
+  const auto color = session.dbCompany ? Background(*session.dbCompany, item) : std::nullopt;
+  return color ? suited_to_scheme(Stored_Color(*color)) : QColor();
 }
 
 QColor Text_On(const QColor& paper) {

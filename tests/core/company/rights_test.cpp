@@ -58,5 +58,13 @@ TEST(Rights, CategoriesStayVisibleButCannotBeOpenedWithoutBanking) {
   }
 }
 
+TEST(Rights, ACommandOutsideTheTableIsEverybodys) {
+  EXPECT_TRUE(Is_Granted("mnuAP", "Karen", {.AR = false}));
+  EXPECT_FALSE(Is_Granted("mnuAR", "Karen", {.AR = false}));
+  EXPECT_FALSE(Is_Granted("mnuReportLists", "Karen", all));
+  EXPECT_TRUE(Is_Granted("mnuReportLists", "Admin", none));
+  EXPECT_TRUE(Is_Granted("mnuExit", "Karen", none));
+}
+
 }  // namespace
 }  // namespace tallymere
