@@ -79,8 +79,7 @@ WindowColors Read_Colors(Session& session) {
 
 void Save_Colors(Session& session, const WindowColors& colors) {
   store::Transaction tx(*session.dbCompany, "Colors");
-  for (size_t at = 0; at < colors.size(); ++at)
-    Set_Background(*session.dbCompany, Colored_Windows[at].key, colors[at]);
+  for (size_t at = 0; at < colors.size(); ++at) Set_Background(*session.dbCompany, Colored_Windows[at].key, colors[at]);
   tx.commit();
 }
 
