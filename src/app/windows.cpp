@@ -11,6 +11,7 @@
 #include "lists/frmNewPayee.h"
 #include "lists/frmOtherNames.h"
 #include "payroll/frmTimeSheet.h"
+#include "reports/aging/frmPrintAging.h"
 #include "reports/profit/frmPrintPL2.h"
 #include "reports/saved/frmSavedReps.h"
 #include "reports/transactions/frmPrintCustom.h"
@@ -40,6 +41,9 @@ const WindowTable& Windows() {
       {"frmPrintPLName", Make_Report<"frmPrintPLName">},
       {"frmFind", Make_Window<frmFind>},
       {"frmSavedReps", Make_Window<frmSavedReps>},
+      {"frmPrintAging", Make_Window<frmPrintAging>},
+      {"frmPrintAgeDetail", Make_Report<"frmPrintAgeDetail">},
+      {"frmPrintBalances", Make_Report<"frmPrintBalances">},
       {"frmPrintListCat", Make_Report<"frmPrintListCat">},
       {"frmPrintListCus", Make_Report<"frmPrintListCus">},
       {"frmPrintListEmp", Make_Report<"frmPrintListEmp">},

@@ -1,6 +1,7 @@
 #include "reports/reports.h"
 
 #include "core/values/text.h"
+#include "reports/aging/aging_reports.h"
 #include "reports/frame/row_groups.h"
 #include "reports/frame/table_parts.h"
 #include "reports/lists/list_reports.h"
@@ -47,6 +48,19 @@ constexpr ReportDef reports[] = {
      report_option::item, "Type,Date,Number,Name,Memo,Qty,Amount,"},
     {"PayItem", "frmPrintCustom", "mnuRPayroll", "Payroll Item Report", Dates::Year, Build_PayItem_Report, no_basis, "",
      "Type,Date,Number,Name,PayrollItem,Amount,"},
+    {"AR", "frmPrintAging", "mnuAR", "Accounts Receivable Aging Summary", Dates::As_Of, Build_Receivable_Aging},
+    {"AP", "frmPrintAging", "mnuAP", "Accounts Payable Aging Summary", Dates::As_Of, Build_Payable_Aging},
+    {"ARDetail", "frmPrintAgeDetail", "mnuAR", "Accounts Receivable Aging Detail", Dates::As_Of,
+     Build_Receivable_Aging_Detail},
+    {"APDetail", "frmPrintAgeDetail", "mnuAP", "Accounts Payable Aging Detail", Dates::As_Of,
+     Build_Payable_Aging_Detail},
+    {"OpenInvoices", "frmPrintAgeDetail", "mnuAR", "Open Invoices", Dates::As_Of, Build_Open_Invoices},
+    {"CR", "frmPrintAgeDetail", "mnuAR", "Collections Report", Dates::As_Of, Build_Collections},
+    {"OpenBills", "frmPrintAgeDetail", "mnuAP", "Unpaid Bills", Dates::As_Of, Build_Unpaid_Bills},
+    {"ARCusSum", "frmPrintBalances", "mnuAR", "Customer Balance Summary", Dates::Year, Build_Customer_Balances},
+    {"APVenSum", "frmPrintBalances", "mnuAP", "Vendor Balance Summary", Dates::Year, Build_Vendor_Balances},
+    {"ARCusDetail", "frmPrintBalances", "mnuAR", "Customer Balance Detail", Dates::Year, Build_Customer_Balance_Detail},
+    {"APVenDetail", "frmPrintBalances", "mnuAP", "Vendor Balance Detail", Dates::Year, Build_Vendor_Balance_Detail},
     {"ListCus", "frmPrintListCus", "mnuReportLists", "Customer Contact Phone List", Dates::Today, Build_Customer_List},
     {"ListVen", "frmPrintListVen", "mnuReportLists", "Vendor Contact Phone List", Dates::Today, Build_Vendor_List},
     {"ListEmp", "frmPrintListEmp", "mnuReportLists", "Employee Info List", Dates::Today, Build_Employee_List},

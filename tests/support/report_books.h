@@ -21,7 +21,14 @@ struct Posting {
   bool Paid = false;
   std::string Class = {}, Category = {}, Memo = {};
   std::optional<Money> Amount = {};  ///< else what stands in Debit or Credit
+  std::string Number = {}, Terms = {}, Rep = {}, SourceName = {}, Item = {};
+  std::optional<Date> DueDate = {};
+  std::optional<double> Qty = {};
+  Money SalePrice = {}, AmountReceived = {};
+  bool Taxable = false;
 };
+
+inline Money Amount_Of(const Posting& row) { return row.Amount.value_or(row.Debit.is_zero() ? row.Credit : row.Debit); }
 
 /// A company with categories and rows of the test's own, today 6/15/2026.
 struct Books : TestCompany {
@@ -41,12 +48,32 @@ struct Books : TestCompany {
   void post(const Posting& row) {
     auto text = [](const std::string& given) { return given.empty() ? store::Value() : store::Value(given); };
     auto amount = [](Money given) { return given.is_zero() ? store::Value() : store::Value(given); };
-    run("INSERT INTO Transactions (TransNum, Type, Date, Account, Debit, Credit, Amount, Name, PaidBy, Paid, "
-        "Class,"
-        " Category, Memo) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)",
-        {row.TransNum, row.Type, row.day, row.Account, amount(row.Debit), amount(row.Credit),
-         row.Amount.value_or(row.Debit.is_zero() ? row.Credit : row.Debit), text(row.Name), text(row.PaidBy), row.Paid,
-         text(row.Class), text(row.Category), text(row.Memo)});
+    run("INSERT INTO Transactions (TransNum, Type, Date, Account, Debit, Credit, Amount, Name, PaidBy, Paid, Class,"
+        " Category, Memo, Number, Terms, Rep, SourceName, Item, DueDate, Qty, SalePrice, AmountReceived, Taxable)"
+        " VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)",
+        {row.TransNum,
+         row.Type,
+         row.day,
+         row.Account,
+         amount(row.Debit),
+         amount(row.Credit),
+         Amount_Of(row),
+         text(row.Name),
+         text(row.PaidBy),
+         row.Paid,
+         text(row.Class),
+         text(row.Category),
+         text(row.Memo),
+         text(row.Number),
+         text(row.Terms),
+         text(row.Rep),
+         text(row.SourceName),
+         text(row.Item),
+         row.DueDate,
+         row.Qty,
+         amount(row.SalePrice),
+         amount(row.AmountReceived),
+         row.Taxable});
   }
 
   ReportRequest request(const std::string& key, Date from, Date to, Basis basis = Basis::Accrual) {

@@ -158,6 +158,11 @@ void ReportForm::add_button(QPushButton* added) {
   setTabOrder(before, added);
 }
 
+void ReportForm::add_to_bar(QWidget* choice) {
+  auto* row = static_cast<QBoxLayout*>(bar_->layout());
+  row->insertWidget(row->count() - 1, choice);  // before the stretch
+}
+
 void ReportForm::connect_controls() {
   on(cmdRefresh, "cmdRefresh_AfterClick", [this] {
     read_controls();

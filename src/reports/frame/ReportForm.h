@@ -44,6 +44,7 @@ class ReportForm : public Form {
   virtual void after_load() {}
   void changeEvent(QEvent* event) override;
   void add_button(QPushButton* button);       ///< above "E&xport"
+  void add_to_bar(QWidget* choice);           ///< beside the dates
   void show_instead_of_grid(QWidget* other);  ///< nullptr: the grid again
 
   const ReportTable& table() const { return table_; }

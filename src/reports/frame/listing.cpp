@@ -18,7 +18,7 @@ void Listing::finish() {
 }
 
 void Listing::add_head(size_t place) {
-  if (idle_ == Idle::Shown) add_foot();
+  if (idle_ == Idle::Shown && place > 0) add_foot();
   place_ = place;
   table_.add_row(Role::Head).skip(table_.label_column()).text(names_[place]);
 }

@@ -4,6 +4,8 @@
 
 #include "core/ledger/ledger.h"
 #include "core/store/sql.h"
+#include "core/values/caseless.h"
+#include "core/values/text.h"
 
 namespace tallymere {
 
@@ -27,7 +29,7 @@ std::vector<std::string> Names_Met(store::Database& db, std::string_view table,
   const auto listed = static_cast<std::ptrdiff_t>(names.size());
   for (const std::string& name : in_rows) add(name);
   std::sort(names.begin() + listed, names.end(), [](const std::string& a, const std::string& b) {
-    return std::pair(a.empty(), lower(a)) < std::pair(b.empty(), lower(b));
+    return std::pair(a.empty(), folded(a)) < std::pair(b.empty(), folded(b));
   });
   return names;
 }
