@@ -13,11 +13,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-fs::path Folder_Of(Arguments& arguments) {
-  fs::path folder = arguments.option("folder", "");
-  return folder.empty() ? Program_Folder() : fs::absolute(folder);
-}
-
 Clock Clock_Of(Arguments& arguments) {
   auto today = arguments.date("today");
   return today ? Clock::standing_on(*today) : Clock::system();
@@ -49,6 +44,10 @@ constexpr Command commands[] = {
      "report [KEY --company FILE [--range NAME] [--from m/d/yyyy] [--to m/d/yyyy] [--basis cash|accrual] [--title TEXT]"
      " [--fields LIST] [--empty hide] [--category ID] [--name NAME] [--item NAME] [--format text|csv|xlsx|pdf] [--out FILE]]",
      "a report of the company's books; without a key, the keys there are", Report},
+    {"layout", "layout [NAME]",
+     "puts the drawing of a printed layout into the program folder's layouts, to be changed with any drawing program;"
+     " without a name, the layouts there are",
+     Write_Out},
     {"backup", "backup --company FILE --out FILE.cbk", "writes a backup of the company as it stands", Back_Up},
     {"restore", "restore --backup FILE.cbk --company FILE",
      "puts a backup in a company's place, once it has proved sound", Restore},
@@ -59,6 +58,11 @@ constexpr Command commands[] = {
 };
 
 }  // namespace
+
+fs::path Folder_Of(Arguments& arguments) {
+  fs::path folder = arguments.option("folder", "");
+  return folder.empty() ? Program_Folder() : fs::absolute(folder);
+}
 
 std::span<const Command> Commands() { return commands; }
 

@@ -19,6 +19,9 @@ struct Command {
 /// Every command of the command line, in the order of the help.
 std::span<const Command> Commands();
 
+/// The program's folder: --folder, or where it normally is.
+std::filesystem::path Folder_Of(Arguments& arguments);
+
 /// A session of the command line on the program's folder (--folder), on today or --today.
 struct CliSession {
   explicit CliSession(Arguments& arguments);
@@ -42,5 +45,6 @@ int Enter(Arguments& arguments);
 int History(Arguments& arguments);
 int Undo(Arguments& arguments);
 int Report(Arguments& arguments);
+int Write_Out(Arguments& arguments);
 
 }  // namespace tallymere::cli

@@ -1,13 +1,9 @@
-#include <spawn.h>
-#include <sys/wait.h>
-#include <unistd.h>
-
 #include <algorithm>
 #include <iostream>
 
 #include "app/cli/commands.h"
+#include "app/cli/painter.h"
 #include "core/backup/whole_file.h"
-#include "core/company/program_folder.h"
 #include "core/company/users.h"
 #include "core/store/error.h"
 #include "core/values/date_range.h"
@@ -84,23 +80,9 @@ void Take_Options(Arguments& arguments, const ReportDef& report, store::Database
   take(report.subject, report.subject == report_option::category ? Category_Id(db, subject) : subject);
 }
 
-int Run_Painter(const fs::path& painter, const fs::path& table, const fs::path& out) {
-  std::string program = painter.string(), from = table.string(), to = out.string();
-  char* words[] = {program.data(), from.data(), to.data(), nullptr};
-  pid_t child = 0;
-  if (posix_spawn(&child, program.c_str(), nullptr, nullptr, words, environ) != 0) return 1;
-  int status = 1;
-  waitpid(child, &status, 0);
-  return status;
-}
-
 /// Hands the table to the program that paints pages: this one links nothing that could.
 void Write_Pdf(Session& session, const ReportTable& table, const fs::path& out) {
-  const fs::path painter = Program_File().parent_path() / "tallymere-paint";
-  if (!fs::exists(painter)) throw std::runtime_error("tallymere-paint, which paints pages, is not installed here");
-  const FileAside handed(session.folder);
-  Write_Bytes(handed.path(), handed.path(), [&](std::ostream& file) { Write_Report_File(table, file); });
-  if (Run_Painter(painter, handed.path(), out) != 0) throw std::runtime_error("the pages could not be painted");
+  Paint(session, out, [&](std::ostream& file) { Write_Report_File(table, file); });
 }
 
 using Writer = void (*)(const ReportTable&, std::ostream&);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <fstream>
 #include <iterator>
+#include <utility>
 
 namespace tallymere {
 namespace {
@@ -15,31 +16,12 @@ std::string_view take(std::string_view& rest, char separator) {
   return piece;
 }
 
-char unescaped(char c) {
-  switch (c) {
-    case 't':
-      return '\t';
-    case 'n':
-      return '\n';
-    case '\\':
-      return '\\';
-    default:
-      return '\0';
-  }
-}
+constexpr std::pair<char, char> escapes[] = {{'\t', 't'}, {'\n', 'n'}, {'\r', 'r'}, {'\\', '\\'}};
 
 std::string cell_of(std::string_view raw, std::string_view source, std::size_t line) {
-  std::string cell;
-  for (std::size_t i = 0; i < raw.size(); ++i) {
-    if (raw[i] != '\\') {
-      cell += raw[i];
-      continue;
-    }
-    const char c = ++i < raw.size() ? unescaped(raw[i]) : '\0';
-    if (c == '\0') throw Tsv_Error(source, line, "a backslash without t, n or backslash behind it");
-    cell += c;
-  }
-  return cell;
+  auto cell = Unescaped_Cell(raw);
+  if (!cell) throw Tsv_Error(source, line, "a backslash without t, n, r or backslash behind it");
+  return std::move(*cell);
 }
 
 std::vector<std::string> cells_of(std::string_view text, std::string_view source, std::size_t line) {
@@ -60,6 +42,33 @@ void check_fields(const std::vector<std::string>& fields, std::string_view sourc
 }
 
 }  // namespace
+
+std::string Escaped_Cell(std::string_view text) {
+  std::string cell;
+  for (const char c : text) {
+    const auto escape = std::ranges::find(escapes, c, &std::pair<char, char>::first);
+    if (escape == std::end(escapes))
+      cell += c;
+    else
+      cell += {'\\', escape->second};
+  }
+  return cell;
+}
+
+std::optional<std::string> Unescaped_Cell(std::string_view cell) {
+  std::string text;
+  for (std::size_t at = 0; at < cell.size(); ++at) {
+    if (cell[at] != '\\') {
+      text += cell[at];
+      continue;
+    }
+    if (++at == cell.size()) return std::nullopt;
+    const auto escape = std::ranges::find(escapes, cell[at], &std::pair<char, char>::second);
+    if (escape == std::end(escapes)) return std::nullopt;
+    text += escape->first;
+  }
+  return text;
+}
 
 Tsv_Error::Tsv_Error(std::string_view source, std::size_t line, std::string_view what)
     : std::runtime_error(std::string(source) + ", line " + std::to_string(line) + ": " + std::string(what)) {}

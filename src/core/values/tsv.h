@@ -1,14 +1,19 @@
 #pragma once
 
 #include <filesystem>
+#include <optional>
 #include <stdexcept>
 #include <string>
 #include <string_view>
 #include <vector>
 
 // Tables of rows as text: a first line of field names, then one line per row, tab between cells, UTF-8. An
-// empty cell is null; tab, line feed and backslash stand in a cell as \t, \n and \\. No quoting.
+// empty cell is null; tab, line ends and backslash stand in a cell as \t, \n, \r and \\. No quoting.
 namespace tallymere {
+
+// A text as a cell of a line, and back; nothing where a backslash stands before anything else.
+std::string Escaped_Cell(std::string_view text);
+std::optional<std::string> Unescaped_Cell(std::string_view cell);
 
 struct Tsv {
   std::vector<std::string> fields;

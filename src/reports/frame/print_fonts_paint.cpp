@@ -1,10 +1,9 @@
 #include "reports/frame/print_fonts_paint.h"
 
-#include <QFontDatabase>
 #include <QPainter>
 #include <algorithm>
 
-#include "shell/widgets/theme.h"
+#include "shell/widgets/printed_pages.h"
 
 namespace tallymere {
 
@@ -25,17 +24,6 @@ constexpr Row rows[] = {
     {"edge", 8, false, false, false},
 };
 
-/// The same on every machine that has it, whatever the desktop's own font is.
-QFont Family() {
-  QFont font;
-  for (const char* family : {"Noto Sans", "Segoe UI", "Liberation Sans", "DejaVu Sans"})
-    if (QFontDatabase::hasFamily(QLatin1String(family))) {
-      font.setFamilies({QLatin1String(family)});
-      break;
-    }
-  return theme::tabular(font);
-}
-
 QFont Font_Of(const QFont& family, const Row& row, qreal scale) {
   QFont font = family;
   font.setPixelSize(static_cast<int>(row.points * twips_to_the_point * (row.scaled ? scale : 1)));
@@ -48,7 +36,7 @@ QFont Font_Of(const QFont& family, const Row& row, qreal scale) {
 }  // namespace
 
 Print_Fonts::Print_Fonts(qreal scale) {
-  const QFont family = Family();
+  const QFont family = Paper_Font();
   for (const Row& row : rows) {
     const QFont font = Font_Of(family, row, scale);
     looks_.emplace(row.style, Look{font, QFontMetricsF(font)});

@@ -7,6 +7,7 @@
 
 #include "core/store/error.h"
 #include "core/values/text.h"
+#include "core/values/tsv.h"
 
 namespace tallymere {
 namespace {
@@ -35,55 +36,10 @@ constexpr std::array<std::pair<std::string_view, Looks>, 2> looks = {
   throw store::Error(store::errors::not_a_database, "This is no report, or one cut short.");
 }
 
-std::string Escaped(std::string_view text) {
-  std::string escaped;
-  for (char c : text) {
-    switch (c) {
-      case '\t':
-        escaped += "\\t";
-        break;
-      case '\n':
-        escaped += "\\n";
-        break;
-      case '\r':
-        escaped += "\\r";
-        break;
-      case '\\':
-        escaped += "\\\\";
-        break;
-      default:
-        escaped += c;
-    }
-  }
-  return escaped;
-}
-
 std::string Unescaped(std::string_view text) {
-  std::string plain;
-  for (size_t at = 0; at < text.size(); ++at) {
-    if (text[at] != '\\') {
-      plain += text[at];
-      continue;
-    }
-    if (++at == text.size()) Not_A_Report();
-    switch (text[at]) {
-      case 't':
-        plain += '\t';
-        break;
-      case 'n':
-        plain += '\n';
-        break;
-      case 'r':
-        plain += '\r';
-        break;
-      case '\\':
-        plain += '\\';
-        break;
-      default:
-        Not_A_Report();
-    }
-  }
-  return plain;
+  auto plain = Unescaped_Cell(text);
+  if (!plain) Not_A_Report();
+  return std::move(*plain);
 }
 
 template <typename Number>
@@ -103,7 +59,7 @@ Number Read_Number(std::string_view text) {
 std::string Cell_Text(const store::Value& value) {
   struct Writer {
     std::string operator()(std::monostate) const { return {}; }
-    std::string operator()(const std::string& text) const { return "t" + Escaped(text); }
+    std::string operator()(const std::string& text) const { return "t" + Escaped_Cell(text); }
     std::string operator()(int64_t number) const { return "i" + Number_Text(number); }
     std::string operator()(double number) const { return "d" + Number_Text(number); }
     std::string operator()(Money amount) const { return "m" + Number_Text(amount.units()); }
@@ -221,7 +177,7 @@ void Write_Rows(const ReportTable& table, std::ostream& out) {
     }
     out << '\n';
     for (const auto& [column, style] : table.own_styles(row))
-      out << "cell\t" << row << '\t' << column << '\t' << Escaped(style) << '\n';
+      out << "cell\t" << row << '\t' << column << '\t' << Escaped_Cell(style) << '\n';
   }
 }
 
@@ -229,14 +185,15 @@ void Write_Rows(const ReportTable& table, std::ostream& out) {
 
 void Write_Report_File(const ReportTable& table, std::ostream& out) {
   const ReportHeading& heading = table.heading;
-  out << first_line << "\nheading\t" << Escaped(heading.title) << '\t' << Escaped(heading.company) << '\t'
-      << Escaped(heading.period) << '\t' << Escaped(heading.basis) << '\t' << Escaped(heading.note) << '\n'
+  out << first_line << "\nheading\t" << Escaped_Cell(heading.title) << '\t' << Escaped_Cell(heading.company) << '\t'
+      << Escaped_Cell(heading.period) << '\t' << Escaped_Cell(heading.basis) << '\t' << Escaped_Cell(heading.note)
+      << '\n'
       << "looks\t" << Name_Of(looks, table.looks) << '\n';
   for (const ReportColumn& column : table.columns)
-    out << "column\t" << Name_Of(kinds, column.kind) << '\t' << Escaped(column.mask) << '\t' << Escaped(column.caption)
-        << '\n';
+    out << "column\t" << Name_Of(kinds, column.kind) << '\t' << Escaped_Cell(column.mask) << '\t'
+        << Escaped_Cell(column.caption) << '\n';
   for (const ReportGroup& group : table.groups)
-    out << "group\t" << group.first << '\t' << group.count << '\t' << Escaped(group.caption) << '\n';
+    out << "group\t" << group.first << '\t' << group.count << '\t' << Escaped_Cell(group.caption) << '\n';
   Write_Rows(table, out);
   out << last_line << '\n';
 }

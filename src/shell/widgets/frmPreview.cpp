@@ -3,12 +3,11 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPainter>
-#include <QPrintDialog>
-#include <QPrinter>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
 
+#include "shell/widgets/ask_printer.h"
 #include "shell/widgets/theme.h"
 #include "shell/widgets/window_memory.h"
 
@@ -58,8 +57,11 @@ void PreviewSheet::paintEvent(QPaintEvent*) {
 // --- the window
 
 frmPreview::frmPreview(Shell& shell_of_frame, const QString& title, Lay_Out lay_out_pages, const QPageLayout& page)
-    : Form(shell_of_frame, "frmPreview", Place::Above), title_(title), lay_out_(std::move(lay_out_pages)) {
-  setWindowTitle(title);
+    : frmPreview(shell_of_frame, "frmPreview") {
+  show_pages(title, std::move(lay_out_pages), page, true);
+}
+
+frmPreview::frmPreview(Shell& shell_of_frame, const char* name) : Form(shell_of_frame, name, Place::Above) {
   sheet_ = new PreviewSheet;
   scroll_ = new QScrollArea;
   scroll_->setWidget(sheet_);
@@ -72,6 +74,14 @@ frmPreview::frmPreview(Shell& shell_of_frame, const QString& title, Lay_Out lay_
   column->addWidget(build_bar());
   column->addWidget(scroll_, 1);
   connect_controls();
+}
+
+void frmPreview::show_pages(const QString& title, Lay_Out lay_out_pages, const QPageLayout& page, bool turns) {
+  title_ = title;
+  setWindowTitle(title);
+  lay_out_ = std::move(lay_out_pages);
+  cmdLandscape->setVisible(turns);
+  page_ = 0;
   lay_out(page);
 }
 
@@ -117,7 +127,7 @@ void frmPreview::connect_controls() {
   on(cmdFirst, "cmdFirst_AfterClick", [this] { go_to_page(0); });
   on(cmdPrevious, "cmdPrevious_AfterClick", [this] { go_to_page(page_ - 1); });
   on(cmdNext, "cmdNext_AfterClick", [this] { go_to_page(page_ + 1); });
-  on(cmdLast, "cmdLast_AfterClick", [this] { go_to_page(pages_->count() - 1); });
+  on(cmdLast, "cmdLast_AfterClick", [this] { go_to_page(last_page()); });
   on(cmdLandscape, "cmdLandscape_AfterClick", [this] {
     QPageLayout page = pages_->page();
     page.setOrientation(cmdLandscape->isChecked() ? QPageLayout::Landscape : QPageLayout::Portrait);
@@ -129,20 +139,21 @@ void frmPreview::connect_controls() {
 
 void frmPreview::lay_out(const QPageLayout& page) {
   const Hourglass hourglass(session.prompts);
-  pages_ = lay_out_(page);
+  auto pages = lay_out_(page);
+  pages_.swap(pages);  // what is on show lives until the sheet shows the new ones
   cmdLandscape->setChecked(page.orientation() == QPageLayout::Landscape);
-  go_to_page(std::min(page_, pages_->count() - 1));
+  go_to_page(std::min(page_, last_page()));
   fit();
 }
 
 void frmPreview::go_to_page(int page) {
-  page_ = std::clamp(page, 0, std::max(pages_->count() - 1, 0));
+  page_ = std::clamp(page, 0, std::max(last_page(), 0));
   sheet_->show_page(pages_.get(), page_);
-  lblPage->setText(QStringLiteral("Page %1 of %2").arg(page_ + 1).arg(pages_->count()));
+  lblPage->setText(QStringLiteral("Page %1 of %2").arg(page_ + 1).arg(last_page() + 1));
   cmdFirst->setEnabled(page_ > 0);
   cmdPrevious->setEnabled(page_ > 0);
-  cmdNext->setEnabled(page_ + 1 < pages_->count());
-  cmdLast->setEnabled(page_ + 1 < pages_->count());
+  cmdNext->setEnabled(page_ < last_page());
+  cmdLast->setEnabled(page_ < last_page());
   scroll_->verticalScrollBar()->setValue(0);
 }
 
@@ -164,10 +175,8 @@ void frmPreview::showEvent(QShowEvent* event) {
 }
 
 bool frmPreview::page_key(int key) {
-  const std::pair<int, int> ways[] = {{Qt::Key_PageDown, page_ + 1},
-                                      {Qt::Key_PageUp, page_ - 1},
-                                      {Qt::Key_Home, 0},
-                                      {Qt::Key_End, pages_->count() - 1}};
+  const std::pair<int, int> ways[] = {
+      {Qt::Key_PageDown, page_ + 1}, {Qt::Key_PageUp, page_ - 1}, {Qt::Key_Home, 0}, {Qt::Key_End, last_page()}};
   for (const auto& [known, page] : ways)
     if (known == key) {
       go_to_page(page);
@@ -187,29 +196,25 @@ bool frmPreview::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void frmPreview::cmdPrint_AfterClick() {
-  QPrinter printer(QPrinter::HighResolution);
-  printer.setFullPage(true);
-  printer.setPageSize(pages_->page().pageSize());
-  printer.setPageOrientation(pages_->page().orientation());
-  printer.setDocName(title_);
-  QPrintDialog dialog(&printer, this);
-  dialog.setMinMax(1, pages_->count());
-  if (dialog.exec() != QDialog::Accepted) return;
-  const QPageLayout chosen = printer.pageLayout();
+  if (!pages_) return;
+  const auto printer = Ask_Printer(this, pages_->page(), title_, pages_->count());
+  if (!printer) return;
+  const QPageLayout chosen = printer->pageLayout();
   if (!chosen.isEquivalentTo(pages_->page()))
     lay_out(QPageLayout(chosen.pageSize(), chosen.orientation(), QMarginsF()));
-  const int last = pages_->count() - 1;
-  const bool all = printer.fromPage() == 0;
+  const int last = last_page();
+  const bool all = printer->fromPage() == 0;
   const Hourglass hourglass(session.prompts);
   ProgressBar bar(session.prompts, "Print");
-  const Printed printed = Print_Pages(*pages_, printer, all ? 0 : printer.fromPage() - 1,
-                                      all ? last : std::min(printer.toPage() - 1, last), Told_By(bar));
-  if (printed == Printed::Whole) return finish(true);
-  if (printed == Printed::Refused)
-    session.prompts.box({"The printer did not take the pages.", "Print", Icon::Critical});
+  const Printed done =
+      Print_Pages(*pages_, *printer, all ? 0 : printer->fromPage() - 1,
+                  all ? last : std::min(printer->toPage() - 1, last), Told_By(bar), offset_on(*printer));
+  if (done == Printed::Whole) return printed();
+  if (done == Printed::Refused) session.prompts.box({"The printer did not take the pages.", "Print", Icon::Critical});
 }
 
 void frmPreview::cmdPDF_AfterClick() {
+  if (!pages_) return;
   const std::string file = session.prompts.save_file("PDF Files (*.pdf)|*.pdf", utf8(title_) + ".pdf");
   if (file.empty()) return;
   const Hourglass hourglass(session.prompts);

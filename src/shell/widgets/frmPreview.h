@@ -7,6 +7,7 @@
 
 class QLabel;
 class QPushButton;
+class QPrinter;
 class QScrollArea;
 
 namespace tallymere {
@@ -41,6 +42,15 @@ class frmPreview : public Form {
   QSize sizeHint() const override;
 
  protected:
+  /// A viewer of its own name, which calls show_pages once it knows what it shows.
+  frmPreview(Shell& shell_of_frame, const char* name);
+  /// `turns`: whether the pages may be laid out on a sheet turned round.
+  void show_pages(const QString& title, Lay_Out lay_out, const QPageLayout& page, bool turns);
+  /// How far the pages are moved on this printer, in twips.
+  virtual QPointF offset_on(const QPrinter&) const { return {}; }
+  /// The pages went to the printer.
+  virtual void printed() { finish(true); }
+
   void resizeEvent(QResizeEvent* event) override;
   void showEvent(QShowEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
@@ -50,6 +60,7 @@ class frmPreview : public Form {
   QWidget* build_bar();
   void connect_controls();
   void lay_out(const QPageLayout& page);
+  int last_page() const { return pages_ ? pages_->count() - 1 : -1; }
   void go_to_page(int page);
   void fit();
   bool page_key(int key);

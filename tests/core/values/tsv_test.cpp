@@ -28,8 +28,8 @@ TEST(Tsv, ErrorsSayWhere) {
       {"A\tB\n1\t2\n3\n", "T.tsv, line 3: 1 cells, not 2"},
       {"A\tB\n1\t2\t3\n", "T.tsv, line 2: 3 cells, not 2"},
       {"A\tB\n1\t2\n\n", "T.tsv, line 3: 1 cells, not 2"},
-      {"A\nC:\\x\n", "T.tsv, line 2: a backslash without t, n or backslash behind it"},
-      {"A\nend\\", "T.tsv, line 2: a backslash without t, n or backslash behind it"},
+      {"A\nC:\\x\n", "T.tsv, line 2: a backslash without t, n, r or backslash behind it"},
+      {"A\nend\\", "T.tsv, line 2: a backslash without t, n, r or backslash behind it"},
   };
   for (const Case& c : cases) {
     try {
