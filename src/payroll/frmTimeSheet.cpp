@@ -21,6 +21,7 @@ enum { Customer, Item, Notes, Class, DayOne, SSNum = DayOne + 7, PayrollItem };
 
 const std::string nobody = "000";
 
+std::string hours_text(double hours) { return utf8(QString::number(hours, 'g', 8)); }
 
 }  // namespace
 
@@ -39,13 +40,14 @@ frmTimeSheet::frmTimeSheet(Shell& shell_of_frame)
 void frmTimeSheet::build() {
   grdTimeSheet = named("grdTimeSheet", new SSDBGrid);
   grdTimeSheet->setAccessibleName(QStringLiteral("Hours"));
-  std::vector<GridColumn> columns = {{.name = QStringLiteral("Customer"), .list = lists_->drpCustomers},
-                                     {.name = QStringLiteral("Item"), .width = 14, .list = lists_->drpItems},
-                                     {.name = QStringLiteral("Notes")},
-                                     {.name = QStringLiteral("Class"), .width = 10, .list = lists_->drpClass}};
-  for (const char* field : Day_Fields) columns.push_back({.name = QLatin1String(field), .kind = Kind::number, .width = 6});
+  std::vector<GridColumn> columns = {{.name = QStringLiteral("Customer"), .width = 11, .list = lists_->drpCustomers},
+                                     {.name = QStringLiteral("Item"), .width = 9, .list = lists_->drpItems},
+                                     {.name = QStringLiteral("Notes"), .width = 8},
+                                     {.name = QStringLiteral("Class"), .width = 7, .list = lists_->drpClass}};
+  for (const char* field : Day_Fields)
+    columns.push_back({.name = QLatin1String(field), .kind = Kind::number, .width = 5});
   columns.push_back({.name = QStringLiteral("SSNum"), .kind = Kind::hidden});
-  columns.push_back({.name = QStringLiteral("Payroll Item"), .width = 16, .list = drpPayItems, .list_only = true});
+  columns.push_back({.name = QStringLiteral("Payroll Item"), .width = 11, .list = drpPayItems, .list_only = true});
   grdTimeSheet->set_columns(std::move(columns));
   grdTimeSheet->set_read_only(false);
   grdTimeSheet->set_new_line(true);
@@ -111,14 +113,16 @@ void frmTimeSheet::connect_controls() {
   on(cmbEmployee, &SSDBCombo::LostFocus, "cmbEmployee_LostFocus", [this] { cmbEmployee_LostFocus(); });
   on(grdTimeSheet, &SSDBGrid::BeforeUpdate, "grdTimeSheet_BeforeUpdate",
      [this](int row, bool& cancel) { grdTimeSheet_BeforeUpdate(row, cancel); });
-  on(grdTimeSheet, &SSDBGrid::AfterUpdate, "grdTimeSheet_AfterUpdate", [this](int row) { grdTimeSheet_AfterUpdate(row); });
+  on(grdTimeSheet, &SSDBGrid::AfterUpdate, "grdTimeSheet_AfterUpdate",
+     [this](int row) { grdTimeSheet_AfterUpdate(row); });
   on(grdTimeSheet, &SSDBGrid::BeforeDelete, "grdTimeSheet_BeforeDelete",
      [this](int row, bool& cancel) { grdTimeSheet_BeforeDelete(row, cancel); });
   on(grdTimeSheet, &SSDBGrid::AfterDelete, "grdTimeSheet_AfterDelete", [this] { Calc_Hours(); });
   on(grdTimeSheet, &SSDBGrid::AfterColUpdate, "Calc_Hours", [this] { Calc_Hours(); });
   on(cmdChangeDate, "cmdChangeDate_AfterClick", [this] { go_to_week(dteFirstDay->value()); });
   on(dteFirstDay, &QuillbrookDatePick::CloseUp, "dteFirstDay_CloseUp", [this] { go_to_week(dteFirstDay->value()); });
-  on(cmdChangeStartDate, "cmdChangeStartDate_AfterClick", [this] { shell.Show_Window({.window = "frmPrefrences", .key = {}}); });
+  on(cmdChangeStartDate, "cmdChangeStartDate_AfterClick",
+     [this] { shell.Show_Window({.window = "frmPrefrences", .key = {}}); });
   on(cmdCancel, "cmdCancel_AfterClick", [this] { cmdCancel_AfterClick(); });
   on(cmdOk, "cmdOk_AfterClick", [this] { close(); });
 }
@@ -136,7 +140,8 @@ void frmTimeSheet::load() {
 
 void frmTimeSheet::fill_lists() {
   std::vector<SSDBDropDown::Item> employees;
-  for (const TimedEmployee& employee : Employees_With_Time(session)) employees.push_back({employee.Name, employee.SSNum});
+  for (const TimedEmployee& employee : Employees_With_Time(session))
+    employees.push_back({employee.Name, employee.SSNum});
   cmbEmployee->list().set_items(employees);
 }
 
@@ -211,8 +216,8 @@ void frmTimeSheet::Calc_Hours() {
   const auto sums = tallymere::Calc_Hours(rows);
   for (int day = 0; day < 7; ++day)
     totals_[static_cast<size_t>(day)]->setText(
-        qt(Format(first_.plus_days(day), "ddd") + " " + Format(sums[static_cast<size_t>(day)], "0.##") + "   "));
-  totals_.back()->setText(qt("Week " + Format(sums.back(), "0.##")));
+        qt(Format(first_.plus_days(day), "ddd") + " " + hours_text(sums[static_cast<size_t>(day)]) + "   "));
+  totals_.back()->setText(qt("Week " + hours_text(sums.back())));
 }
 
 TimeRow frmTimeSheet::row_at(int row) const {

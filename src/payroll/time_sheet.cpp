@@ -67,8 +67,8 @@ Date First_Day_Of_Week(Session& session, Date day) {
 std::vector<TimeRow> Time_Rows(Session& session, Date first, const std::string& SSNum) {
   std::vector<TimeRow> rows;
   if (!Is_Made(*session.dbCompany, first)) return rows;
-  auto set = session.dbCompany->OpenRecordset(
-      "SELECT * FROM " + Time_Table(first) + " WHERE SSNum = ? ORDER BY RowKey", {SSNum});
+  auto set = session.dbCompany->OpenRecordset("SELECT * FROM " + Time_Table(first) + " WHERE SSNum = ? ORDER BY RowKey",
+                                              {SSNum});
   for (; !set.Eof(); set.MoveNext()) rows.push_back(Read_Row(set));
   return rows;
 }
@@ -85,13 +85,14 @@ std::optional<Fault> Time_Row_Fault(const std::array<std::string, 7>& typed, con
   return {};
 }
 
-int64_t Save_Time_Row(Session& session, Date first, const std::string& SSNum, const TimeRow& before, const TimeRow& now) {
+int64_t Save_Time_Row(Session& session, Date first, const std::string& SSNum, const TimeRow& before,
+                      const TimeRow& now) {
   store::Database& company = *session.dbCompany;
   store::Transaction tx(company, "Time sheet of " + first.to_text());
   Create_Time_Table(company, first);
   const bool fresh = before.key == 0;
-  store::Recordset row =
-      fresh ? company.OpenRecordset("SELECT * FROM " + Time_Table(first) + " WHERE 1 = 0") : At_Row(company, first, before);
+  store::Recordset row = fresh ? company.OpenRecordset("SELECT * FROM " + Time_Table(first) + " WHERE 1 = 0")
+                               : At_Row(company, first, before);
   fresh ? row.AddNew() : row.Edit();
   row["SSNum"] = SSNum;
   Write_Row(row, now);

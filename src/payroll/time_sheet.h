@@ -37,7 +37,8 @@ std::optional<Fault> Time_Row_Fault(const std::array<std::string, 7>& typed, con
 
 /// Writes a row; the week's table is made with the first one. `before` is the row as it was shown: Error 3197 when another user has
 /// changed or deleted it since. The row's new key.
-int64_t Save_Time_Row(Session& session, Date first, const std::string& SSNum, const TimeRow& before, const TimeRow& now);
+int64_t Save_Time_Row(Session& session, Date first, const std::string& SSNum, const TimeRow& before,
+                      const TimeRow& now);
 void Delete_Time_Row(Session& session, Date first, const TimeRow& row);
 
 /// The sum of each day, and after them of the week.
@@ -46,7 +47,7 @@ std::array<double, 8> Calc_Hours(const std::vector<TimeRow>& rows);
 struct TimedEmployee {
   std::string SSNum, Name;
 };
-std::vector<TimedEmployee> Employees_With_Time(Session& session);              ///< who is not released
+std::vector<TimedEmployee> Employees_With_Time(Session& session);               ///< who is not released
 std::vector<std::string> Wages_Of(Session& session, const std::string& SSNum);  ///< the wage items of an employee
 
 }  // namespace tallymere
