@@ -21,6 +21,7 @@
 #include "shell/settings/frmCustFields.h"
 #include "shell/settings/frmInfo.h"
 #include "shell/settings/frmModUser.h"
+#include "shell/settings/frmPrefrences.h"
 #include "shell/settings/frmUsers.h"
 
 namespace tallymere {
@@ -59,6 +60,7 @@ const WindowTable& Windows() {
       {"frmInfo", Make_Window<frmInfo>},
       {"frmCustFields", Make_Window<frmCustFields>},
       {"frmColors", Make_Window<frmColors>},
+      {"frmPrefrences", Make_Window<frmPrefrences>},
       {"frmColorPicker", Make_Window<frmColorPicker>},
   };
   return windows;

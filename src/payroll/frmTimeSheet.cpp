@@ -122,7 +122,7 @@ void frmTimeSheet::connect_controls() {
   on(cmdChangeDate, "cmdChangeDate_AfterClick", [this] { go_to_week(dteFirstDay->value()); });
   on(dteFirstDay, &QuillbrookDatePick::CloseUp, "dteFirstDay_CloseUp", [this] { go_to_week(dteFirstDay->value()); });
   on(cmdChangeStartDate, "cmdChangeStartDate_AfterClick",
-     [this] { shell.Show_Window({.window = "frmPrefrences", .key = {}}); });
+     [this] { shell.Show_Window({.window = "frmPrefrences", .key = "Payroll"}); });
   on(cmdCancel, "cmdCancel_AfterClick", [this] { cmdCancel_AfterClick(); });
   on(cmdOk, "cmdOk_AfterClick", [this] { close(); });
 }

@@ -103,3 +103,32 @@ modal("frmModUser", function (m) {
 click(u.cmdEdit);
 ok(!main.mnuPayroll.visible);
 equal(log(), []);
+
+// Preferences: pages, one Apply for all of them.
+menu("mnuSwitchMode");
+menu("mnuPrefrences");
+let r = win("frmPrefrences");
+equal([r.caption, r.imgSettings.items[0], r.chkToolBar.checked], ["Prefrences", "Shortcut Bar", true]);
+check(r.chkToolBar, false);
+pick(r.imgSettings, "Sales Tax");
+option(r.optSalesBase, 0);
+pick(r.imgSettings, "Finance Charges");
+type(r.txtAPR, "a lot");
+box("No Value", null);
+click(r.cmdApply);
+type(r.txtAPR, "18%");
+shot("frmPrefrences");
+pick(r.imgSettings, "Invoices");
+shot("frmPrefrences-invoices");
+file(null, "nothing.jpg");
+box("Company Logo", "This file holds no picture that can be read.");
+click(r.SSDBCommand1);
+click(r.cmdClose);
+ok(!main.Toolbar1.visible, "at once");
+equal(rows("SELECT State FROM GeneralPrefs WHERE Preference IN ('SalesBase', 'FinanceAPR', 'DefaultBank') ORDER BY Preference"),
+      [{State: "0SS"}, {State: "18%"}, {State: "Cash"}]);
+menu("mnuPrefrences");
+r = win("frmPrefrences");
+check(r.chkToolBar, true);
+click(r.cmdCancel);
+ok(!main.Toolbar1.visible, "nothing was applied");
