@@ -7,7 +7,10 @@
 #include "entry/register/frmRegister.h"
 #include "lists/frmAccounts.h"
 #include "lists/frmClass.h"
+#include "lists/frmCusMessage.h"
+#include "lists/frmCustomers.h"
 #include "lists/frmModAccount.h"
+#include "lists/frmModCustomer.h"
 #include "lists/frmNewPayee.h"
 #include "lists/frmOtherNames.h"
 #include "payroll/frmTimeSheet.h"
@@ -33,6 +36,9 @@ const WindowTable& Windows() {
       {"frmAccounts", Make_Window<frmAccounts>},
       {"frmCheck", Make_Window<frmCheck>},
       {"frmClass", Make_Window<frmClass>},
+      {"frmCusMessage", Make_Window<frmCusMessage>},
+      {"frmCustomers", Make_Window<frmCustomers>},
+      {"frmModCustomer", Make_Window<frmModCustomer>},
       {"frmModAccount", Make_Window<frmModAccount>},
       {"frmNewPayee", Make_Window<frmNewPayee>},
       {"frmOtherNames", Make_Window<frmOtherNames>},

@@ -4,6 +4,7 @@
 #include <QPushButton>
 #include <algorithm>
 
+#include "core/values/text.h"
 #include "shell/widgets/theme.h"
 
 namespace tallymere {
@@ -11,6 +12,7 @@ namespace tallymere {
 ListForm::ListForm(Shell& shell_of_frame, const char* name, const char* grid_name, const Menu& menu)
     : Form(shell_of_frame, name), menu_(menu) {
   grid_ = named(grid_name, new SSDBGrid);
+  grid_->define_style(dormant_style, {.text = theme::quiet_text()});
   cmdAction = named("cmdAction", new QPushButton(QStringLiteral("&Action")));
   cmdClose = named("cmdClose", new QPushButton(QStringLiteral("&Close")));
   on(cmdAction, "cmdAction_Click", [this] { cmdAction_Click(); });
@@ -48,6 +50,23 @@ void ListForm::make_list_again() {
   int row = 0;
   while (row < grid_->rows() && grid_->text(row, id_column_) != id) ++row;
   grid_->set_Row(row < grid_->rows() ? row : std::clamp(before, 0, std::max(grid_->rows() - 1, 0)));
+}
+
+void ListForm::go_to_row(const std::string& id) {
+  for (int row = 0; row < grid_->rows(); ++row)
+    if (same_text(grid_->text(row, id_column_), id)) return grid_->set_Row(row);
+}
+
+void ListForm::new_row(const char* form) {
+  if (const auto made = shell.Ask_Window({.window = form, .key = {}})) go_to_row(*made);
+}
+
+void ListForm::edit_row(const char* form, const RowList& rows, const std::string& key) {
+  if (!Row_Exists(session, rows, key)) {
+    make_list_again();
+    return shell.say("Another user has deleted this " + std::string(rows.word) + ".");
+  }
+  if (const auto saved = shell.Ask_Window({.window = form, .key = key})) go_to_row(*saved);
 }
 
 void ListForm::cmdAction_Click() {

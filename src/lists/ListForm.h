@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "lists/list_row.h"
 #include "shell/widgets/Form.h"
 #include "shell/widgets/grid/SSDBGrid.h"
 
@@ -45,8 +46,16 @@ class ListForm : public Form {
   /// Lays the window out; `above_buttons` stands between the grid and the buttons at their left.
   void build(std::vector<GridColumn> columns, int id_column, QWidget* beside_buttons = nullptr);
 
+  /// The row with this id becomes the current one, if it is in the list.
+  void go_to_row(const std::string& id);
+  /// Runs the form of a new row, and goes to it.
+  void new_row(const char* form);
+  /// Runs the form on a row; one that another user deleted leaves the list instead.
+  void edit_row(const char* form, const RowList& rows, const std::string& key);
+
   void keyPressEvent(QKeyEvent* event) override;
 
+  static constexpr const char* dormant_style = "Dormant";  ///< of rows that are shown on request only
   SSDBGrid* grid_;
   QPushButton *cmdAction, *cmdClose;
 

@@ -56,13 +56,12 @@ struct RowSaving {
   }
 };
 
-RowSave Save_Row(Session& session, ListRow& row, const std::string& what, const WriteRow& write,
-                 const WriteRow& after) {
+RowSave Save_Row(Session& session, ListRow& row, const std::string& what, const WriteRow& write) {
   return RowSaving::run(session, row, what, [&](store::Recordset& fields) {
     row.is_new() ? fields.AddNew() : fields.Edit();
     auto fault = write(row);
     fault ? fields.CancelUpdate() : fields.Update();
-    return fault || !after ? fault : after(row);
+    return fault;
   });
 }
 

@@ -55,11 +55,10 @@ struct RowSave {
   bool ok() const { return !fault && !conflict && !stayed; }
 };
 
-/// Saves a row in one store transaction: `write` sets its fields, then `after` writes what goes with it. A fault that
-/// one answers with leaves everything as it was.
+/// Saves a row in one store transaction: `write` sets its fields, and what else it writes belongs to the same commit. A
+/// fault that it answers with leaves everything as it was.
 using WriteRow = std::function<std::optional<Fault>(ListRow& row)>;
-RowSave Save_Row(Session& session, ListRow& row, const std::string& what, const WriteRow& write,
-                 const WriteRow& after = {});
+RowSave Save_Row(Session& session, ListRow& row, const std::string& what, const WriteRow& write);
 
 /// Removes the row instead, in the same way; `write` does what goes with it.
 RowSave Remove_Row(Session& session, ListRow& row, const std::string& what, const WriteRow& write);

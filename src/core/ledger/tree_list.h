@@ -51,4 +51,25 @@ class TreeList {
   std::set<const Row*> shown_;
 };
 
+/// Puts at the top what no list would show otherwise: rows whose parent is gone, and one of those that name each other in
+/// a circle. `parent` is the field that names it.
+template <typename Row>
+void Raise_Lost_Rows(std::vector<Row>& rows, std::string Row::*parent) {
+  std::map<std::string, Row*> by_key;
+  for (Row& row : rows) by_key.emplace(folded(row.key()), &row);
+  const auto above = [&](const Row& row) {
+    const auto found = by_key.find(folded(row.*parent));
+    return found == by_key.end() ? nullptr : found->second;
+  };
+  std::set<const Row*> hangs;  // below a top row
+  for (Row& row : rows) {
+    std::set<const Row*> way;
+    Row* at = &row;
+    for (; at && !hangs.contains(at) && way.insert(at).second; at = above(*at))
+      if (!above(*at)) (at->*parent).clear();
+    if (at && !hangs.contains(at)) (at->*parent).clear();  // a circle begins anew here
+    hangs.insert(way.begin(), way.end());
+  }
+}
+
 }  // namespace tallymere
