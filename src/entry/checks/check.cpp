@@ -119,6 +119,7 @@ std::optional<Check> Load_Check(Session& session, int64_t TransNum) {
       {TransNum});
   if (!stored.has_row()) return std::nullopt;
   check.Date = stored["Date"].date();
+  check.loaded = check.Date;
   const std::vector<LedgerRow> rows = Read_Rows(stored, Banks(session));
   Read_Head(rows.front(), check);
   if (check.Type == "Billcheck")
@@ -252,15 +253,27 @@ CheckFields Editable_Fields(const Check& check) {
 
 namespace {
 
-void Rewrite_Narrow(Session& session, const Check& check) {
-  FieldValues fields = {{"Number", check.Number}};
+/// Writes what was changed of the few fields. Where another user changed the same, or the check is gone, this save ends:
+/// a check must not lose the number that printing gave it meanwhile.
+void Rewrite_Narrow(Session& session, Check& check) {
+  store::Database& db = *session.dbCompany;
+  store::Transaction tx(db, Title_Of_Rows(db, check.TransNum));
+  const auto now = Load_Check(session, check.TransNum);
+  if (!now || !check.loaded) throw store::Error(store::errors::data_changed, "The check was deleted.");
+  FieldValues fields;
+  const auto change = [&](const char* name, const auto& typed, const auto& loaded, const auto& stored) {
+    if (typed == loaded) return;
+    if (stored != loaded) throw store::Error(store::errors::data_changed, "The check was changed.");
+    fields.emplace_back(name, typed);
+  };
   const CheckFields may = Editable_Fields(check);
-  if (may.Date) fields.emplace_back("Date", check.Date);
-  if (may.Name) fields.emplace_back("Name", check.Name);
-  // The year it leaves must be balanced again as well as the one it comes to.
-  auto was = session.dbCompany->value("SELECT Date FROM Transactions WHERE TransNum = ?", {check.TransNum});
-  if (auto date = was.maybe_date()) Set_Recalc_If_Other_Year(session, *date);
-  Rewrite_Fields(session, check.TransNum, fields);
+  change("Number", check.Number, check.kept->Number.value_or(""), now->Number);
+  if (may.Date) change("Date", check.Date, *check.loaded, now->Date);
+  if (may.Name) change("Name", check.Name, check.kept->Name.value_or(""), now->Name);
+  Set_Recalc_If_Other_Year(session, now->Date);
+  if (!fields.empty()) Rewrite_Fields(session, check.TransNum, fields);
+  tx.commit();
+  check = *Load_Check(session, check.TransNum);
 }
 
 }  // namespace
@@ -286,6 +299,14 @@ SaveResult Enter_Check(Session& session, Check& check) {
       Write_Check(session, check);
   });
   return {.conflict = conflict, .written = !conflict};
+}
+
+std::string Locked_Why(const Check& check) {
+  if (check.Type == "Billcheck") return "This check pays bills. Here only its number can be changed.";
+  if (check.Type == "Paycheck") return "This is a paycheck. Here only its number and date can be changed.";
+  if (check.Type == "Liabilitycheck")
+    return "This check pays liabilities. Here only its number, date and payee can be changed.";
+  return "";
 }
 
 std::optional<Fault> Cannot_Print(const Check& check) {

@@ -57,7 +57,8 @@ struct Check {
   std::optional<tallymere::Date> PaidThrough = {};
   bool has_payroll_items = false;  ///< pays payroll items, else sales tax
 
-  KeptRow kept = {};  ///< the bank's row as it was loaded
+  KeptRow kept = {};  ///< the bank's row as it was loaded, and its date
+  std::optional<tallymere::Date> loaded = {};
   Probe probe = {};
 
   bool is_new() const { return Type.empty(); }
@@ -92,6 +93,8 @@ struct CheckFields {
   bool others = true;
 };
 CheckFields Editable_Fields(const Check& check);
+/// Why the rest of a check cannot be changed here, in one line; "" where all can.
+std::string Locked_Why(const Check& check);
 
 /// "Print" is no number to print a check under.
 std::optional<Fault> Cannot_Print(const Check& check);

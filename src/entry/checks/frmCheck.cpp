@@ -100,6 +100,9 @@ void frmCheck::set_editable(const Check& check) {
   for (QWidget* field : {static_cast<QWidget*>(cmbAccount), static_cast<QWidget*>(txtAmount),
                          static_cast<QWidget*>(txtAddress), static_cast<QWidget*>(txtMemo)})
     field->setEnabled(may.others);
+  lblLocked->setText(qt(Locked_Why(check)));
+  lblLocked->setVisible(check.is_narrow());
+  show_assigned();
   const bool there = shell.has_window(check.has_payroll_items ? "frmPayLiabilites" : "frmPaySalesTax");
   cmdLiaEdit->setEnabled(there);
   cmdLiaEdit->setToolTip(there ? QString() : QStringLiteral("Its window is not part of this version yet."));
@@ -154,6 +157,7 @@ void frmCheck::Check_New_Payee() {
 /// The amount routine. false: what was typed was refused.
 bool frmCheck::txtAmount_LostFocus() {
   if (document_.is_narrow()) return true;
+  txtAmount->reckon();
   const CheckAmount amount = Check_Amount_In_Words(session.words, utf8(txtAmount->text()));
   txtAmount->setText(qt(amount.text));
   lblAmount->setText(qt(amount.words));
@@ -166,6 +170,18 @@ bool frmCheck::txtAmount_LostFocus() {
   if (amount.value && SSTab1->currentIndex() == static_cast<int>(LineTab::Expenses))
     expenses_->propose_remainder(*amount.value);
   return true;
+}
+
+std::optional<Money> frmCheck::left() const {
+  const auto amount = txtAmount->amount();
+  if (!amount) return std::nullopt;
+  return *amount - Sum_Of(expenses_->read()) - Sum_Of(items_->read());
+}
+
+void frmCheck::show_assigned() {
+  const auto rest = left();
+  const bool plain = !document_.is_narrow();
+  lblAssigned->setText(plain && rest ? qt(Assigned_Text(*txtAmount->amount() - *rest, *rest)) : QString());
 }
 
 void frmCheck::go_to_lines() {

@@ -62,6 +62,8 @@ class frmCheck : public DocumentForm<Check> {
   void Check_New_Payee();
   bool txtAmount_LostFocus();
   void go_to_lines();
+  std::optional<Money> left() const;  ///< of the check's amount, after all lines
+  void show_assigned();
 
   // --- commands
   void cmdDelete_Click();
@@ -78,7 +80,8 @@ class frmCheck : public DocumentForm<Check> {
 
   QFrame* fraCheck;
   SSDBCombo *cmbAccount, *cmbPayee;
-  QLabel *lblCompany, *lblBankID, *lblBalance, *lblAmount, *lblPayPeriod, *lblHours, *lblPaidThrough;
+  QLabel *lblCompany, *lblBankID, *lblBalance, *lblAmount, *lblPayPeriod, *lblHours, *lblPaidThrough, *lblLocked,
+      *lblAssigned;
   QLineEdit *txtIndex, *txtNumber, *txtMemo;
   QuillbrookDatePick* DTPicker1;
   MoneyEdit* txtAmount;

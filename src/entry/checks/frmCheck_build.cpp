@@ -56,6 +56,10 @@ void frmCheck::build_fields() {
   lblAmount->setAccessibleName(QStringLiteral("Amount in words"));
   txtAddress = named("txtAddress", new AddressEdit);
   txtMemo = named("txtMemo", new QLineEdit);
+  lblLocked = named("lblLocked", new QLabel);
+  lblAssigned = named("lblAssigned", new QLabel);
+  lblAssigned->setContentsMargins(0, 0, 0, theme::unit / 2);
+  lblAssigned->setFont(theme::tabular(lblAssigned->font()));
 }
 
 /// Number and date at the right, the payee's line with the amount in its box, the words, address and memo.
@@ -98,6 +102,9 @@ QFrame* frmCheck::build_check() {
 void frmCheck::build_lines() {
   expenses_ = new ExpenseGrid(*this, shell, *lists_, QStringLiteral("Choose a category for what this check pays."));
   items_ = new ItemGrid(*this, shell, *lists_, {.hint = QStringLiteral("Choose an item that this check buys.")});
+  expenses_->offer([this] { return left(); });
+  for (LineGrid* lines : {static_cast<LineGrid*>(expenses_), static_cast<LineGrid*>(items_)})
+    lines->when_changed([this] { show_assigned(); });
 }
 
 QGroupBox* frmCheck::build_bill() {
@@ -153,6 +160,7 @@ void frmCheck::build() {
   SSTab1 = named("SSTab1", new QTabWidget);
   SSTab1->addTab(expenses_->grid, QStringLiteral("E&xpenses"));
   SSTab1->addTab(items_->grid, QStringLiteral("&Items"));
+  SSTab1->setCornerWidget(lblAssigned);
   pages_ = new QStackedWidget;
   for (QWidget* page : {static_cast<QWidget*>(SSTab1), static_cast<QWidget*>(build_bill()),
                         static_cast<QWidget*>(build_paycheck()), static_cast<QWidget*>(build_liability())})
@@ -164,6 +172,7 @@ void frmCheck::build() {
   auto* column = column_layout(this);
   column->addLayout(bank);
   column->addWidget(build_check());
+  column->addWidget(lblLocked);
   column->addWidget(pages_, 1);
   column->addLayout(button_row({cmdPrint, cmdDelete, cmdRepeat}, {cmdPrev, cmdNext, cmdOk}));
   setMinimumWidth(80 * theme::unit);
@@ -190,6 +199,7 @@ void frmCheck::connect_controls() {
   };
   later_on(cmbPayee, &SSDBCombo::LostFocus, "cmbPayee_LostFocus", &frmCheck::Load_Address_Box);
   later_on(txtAmount, &MoneyEdit::LostFocus, "txtAmount_LostFocus", &frmCheck::txtAmount_LostFocus);
+  on(txtAmount, &QLineEdit::textChanged, "txtAmount_Change", [this] { show_assigned(); });
   on(SSTab1, &QTabWidget::currentChanged, "SSTab1_Click", [this] { go_to_lines(); });
   on(cmdPrint, "cmdPrint_Click", [this] { cmdPrint_Click(); });
   on(cmdDelete, "cmdDelete_Click", [this] { cmdDelete_Click(); });

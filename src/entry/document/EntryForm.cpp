@@ -96,20 +96,20 @@ SSDBGrid* EntryForm::line_grid(const char* name, std::vector<GridColumn> columns
   grid->set_new_line(true);
   grid->set_delete(true);
   grid->set_empty_hint(hint);
-  connect(grid, &SSDBGrid::BeforeColUpdate, this,
-          [this, grid](int, int column, const std::string& typed, bool& cancel) {
-            refuse_no_amount(grid, column, typed, cancel);
-          });
+  Take_Only_Amounts(shell, *grid);
   return grid;
 }
 
-void EntryForm::refuse_no_amount(SSDBGrid* grid, int column, const std::string& typed, bool& cancel) {
-  const GridColumn& how = grid->column(column);
-  if (!is_amount(how.kind) || trim(typed).empty()) return;
-  if (how.kind == Kind::money ? Money::parse(typed).has_value() : is_numeric(typed)) return;
-  cancel = true;
-  QApplication::beep();
-  shell.say("\"" + typed + "\" is not an amount.");
+void Take_Only_Amounts(Shell& shell, SSDBGrid& grid) {
+  const auto refuse = [&shell, &grid](int, int column, const std::string& typed, bool& cancel) {
+    const GridColumn& how = grid.column(column);
+    if (!is_amount(how.kind) || trim(typed).empty()) return;
+    if (how.kind == Kind::money ? Money::parse(typed).has_value() : is_numeric(typed)) return;
+    cancel = true;
+    QApplication::beep();
+    shell.say("\"" + typed + "\" is not an amount.");
+  };
+  QObject::connect(&grid, &SSDBGrid::BeforeColUpdate, &grid, refuse);
 }
 
 std::optional<Money> Money_At(const SSDBGrid& grid, int row, int column) {

@@ -60,11 +60,13 @@ class EntryForm : public Form {
 
  private:
   std::string content() const;  ///< all that stands in the fields and grids
-  void refuse_no_amount(SSDBGrid* grid, int column, const std::string& typed, bool& cancel);
 
   std::string kept_;
   bool valid_ = true;
 };
+
+/// Words typed into the grid's columns of amounts and numbers are refused; the status bar says so.
+void Take_Only_Amounts(Shell& shell, SSDBGrid& grid);
 
 /// Cells of a line as documents hold them; a cell that is blank or does not read as a number is nothing.
 std::optional<Money> Money_At(const SSDBGrid& grid, int row, int column);

@@ -14,8 +14,9 @@ ExpenseGrid::ExpenseGrid(EntryForm& window, Shell& shell_of_frame, DropDowns& li
       {choice("Category", lists.drpExpenseList, CatID), amount("Amount", 15), text("Memo"),
        choice("Customer", lists.drpCustomers), choice("Class", lists.drpClass), hidden("CatID"), hidden("Kept")},
       hint);
-  on(&SSDBGrid::AfterColUpdate, "grdExpense_AfterColUpdate", [this](int, int column) {
+  on(&SSDBGrid::AfterColUpdate, "grdExpense_AfterColUpdate", [this](int row, int column) {
     if (column == Category || column == Class) form.set_Valid(grid->Valid());
+    if (column == Category) offer_remainder(row);
     tell();
   });
   on(&SSDBGrid::AfterDelete, "grdExpense_AfterDelete", [this] { tell(); });
@@ -47,6 +48,12 @@ std::vector<ExpenseLine> ExpenseGrid::read() const {
                      .CatID = grid->text(row, CatID),
                      .kept = kept(grid->text(row, Kept))});
   return lines;
+}
+
+void ExpenseGrid::offer_remainder(int row) {
+  const auto rest = left_ ? left_() : std::nullopt;
+  const bool named = !grid->text(row, Category).empty();
+  if (named && rest && !rest->is_zero() && grid->text(row, Amount).empty()) grid->set_value(row, Amount, *rest);
 }
 
 void ExpenseGrid::propose_remainder(Money amount) {

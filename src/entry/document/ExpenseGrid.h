@@ -14,6 +14,8 @@ class ExpenseGrid : public LineGrid {
   void show(const std::vector<ExpenseLine>& lines);
   std::vector<ExpenseLine> read() const;
 
+  /// What is left of the document's amount: a line whose category is chosen before its amount is offered it.
+  void offer(std::function<std::optional<Money>()> left) { left_ = std::move(left); }
   /// Lines without an amount go; what the others leave of the document's amount is proposed on a new one.
   void propose_remainder(Money amount);
   /// Offers to make the category of the line that was left last, where it is none.
@@ -24,7 +26,10 @@ class ExpenseGrid : public LineGrid {
   void point_at_mistake();
 
  private:
-  int left_line_ = -1;  ///< -1: dealt with
+  void offer_remainder(int row);
+
+  std::function<std::optional<Money>()> left_;
+  int left_line_ = -1;  ///< the line that was left last; -1: dealt with
 };
 
 }  // namespace tallymere

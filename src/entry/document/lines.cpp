@@ -3,6 +3,7 @@
 #include "core/ledger/ledger.h"
 #include "core/ledger/stored_row.h"
 #include "core/store/recordset.h"
+#include "core/values/format.h"
 
 namespace tallymere {
 
@@ -42,6 +43,10 @@ std::optional<Money> Expense_Remainder(std::vector<ExpenseLine>& expenses, Money
   std::erase_if(expenses, [](const ExpenseLine& line) { return !line.Amount; });
   const Money rest = amount - Sum_Of(expenses);
   return rest.is_zero() ? std::nullopt : std::optional(rest);
+}
+
+std::string Assigned_Text(Money assigned, Money left) {
+  return "Assigned " + Format(assigned, "#,##0.00") + ", left " + Format(left, "#,##0.00");
 }
 
 void Drop_Blank_Lines(std::vector<ExpenseLine>& expenses, std::vector<ItemLine>& items) {

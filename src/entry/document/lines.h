@@ -97,6 +97,9 @@ std::optional<Money> Item_Amount(const ItemLine& line, std::string_view ItemType
 /// is any, is to be proposed in the Amount column of the new line.
 std::optional<Money> Expense_Remainder(std::vector<ExpenseLine>& expenses, Money amount);
 
+/// "Assigned 80.00, left 20.00": what stands below the lines.
+std::string Assigned_Text(Money assigned, Money left);
+
 /// Takes out what is not written: expenses without a category, items without name and amount.
 void Drop_Blank_Lines(std::vector<ExpenseLine>& expenses, std::vector<ItemLine>& items);
 

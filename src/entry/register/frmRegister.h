@@ -111,6 +111,7 @@ class frmRegister : public Form {
   bool reload_due_ = false;   ///< the ledger changed elsewhere
   bool payee_typed_ = false;  ///< of a new line, whose memorised transaction was not looked up yet
   bool telling_ = false;
+  std::vector<KeptRow> kept_lines_;  ///< the rows that lines of the break down were loaded from
 
   DropDowns* lists_;
   SSDBDropDown *SSDBDropDown1, *drpVendor, *drpCustomers;
@@ -127,7 +128,7 @@ namespace register_column {
 enum { Date, Num, Payee, Category, Memo, Class, Out, Clear, In, Balance, TransNum, CatID };
 }
 namespace break_down_column {
-enum { Account, Amount, Memo, Customer, Class, CatID, SourceName };
+enum { Account, Amount, Memo, Customer, Class, CatID, Kept };
 }
 
 }  // namespace tallymere

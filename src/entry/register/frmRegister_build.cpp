@@ -8,6 +8,7 @@
 #include <QScrollBar>
 #include <QTimer>
 
+#include "entry/document/EntryForm.h"
 #include "entry/register/frmRegister.h"
 #include "shell/drop_downs.h"
 #include "shell/widgets/QuillbrookDatePick.h"
@@ -108,7 +109,8 @@ void frmRegister::build_break_down() {
   grdBreakDown = named("grdBreakDown", new SSDBGrid);
   grdBreakDown->set_columns({choice("Account", SSDBDropDown1, 0, line::CatID), money("Amount"), text("Memo"),
                              choice("Customer", drpCustomers), choice("Class", lists_->drpClass), hidden("CatID"),
-                             hidden("SourceName")});
+                             hidden("Kept")});
+  Take_Only_Amounts(shell, *grdBreakDown);
   grdBreakDown->set_read_only(false);
   grdBreakDown->set_new_line(true);
   grdBreakDown->set_delete(true);

@@ -24,7 +24,9 @@ void frmRegister::settle() {
 
 /// Writes the line. false: it stays on screen as it was typed.
 bool frmRegister::record_line() {
+  const CategoriesMade categories(session);
   const RecordResult result = Record(session, *register_, entry_);
+  if (categories.any()) shell.changed("Accounts");
   const bool try_again = result.conflict && !result.conflict->reload;
   if (result.conflict) session.prompts.box(result.conflict->box);
   if (try_again) return false;
@@ -33,6 +35,7 @@ bool frmRegister::record_line() {
     return false;
   }
   if (result.fault) session.prompts.box(result.fault->box);
+  if (result.notice) session.prompts.box(*result.notice);
   if (result.stapler) session.prompts.sound(stapler);
   changed_ = false;
   if (!result.fault && !result.conflict) tell();
@@ -120,8 +123,13 @@ void frmRegister::grdRegister_MouseUp(int row) {
 }
 
 void frmRegister::mnuDelReg_Click() {
-  const RegisterDeletion result =
-      Delete_From_Register(session, {.Cleared = entry_.Cleared, .TransNum = entry_.TransNum});
+  const RegisterLine line{.Number = entry_.Number,
+                          .Name = entry_.Name,
+                          .Credit = entry_.Credit,
+                          .Cleared = entry_.Cleared,
+                          .Debit = entry_.Debit,
+                          .TransNum = entry_.TransNum};
+  const RegisterDeletion result = Delete_From_Register(session, line, entry_.probe);
   if (result.conflict) session.prompts.box(result.conflict->box);
   if (!result.deleted && !result.conflict) return;
   register_->Fill(row_ + 1, 1);
@@ -142,9 +150,12 @@ void frmRegister::cmdBreakdown_Click() {
 
 void frmRegister::show_break_down() {
   grdBreakDown->RemoveAll();
-  for (const BreakDownLine& each : entry_.breakdown)
-    grdBreakDown->AddValues(
-        {each.Account, each.Amount, each.Memo, each.Customer, each.Class, each.CatID, each.SourceName});
+  kept_lines_ = {nullptr};
+  for (const BreakDownLine& each : entry_.breakdown) {
+    grdBreakDown->AddValues({each.Account, each.Amount, each.Memo, each.Customer, each.Class, each.CatID,
+                             static_cast<int64_t>(kept_lines_.size())});
+    kept_lines_.push_back(each.kept);
+  }
   fraBreakDown->show();
   fraBreakDown->raise();
   place_break_down();
@@ -156,13 +167,14 @@ void frmRegister::read_break_down() {
   entry_.breakdown.clear();
   const auto text = [this](int row, int column) { return grdBreakDown->text(row, column); };
   for (int row = 0; row < grdBreakDown->rows(); ++row)
-    entry_.breakdown.push_back({.Account = text(row, line::Account),
-                                .Amount = Money_At(*grdBreakDown, row, line::Amount),
-                                .Memo = text(row, line::Memo),
-                                .Customer = text(row, line::Customer),
-                                .Class = text(row, line::Class),
-                                .CatID = text(row, line::CatID),
-                                .SourceName = text(row, line::SourceName)});
+    entry_.breakdown.push_back(
+        {.Account = text(row, line::Account),
+         .Amount = Money_At(*grdBreakDown, row, line::Amount),
+         .Memo = text(row, line::Memo),
+         .Customer = text(row, line::Customer),
+         .Class = text(row, line::Class),
+         .CatID = text(row, line::CatID),
+         .kept = kept_lines_[static_cast<size_t>(grdBreakDown->value(row, line::Kept).integer())]});
 }
 
 /// Takes the lines into the entry. false: they do not add up, and the frame stays.

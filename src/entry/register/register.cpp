@@ -155,7 +155,7 @@ GoTo Go_To(Session& session, int64_t TransNum) {
   return {type, Entry_Window(type)};
 }
 
-RegisterDeletion Delete_From_Register(Session& session, const RegisterLine& line) {
+RegisterDeletion Delete_From_Register(Session& session, const RegisterLine& line, const Probe& probe) {
   if (line.TransNum == 0) return {};
   const std::string Type = Go_To(session, line.TransNum).Type;
   const std::string spoken = Spoken(Type, line.Number, line.Name, line.Credit ? line.Credit : line.Debit);
@@ -164,7 +164,12 @@ RegisterDeletion Delete_From_Register(Session& session, const RegisterLine& line
     session.prompts.box({"Payments can only be deleted from the payment screen.", "No Delete", Icon::Critical});
     return {};
   }
-  auto conflict = Save_Or_Conflict([&] { Delete_Transaction(session, line.TransNum); });
+  auto conflict = Save_Or_Conflict([&] {
+    store::Transaction tx(*session.dbCompany, "Deleted " + Title_Of_Rows(*session.dbCompany, line.TransNum));
+    probe.check(*session.dbCompany);
+    Delete_Transaction(session, line.TransNum);
+    tx.commit();
+  });
   return {.deleted = !conflict, .conflict = conflict};
 }
 

@@ -95,11 +95,11 @@ struct GoTo {
 };
 GoTo Go_To(Session& session, int64_t TransNum);
 
-/// mnuDelReg: asks, and deletes the line's whole transaction.
+/// mnuDelReg: asks, and deletes the line's whole transaction, unless another user changed it since `probe` was taken.
 struct RegisterDeletion {
   bool deleted = false;
   std::optional<Conflict> conflict = {};
 };
-RegisterDeletion Delete_From_Register(Session& session, const RegisterLine& line);
+RegisterDeletion Delete_From_Register(Session& session, const RegisterLine& line, const Probe& probe = {});
 
 }  // namespace tallymere

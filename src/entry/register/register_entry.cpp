@@ -1,8 +1,11 @@
 #include "entry/register/register_entry.h"
 
+#include <algorithm>
 #include <tuple>
+#include <utility>
 
 #include "core/ledger/ledger.h"
+#include "core/ledger/stored_row.h"
 #include "core/store/error.h"
 #include "core/store/recordset.h"
 
@@ -20,19 +23,23 @@ std::optional<Money> Amount_On(store::Recordset& row, const char* field) {
 /// negative.
 bool Is_Outgoing(const RegisterEntry& entry) { return entry.Credit && !entry.Credit->is_zero(); }
 
-BreakDownLine Read_Line(Session& session, store::Recordset& row, bool outgoing) {
-  const Money net = row["Debit"].money() - row["Credit"].money();
-  return {.Account = Category_Name(session, row["Account"].text()),
-          .Amount = outgoing ? net : -net,
-          .Memo = row["Memo"].text(),
-          .Customer = row["Name"].text(),
-          .Class = row["Class"].text(),
-          .CatID = row["Account"].text(),
-          .SourceName = row["SourceName"].text()};
+LineSide Side_Of(const RegisterEntry& entry) { return Is_Outgoing(entry) ? LineSide::Debit : LineSide::Credit; }
+
+BreakDownLine Read_Line(Session& session, const KeptRow& row, LineSide side) {
+  return {.Account = Category_Name(session, row->Account),
+          .Amount = Posted(*row, side),
+          .Memo = row->Memo,
+          .Customer = row->Name.value_or(""),
+          .Class = row->Class,
+          .CatID = row->Account,
+          .kept = row};
 }
 
-void Read_Lines(Session& session, store::Recordset rows, RegisterEntry& entry) {
-  for (; !rows.Eof(); rows.MoveNext()) entry.breakdown.push_back(Read_Line(session, rows, Is_Outgoing(entry)));
+std::vector<BreakDownLine> Read_Lines(Session& session, store::Recordset rows, LineSide side) {
+  std::vector<BreakDownLine> lines;
+  for (; !rows.Eof(); rows.MoveNext())
+    lines.push_back(Read_Line(session, std::make_shared<const LedgerRow>(Stored_Row(rows)), side));
+  return lines;
 }
 
 }  // namespace
@@ -44,6 +51,7 @@ std::optional<RegisterEntry> Open_Entry(Session& session, const Register& reg, c
   RegisterEntry entry{.TransNum = line.TransNum, .key = line.key, .probe = Probe::Of(db, line.TransNum)};
   auto row = db.OpenRecordset("SELECT * FROM Transactions WHERE RowKey = ?", {line.key});
   if (!row.has_row()) return std::nullopt;
+  entry.kept = std::make_shared<const LedgerRow>(Stored_Row(row));
   entry.Date = row["Date"].maybe_date();
   entry.Number = row["Number"].text();
   entry.Name = row["Name"].text();
@@ -54,10 +62,10 @@ std::optional<RegisterEntry> Open_Entry(Session& session, const Register& reg, c
   entry.Cleared = row["Cleared"].flag();
   entry.Debit = Amount_On(row, "Debit");
   entry.CatID = entry.is_broken_down() ? "" : row["Category"].text();
-  Read_Lines(session,
-             db.OpenRecordset("SELECT * FROM Transactions WHERE TransNum = ? AND Account <> ? ORDER BY RowKey",
-                              {line.TransNum, reg.category().CatID}),
-             entry);
+  auto others = db.OpenRecordset("SELECT * FROM Transactions WHERE TransNum = ? AND Account <> ? ORDER BY RowKey",
+                                 {line.TransNum, reg.category().CatID});
+  entry.below = others.has_row() && others.key() < line.key;
+  entry.breakdown = Read_Lines(session, std::move(others), Side_Of(entry));
   return entry;
 }
 
@@ -103,12 +111,13 @@ void Fill_Memorised(Session& session, RegisterEntry& entry) {
     entry.CatID = row["Category"].text();
     return;
   }
-  Read_Lines(session,
-             db.OpenRecordset("SELECT * FROM Transactions WHERE TransNum = ? AND Category <> "
-                              "'<-Break Down->' ORDER BY RowKey",
-                              {row["TransNum"].integer()}),
-             entry);
+  entry.breakdown = Read_Lines(session,
+                               db.OpenRecordset("SELECT * FROM Transactions WHERE TransNum = ? AND Category <> "
+                                                "'<-Break Down->' ORDER BY RowKey",
+                                                {row["TransNum"].integer()}),
+                               LineSide::Debit);
   if (entry.breakdown.empty()) entry.Category.clear();
+  for (BreakDownLine& line : entry.breakdown) line.kept.reset();  // a customer nobody sees would be billed
 }
 
 Box Save_Changes_Question() { return {"Do you wish to record your changes?", "Save Changes", Icon::Question}; }
@@ -183,7 +192,7 @@ std::optional<Fault> Entry_Fault(Session& session, const Register& reg, const Re
   return std::nullopt;
 }
 
-void Rewrite_Cleared(Session& session, const RegisterEntry& entry) {
+void Rewrite_Cleared(Session& session, RegisterEntry& entry) {
   store::Transaction tx(*session.dbCompany, "Cleared " + entry.Number + ", " + entry.Name);
   entry.probe.check(*session.dbCompany);
   session.dbCompany->Execute("UPDATE Transactions SET Cleared = ? WHERE RowKey = ? AND (Credit = ? OR Debit = ?)",
@@ -191,72 +200,120 @@ void Rewrite_Cleared(Session& session, const RegisterEntry& entry) {
   tx.commit();
 }
 
-void Write_Single(Session& session, Transaction_Writer& rows, const std::string& here, const RegisterEntry& entry) {
-  // A customer that a check's line named stays with the line.
-  const bool same_line = entry.breakdown.size() == 1 && entry.breakdown.front().CatID == entry.CatID;
-  rows.add({.Account = Get_Postable_Category(session, entry.CatID),
-            .Category = here,
-            .Debit = entry.Credit.value_or(Money()),
-            .Credit = entry.Debit.value_or(Money()),
-            .Amount = entry.amount(),
-            .Memo = entry.Memo,
-            .SourceName = same_line ? entry.breakdown.front().SourceName : "",
-            .Class = entry.Class});
+/// An amount typed with a minus stands in the other column without it.
+void Turn_Negative(RegisterEntry& entry) {
+  if (!entry.amount()->is_negative()) return;
+  std::swap(entry.Credit, entry.Debit);
+  for (std::optional<Money>* side : {&entry.Credit, &entry.Debit})
+    if (*side) *side = -**side;
+  for (BreakDownLine& line : entry.breakdown)
+    if (line.Amount) line.Amount = -*line.Amount;
 }
 
-void Write_Break_Down(Session& session, Transaction_Writer& rows, const std::string& here, const RegisterEntry& entry) {
-  for (const BreakDownLine& line : entry.breakdown) {
-    if (line.CatID.empty()) continue;
-    const Money amount = line.Amount.value_or(Money());
-    const bool opposite = amount > Money();
-    const bool debit = Is_Outgoing(entry) == opposite;
-    rows.add({.Account = Get_Postable_Category(session, line.CatID),
-              .Category = here,
-              .Debit = debit ? amount.abs() : Money(),
-              .Credit = debit ? Money() : amount.abs(),
-              .Amount = amount.abs(),
-              .Memo = line.Memo,
-              .SourceName = line.SourceName,
-              .Class = line.Class,
-              .Name = line.Customer});
-  }
+/// The register's own row: what its line shows, the rest as it was.
+LedgerRow Own_Row(Session& session, const std::string& here, const RegisterEntry& entry) {
+  LedgerRow row = entry.kept ? *entry.kept : LedgerRow{};
+  row.Account = here;
+  row.Category = entry.is_broken_down() ? break_down : Get_Postable_Category(session, entry.CatID);
+  Post(row, entry.Credit ? LineSide::Credit : LineSide::Debit, entry.amount());
+  row.Memo = entry.Memo;
+  row.Class = entry.Class;
+  row.Cleared = entry.Cleared;
+  row.Type = row.Number = row.Name = std::nullopt;  // the head's
+  return row;
+}
+
+/// What a row of the other side takes over from the register's line: of a row that was there, what was changed.
+LedgerRow Other_Row(const KeptRow& kept, const std::string& here, const RegisterEntry& entry) {
+  LedgerRow row = kept ? *kept : LedgerRow{};
+  row.Category = here;
+  row.Type = std::nullopt;
+  if (!kept || entry.Number != entry.kept->Number) row.Number = std::nullopt;
+  if (!kept || entry.Cleared != entry.kept->Cleared) row.Cleared = entry.Cleared;
+  return row;
+}
+
+/// The two rows of a simple entry mirror each other. The line of a check keeps the memo and class of its own that it has.
+LedgerRow Single_Row(Session& session, const std::string& here, const RegisterEntry& entry) {
+  const bool same_line = entry.breakdown.size() == 1 && entry.breakdown.front().CatID == entry.CatID;
+  const KeptRow kept = same_line ? entry.breakdown.front().kept : nullptr;
+  LedgerRow row = Other_Row(kept, here, entry);
+  row.Account = Get_Postable_Category(session, entry.CatID);
+  Post(row, Side_Of(entry), entry.amount());
+  if (!kept || entry.Memo != entry.kept->Memo) row.Memo = entry.Memo;
+  if (!kept || entry.Class != entry.kept->Class) row.Class = entry.Class;
+  if (!kept || entry.Name != entry.kept->Name) row.Name = std::nullopt;
+  return row;
+}
+
+LedgerRow Break_Down_Row(Session& session, const std::string& here, const RegisterEntry& entry,
+                         const BreakDownLine& line) {
+  LedgerRow row = Other_Row(line.kept, here, entry);
+  row.Account = Get_Postable_Category(session, line.CatID);
+  Post(row, Side_Of(entry), line.Amount);
+  row.Memo = line.Memo;
+  row.Name = line.Customer;  // its own, or none: the payee is not repeated
+  row.Class = line.Class;
+  return row;
+}
+
+std::vector<LedgerRow> Other_Rows(Session& session, const std::string& here, const RegisterEntry& entry) {
+  if (!entry.is_broken_down()) return {Single_Row(session, here, entry)};
+  std::vector<LedgerRow> rows;
+  for (const BreakDownLine& line : entry.breakdown)
+    if (!line.CatID.empty()) rows.push_back(Break_Down_Row(session, here, entry, line));
+  return rows;
 }
 
 void Write_Entry(Session& session, const Register& reg, const Stored& stored, RegisterEntry& entry) {
   const std::string& here = reg.category().CatID;
-  // The payee is not repeated on break-down lines: each has a name of its own, or none.
   Transaction_Writer rows(session,
                           {.TransNum = entry.TransNum,
                            .Type = stored.Type,
                            .Date = *entry.Date,
                            .Number = entry.Number,
-                           .Name = entry.is_broken_down() ? "" : entry.Name,
-                           .Address = stored.Address,
-                           .Cleared = entry.Cleared},
+                           .Name = entry.Name,
+                           .Address = stored.Address},
                           entry.probe);
-  rows.add({.Account = here,
-            .Category = entry.is_broken_down() ? entry.Category : Get_Postable_Category(session, entry.CatID),
-            .Debit = entry.Debit.value_or(Money()),
-            .Credit = entry.Credit.value_or(Money()),
-            .Amount = entry.amount(),
-            .Memo = entry.Memo,
-            .Class = entry.Class,
-            .Name = entry.Name});
-  if (entry.is_broken_down())
-    Write_Break_Down(session, rows, here, entry);
-  else
-    Write_Single(session, rows, here, entry);
+  const LedgerRow own = Own_Row(session, here, entry);
+  const std::vector<LedgerRow> others = Other_Rows(session, here, entry);
+  // A check's bank stays its first row, also when the check is changed in the register of what it pays.
+  if (!entry.below) rows.add(own);
+  for (const LedgerRow& row : others) rows.add(row);
+  if (entry.below) rows.add(own);
   rows.commit();
-  entry.TransNum = rows.number();
-  entry.probe = rows.probe();
-  entry.key =
-      session.dbCompany->value("SELECT MIN(RowKey) FROM Transactions WHERE TransNum = ?", {entry.TransNum}).integer();
+  const char* own_key = entry.below ? "MAX(RowKey)" : "MIN(RowKey)";
+  const int64_t key =
+      session.dbCompany
+          ->value("SELECT " + std::string(own_key) + " FROM Transactions WHERE TransNum = ?", {rows.number()})
+          .integer();
+  if (auto written = Open_Entry(session, reg, {.TransNum = rows.number(), .key = key})) entry = std::move(*written);
 }
 
 Fault Access_Denied() {
   return {{"Cannot edit this Transaction type in register mode. Please go to the transaction for editing.",
            "Access Denied", Icon::Critical},
           grid};
+}
+
+Box Only_Mark_Taken() {
+  Box box = Access_Denied().box;
+  box.icon = Icon::Information;
+  box.detail = "This entry has several lines: only whether it is cleared was recorded.";
+  return box;
+}
+
+/// Whether anything but the mark was typed into an entry.
+bool Says_More_Than_Mark(Session& session, const Register& reg, const RegisterEntry& entry) {
+  const auto stored = Open_Entry(session, reg, {.TransNum = entry.TransNum, .key = entry.key});
+  const auto told = [](const RegisterEntry& e) {
+    return std::tie(e.Date, e.Number, e.Name, e.Category, e.Memo, e.Class, e.Credit, e.Debit, e.CatID);
+  };
+  const auto line_told = [](const BreakDownLine& line) {
+    return std::tie(line.CatID, line.Amount, line.Memo, line.Customer, line.Class);
+  };
+  return !stored || told(*stored) != told(entry) ||
+         !std::ranges::equal(stored->breakdown, entry.breakdown, {}, line_told, line_told);
 }
 
 void Save_Entry(Session& session, const Register& reg, RegisterEntry& entry, RecordResult& result) {
@@ -269,7 +326,10 @@ void Save_Entry(Session& session, const Register& reg, RegisterEntry& entry, Rec
       result.fault = Access_Denied();
       return;
     }
-    if (Takes_Only_Mark(stored)) return Rewrite_Cleared(session, entry);
+    if (Takes_Only_Mark(stored)) {
+      if (Says_More_Than_Mark(session, reg, entry)) result.notice = Only_Mark_Taken();
+      return Rewrite_Cleared(session, entry);
+    }
   }
   Write_Entry(session, reg, stored, entry);
   result.stapler = true;
@@ -281,6 +341,7 @@ RecordResult Record(Session& session, const Register& reg, RegisterEntry& entry)
   RecordResult result;
   result.fault = Entry_Fault(session, reg, entry);
   if (result.fault) return result;
+  Turn_Negative(entry);
   result.conflict = Save_Or_Conflict([&] { Save_Entry(session, reg, entry, result); });
   result.reload = true;
   result.TransNum = entry.TransNum;

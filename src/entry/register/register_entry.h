@@ -19,7 +19,7 @@ struct BreakDownLine {
   std::string Customer = {};
   std::string Class = {};
   std::string CatID = {};
-  std::string SourceName = {};  ///< not shown; kept through a rewrite
+  KeptRow kept = {};  ///< as it was loaded
 };
 
 /// The current line as the user types it.
@@ -37,6 +37,8 @@ struct RegisterEntry {
   std::string CatID = {};  ///< empty when broken down
   std::vector<BreakDownLine> breakdown = {};
   int64_t key = 0;
+  KeptRow kept = {};   ///< the register's row as it was loaded
+  bool below = false;  ///< it stands below the other side's: the check of another bank
   Probe probe = {};
 
   bool is_new() const { return TransNum == 0; }
@@ -54,7 +56,8 @@ bool Shows(const RegisterLine& line, const RegisterEntry& entry);
 /// A blank new line.
 RegisterEntry New_Entry(const Register& reg);
 
-/// Memorised filling: the payee's last outgoing row fills the empty cells of a new line.
+/// Memorised filling: the payee's last outgoing row fills the empty cells of a new line, and its break-down what the
+/// break-down shows. Nothing else of that transaction comes along.
 void Fill_Memorised(Session& session, RegisterEntry& entry);
 
 /// The question when a changed line is left. Yes: Record.
@@ -64,9 +67,10 @@ Box Save_Changes_Question();
 struct RecordResult {
   std::optional<Fault> fault = {};
   std::optional<Conflict> conflict = {};
-  bool reload = false;   ///< fill the grid again, whatever was typed
-  int64_t TransNum = 0;  ///< of what was recorded
-  bool stapler = false;  ///< play stapler.wav
+  std::optional<Box> notice = {};  ///< what was not taken, where the rest was recorded
+  bool reload = false;             ///< fill the grid again, whatever was typed
+  int64_t TransNum = 0;            ///< of what was recorded
+  bool stapler = false;            ///< play stapler.wav
 };
 RecordResult Record(Session& session, const Register& reg, RegisterEntry& entry);
 

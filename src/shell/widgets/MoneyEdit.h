@@ -8,7 +8,7 @@
 namespace tallymere {
 
 /// A line for an amount: right-aligned, tabular figures. On leaving, what reads as an amount is tidied to
-/// "1,234.50"; the rest stays as typed and is marked.
+/// "1,234.50", "12+8" is reckoned; the rest stays as typed and is marked.
 class MoneyEdit : public QLineEdit {
   Q_OBJECT
 
@@ -17,6 +17,7 @@ class MoneyEdit : public QLineEdit {
 
   std::optional<Money> amount() const;  ///< nothing when empty or no amount
   void set_amount(const std::optional<Money>& amount);
+  void reckon();                                            ///< "12+8" becomes "20.00"; leaving does it
   void set_mask(const std::string& mask) { mask_ = mask; }  ///< "#,##0.00" at first
   void set_tidy(bool tidy) { tidy_ = tidy; }                ///< false: the window tidies itself
 

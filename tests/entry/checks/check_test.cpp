@@ -330,6 +330,28 @@ TEST(Checks, ALiabilityCheckPaysPayrollItemsOrSalesTax) {
   }
 }
 
+TEST(Checks, ANarrowSaveOfACheckThatIsGoneOrGotItsNumberSaysSo) {
+  EntryCompany company;
+  Session& session = *company.session;
+  const int64_t printed = company.write("Paycheck", Date(2026, 3, 1), "0SS", "40SS", Dollars(9), "Ann", "Print");
+  const int64_t gone = company.write("Paycheck", Date(2026, 3, 1), "0SS", "40SS", Dollars(9), "Bob", "Print");
+  Check seen = *Load_Check(session, printed), typed = seen, second = *Load_Check(session, gone);
+  Rewrite_Fields(session, printed, {{"Number", "2001"}});
+  Delete_Transaction(session, gone);
+  EXPECT_TRUE(Enter_Check(session, seen).ok()) << "seen and left, it keeps the number that printing gave it";
+  typed.Number = "1999";
+  for (Check* check : {&typed, &second}) {
+    const SaveResult result = Enter_Check(session, *check);
+    EXPECT_TRUE(result.conflict && result.conflict->reload && !result.written);
+  }
+  EXPECT_EQ(Rows_Of(company.db(), printed, "Number"), "2001\n2001\n");
+  Check again = *Load_Check(session, printed);
+  again.Number = "2002";
+  ASSERT_TRUE(Enter_Check(session, again).written);
+  again.Number = "2003";
+  EXPECT_TRUE(Enter_Check(session, again).written) << "one's own save is no other user's";
+}
+
 // --- loading and walking ---------------------------------------------------------------------------------
 
 TEST(Checks, WhatWasSavedIsWhatLoads) {

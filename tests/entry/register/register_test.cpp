@@ -325,6 +325,8 @@ TEST(Registers, ALedgerEntryOfMoreRowsOnlyChangesWhetherItsLineIsCleared) {
   entry.CatID = "40SS";
   const RecordResult result = Record(*company.session, reg, entry);
   EXPECT_FALSE(result.fault || result.stapler);
+  ASSERT_TRUE(result.notice) << "the memo and the category were not taken, and that is said";
+  EXPECT_EQ(result.notice->title, "Access Denied");
   EXPECT_EQ(Rows_Of(company.db(), rows.number(), "Credit Cleared Memo"), "5|False|\n6|True|\n0|False|\n");
 }
 
@@ -340,6 +342,17 @@ TEST(Registers, AChangeByAnotherUserStopsTheRecord) {
   ASSERT_TRUE(result.conflict && result.reload);
   EXPECT_EQ(result.conflict->box.title, "Data has changed");
   EXPECT_EQ(Rows_Of(company.db(), number, "Memo"), "theirs\ntheirs\n");
+}
+
+TEST(Registers, WhatAnotherUserChangedMeanwhileIsNotDeleted) {
+  EntryCompany company;
+  const int64_t number = company.write("Check", Date(2026, 3, 1), "0SS", "40SS", Dollars(9));
+  Register reg(*company.session, "0SS");
+  const RegisterEntry seen = Entry_Of(*company.session, reg, number);
+  company.run("UPDATE Transactions SET Cleared = True");
+  const RegisterDeletion result = Delete_From_Register(*company.session, {.TransNum = number}, seen.probe);
+  EXPECT_TRUE(result.conflict && !result.deleted);
+  EXPECT_EQ(Rows_Of(company.db(), number, "Account"), "0SS\n40SS\n");
 }
 
 // --- memorised filling and breaking down -----------------------------------------------------------------
@@ -376,6 +389,7 @@ TEST(Registers, AMemorisedBreakDownBringsItsLinesOrNoCategory) {
   ASSERT_EQ(entry.breakdown.size(), 2u);
   EXPECT_EQ(entry.breakdown[0].Account, "Bank Loan");
   EXPECT_TRUE(Record(session, reg, entry).stapler) << "it is complete as it is proposed";
+  EXPECT_EQ(Rows_Of(company.db(), entry.TransNum, "SourceName"), "\n\n\n") << "the customer of then was not shown";
 
   company.run("DELETE FROM Transactions WHERE Category <> '<-Break Down->'");
   RegisterEntry empty = New_Entry(reg);

@@ -38,6 +38,7 @@ SSDBCombo* GridDelegate::list_editor(QWidget* parent, const QModelIndex& index) 
   const QPersistentModelIndex cell = index;
   auto* self = const_cast<GridDelegate*>(this);
   connect(combo, &SSDBCombo::Click, this, [self, combo] {
+    combo->setProperty("picked", true);
     Q_EMIT self->commitData(combo);
     Q_EMIT self->closeEditor(combo);
   });
@@ -89,7 +90,8 @@ void GridDelegate::setEditorData(QWidget* editor, const QModelIndex& index) cons
 
 void GridDelegate::setModelData(QWidget* editor, QAbstractItemModel*, const QModelIndex& index) const {
   const auto* combo = qobject_cast<const SSDBCombo*>(editor);
-  grid_.take(index.row(), index.column(), typed_in(editor), combo ? combo->row() : -1);
+  grid_.take(index.row(), index.column(), typed_in(editor), combo ? combo->row() : -1,
+             editor->property("picked").toBool());
 }
 
 void GridDelegate::updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option, const QModelIndex&) const {

@@ -157,11 +157,12 @@ class SSDBGrid : public QTableView {
 
  private:
   friend class GridDelegate;
-  /// The one way a user's text gets into a cell; list_row: what was chosen from its drop-down, -1: typed.
-  bool take(int row, int column, const std::string& typed, int list_row);
+  /// The one way a user's text gets into a cell; list_row: where it stands in its drop-down, -1: nowhere; picked: chosen
+  /// there, not typed. A cell whose text was not changed keeps the id it has, be it in the list or not.
+  bool take(int row, int column, const std::string& typed, int list_row, bool picked = false);
   void store_choice(int row, int column, int list_row);
   std::string tidied(int column, const std::string& typed, int list_row) const;
-  bool same_content(int row, int column, const std::string& text, int list_row) const;
+  bool same_content(int row, int column, const std::string& text, int list_row, bool picked) const;
   bool open_list(const QModelIndex& index);
   bool leave_row();
   bool is_stop(int row, int column) const;  ///< a cell that Enter and Tab stop at

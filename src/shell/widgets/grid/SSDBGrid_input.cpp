@@ -8,6 +8,7 @@
 #include <QScopedValueRollback>
 #include <QTimer>
 
+#include "core/values/reckon.h"
 #include "core/values/text.h"
 #include "shell/widgets/QuillbrookDatePick.h"
 #include "shell/widgets/grid/GridDelegate.h"
@@ -20,6 +21,8 @@ namespace tallymere {
 std::string SSDBGrid::tidied(int column, const std::string& typed, int list_row) const {
   const GridColumn& how = this->column(column);
   if (how.list) return list_row >= 0 ? how.list->text(list_row) : trim(typed);
+  if (how.kind == Kind::money && !trim(typed).empty() && !Money::parse(typed))
+    if (const auto reckoned = Reckon(typed)) return reckoned->to_text();
   if (how.kind == Kind::date) {
     const auto day = Date::parse(typed, clock_of(this).today());
     return day ? day->to_text() : trim(typed);
@@ -27,10 +30,12 @@ std::string SSDBGrid::tidied(int column, const std::string& typed, int list_row)
   return how.kind == Kind::text ? typed : trim(typed);
 }
 
-bool SSDBGrid::same_content(int row, int column, const std::string& text, int list_row) const {
+bool SSDBGrid::same_content(int row, int column, const std::string& text, int list_row, bool picked) const {
   if (text != this->text(row, column)) return false;
   const GridColumn& how = this->column(column);
-  return !how.list || how.id_column < 0 || how.list->id(list_row) == this->text(row, how.id_column);
+  if (!how.list || how.id_column < 0) return true;
+  const std::string id = this->text(row, how.id_column);
+  return how.list->id(list_row) == id || (!picked && !id.empty());
 }
 
 void SSDBGrid::store_choice(int row, int column, int list_row) {
@@ -40,11 +45,11 @@ void SSDBGrid::store_choice(int row, int column, int list_row) {
   if (how.id_column >= 0) model_->set_text(row, how.id_column, how.list->id(list_row));
 }
 
-bool SSDBGrid::take(int row, int column, const std::string& typed, int list_row) {
+bool SSDBGrid::take(int row, int column, const std::string& typed, int list_row, bool picked) {
   const GridColumn& how = this->column(column);
   if (how.list && list_row < 0) list_row = how.list->find(typed);
   const std::string text = tidied(column, typed, list_row);
-  if (same_content(row, column, text, list_row)) return true;
+  if (same_content(row, column, text, list_row, picked)) return true;
   if (how.list && how.list_only && list_row < 0 && !text.empty()) {
     QApplication::beep();
     return false;
