@@ -11,7 +11,9 @@
 #include "core/company/company.h"
 #include "core/company/folder.h"
 #include "core/company/program_folder.h"
+#include "payroll/taxtables/update.h"
 #include "shell/frmMain.h"
+#include "shell/http_fetch.h"
 #include "shell/start/frmSplash.h"
 #include "shell/widgets/Form.h"
 #include "shell/widgets/window_memory.h"
@@ -104,6 +106,8 @@ int run(QApplication& app) {
   Main(session);
   const auto frame = Make_Frame(session);
   prompts.set_frame(frame.get(), frame.get());
+  frame->Check_Updates = [&session] { Update_Tax_Tables(session, Http_Fetch()); };
+  if (arguments.screenshot.empty()) Check_Updates(session, Http_Fetch());
   frame->remembers_place = arguments.screenshot.empty();
   window_memory::set_enabled(frame->remembers_place);
   start_behind_splash(*frame, arguments);

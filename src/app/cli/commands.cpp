@@ -48,6 +48,9 @@ constexpr Command commands[] = {
      "puts the drawing of a printed layout into the program folder's layouts, to be changed with any drawing program;"
      " without a name, the layouts there are",
      Write_Out},
+    {"paycheck", "paycheck --cases FILE.tsv [--items FILE.tsv] [--company FILE]",
+     "calculates paychecks on paper: one case a line, every row of every grid comes out", Paycheck_Cases},
+    {"taxtables", "taxtables --load DIR", "replaces tax tables by DIR/Table.tsv, all of them or none", Tax_Tables},
     {"backup", "backup --company FILE --out FILE.cbk", "writes a backup of the company as it stands", Back_Up},
     {"restore", "restore --backup FILE.cbk --company FILE",
      "puts a backup in a company's place, once it has proved sound", Restore},

@@ -46,5 +46,7 @@ int History(Arguments& arguments);
 int Undo(Arguments& arguments);
 int Report(Arguments& arguments);
 int Write_Out(Arguments& arguments);
+int Paycheck_Cases(Arguments& arguments);
+int Tax_Tables(Arguments& arguments);
 
 }  // namespace tallymere::cli

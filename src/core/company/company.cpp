@@ -119,7 +119,7 @@ void Main(Session& session) {
   Sweep_Asides(session.folder);
   session.dbAccounts = Open_Current(session.folder / "Accounts.mdb", FileKind::Shared);
   session.RecalcAll = false;
-  Check_Updates(session);
+  Is_Tax_Check_Due(session);
 }
 
 void Set_Recordsets(Session& session) {

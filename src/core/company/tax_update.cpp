@@ -2,15 +2,12 @@
 
 namespace tallymere {
 
-void Check_Updates(Session& session) {
-  auto settings = session.dbAccounts->OpenTable("Settings");
-  if (!settings->has_row()) return;
-  auto updated = (*settings)["Updated"].maybe_date();
-  bool new_year = updated && years_between(*updated, session.today()) > 0;
-  bool due = !updated || new_year || session.today() > updated->add_months(1);
-  if (!due) return;
+bool Is_Tax_Check_Due(Session& session) {
+  const auto updated = session.dbAccounts->value("SELECT Updated FROM Settings").maybe_date();
+  if (!updated) return true;
+  const bool new_year = years_between(*updated, session.today()) > 0;
   if (new_year) session.RecalcAll = true;
-  if ((*settings)["UpdateHost"].blank()) return;
+  return new_year || session.today() > updated->add_months(1);
 }
 
 }  // namespace tallymere

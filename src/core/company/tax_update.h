@@ -4,8 +4,8 @@
 
 namespace tallymere {
 
-/// The start-up check of the tax tables, at most once a month and in each new year. A new year asks for the balances to
-/// be recalculated. Without a configured update host nothing is asked and nothing is said.
-void Check_Updates(Session& session);
+/// Whether the tax tables are to be checked: once a month, and in each new year. A new year also asks for the balances to
+/// be recalculated.
+bool Is_Tax_Check_Due(Session& session);
 
 }  // namespace tallymere

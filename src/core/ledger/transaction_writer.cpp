@@ -3,6 +3,7 @@
 #include <cassert>
 
 #include "core/ledger/ledger.h"
+#include "core/ledger/pay_period.h"
 #include "core/store/sql.h"
 
 namespace tallymere {
@@ -135,6 +136,7 @@ int64_t Delete_Transaction(Session& session, int64_t TransNum) {
   store::Database& db = *session.dbCompany;
   store::Transaction tx(db, "Deleted " + Title_Of_Rows(db, TransNum));
   int64_t rows = db.value("SELECT COUNT(*) FROM Transactions WHERE TransNum = ?", {TransNum}).integer();
+  Unpay_Period(db, TransNum);
   Delete_Rows(session, TransNum);
   tx.commit();
   return rows;
