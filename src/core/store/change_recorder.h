@@ -11,9 +11,9 @@ struct sqlite3;
 
 namespace tallymere::store {
 
-/// Notes every row that a connection adds, changes or deletes, and writes them down as one changeset in the session
-/// extension's form, ready to be read, inverted and applied by it. The extension's own recorder asks the schema and
-/// reads each row again at every commit, which costs a save a third of its time; this one keeps what passes by.
+/// Notes every row that a connection adds, changes or deletes, and writes them down as one changeset, in the form that the
+/// engine's session extension has too. The extension's own recorder asks the schema and reads each row again at every
+/// commit, which costs a save a third of its time; this one keeps what passes by. changeset.h reads it and takes it back.
 class ChangeRecorder {
  public:
   explicit ChangeRecorder(sqlite3* connection) : connection_(connection) {}

@@ -14,9 +14,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::string_view history_table = "History";
-constexpr std::string_view password_table = "StorePassword";
-
 struct Declaration {
   FieldType type;
   std::string_view text;
@@ -46,10 +43,6 @@ std::string Decimal_View(const TableDef& table) {
     columns += field.type == FieldType::Money ? name + " / 10000.0 AS " + name : name;
   }
   return "CREATE VIEW " + Quoted(table.name + "_decimal") + " AS SELECT " + columns + " FROM " + Quoted(table.name);
-}
-
-bool Is_Own(std::string_view name) {
-  return name == history_table || name == password_table || name.starts_with("sqlite_");
 }
 
 /// A slow hash is not needed here: this password is the program's own, the same in every file.
@@ -205,7 +198,7 @@ void Database::read_definitions() const {
   tables_.emplace();
   auto names = connection_.prepare("SELECT name FROM sqlite_schema WHERE type = 'table' ORDER BY rowid");
   while (names.step()) {
-    if (Is_Own(names.text(0))) continue;
+    if (Is_Own_Table(names.text(0))) continue;
     TableDef& table = tables_->emplace_back();
     table.name = names.text(0);
     auto fields = connection_.prepare("SELECT name, type FROM pragma_table_info(?)");
@@ -392,7 +385,7 @@ Transaction::Transaction(Database& db, std::string what, History history)
   } else {
     connection.begin();
     try {
-      if (db_.keeps_history_ && history_ == History::Rows) connection.record_changes(Is_Own);
+      if (db_.keeps_history_ && history_ == History::Rows) connection.record_changes(Is_Own_Table);
     } catch (...) {
       connection.rollback();
       throw;

@@ -1,12 +1,9 @@
 #include "core/store/engine.h"
 
-#define SQLITE_ENABLE_SESSION 1
-#define SQLITE_ENABLE_PREUPDATE_HOOK 1
 #include <sqlite3.h>
 
 #include <algorithm>
 #include <random>
-#include <set>
 #include <thread>
 #include <utility>
 
@@ -83,28 +80,6 @@ void Bind(sqlite3_stmt* handle, int position, const Value& value) {
   };
   std::visit(Binder{handle, position}, value.content());
 }
-
-Value From_Engine(sqlite3_value* cell) {
-  if (!cell) return {};
-  switch (sqlite3_value_type(cell)) {
-    case SQLITE_INTEGER:
-      return int64_t{sqlite3_value_int64(cell)};
-    case SQLITE_FLOAT:
-      return sqlite3_value_double(cell);
-    case SQLITE_TEXT:
-      return std::string(reinterpret_cast<const char*>(sqlite3_value_text(cell)),
-                         static_cast<size_t>(sqlite3_value_bytes(cell)));
-    default:
-      return {};
-  }
-}
-
-/// Memory that the engine hands out.
-struct EngineBytes {
-  int size = 0;
-  void* data = nullptr;
-  ~EngineBytes() { sqlite3_free(data); }
-};
 
 }  // namespace
 
@@ -366,86 +341,6 @@ std::string Connection::take_changes() {
   std::string changes = recorder_ ? recorder_->changeset() : std::string();
   drop_changes();
   return changes;
-}
-
-std::vector<RowChange> Connection::read_changes(std::string_view changeset) {
-  std::vector<RowChange> changes;
-  sqlite3_changeset_iter* at = nullptr;
-  sqlite3changeset_start(&at, static_cast<int>(changeset.size()), const_cast<char*>(changeset.data()));
-  while (sqlite3changeset_next(at) == SQLITE_ROW) {
-    const char* table = nullptr;
-    int columns = 0, operation = 0, indirect = 0;
-    sqlite3changeset_op(at, &table, &columns, &operation, &indirect);
-    RowChange change{table, RowChange::Kind::Changed, {}};
-    if (operation == SQLITE_INSERT) change.kind = RowChange::Kind::Added;
-    if (operation == SQLITE_DELETE) change.kind = RowChange::Kind::Deleted;
-    for (int column = 0; column < columns; ++column) {
-      sqlite3_value *before = nullptr, *after = nullptr;
-      if (operation != SQLITE_INSERT) sqlite3changeset_old(at, column, &before);
-      if (operation != SQLITE_DELETE) sqlite3changeset_new(at, column, &after);
-      bool changed = change.kind != RowChange::Kind::Changed || after || column == 0;
-      if (changed) change.cells.push_back({column, From_Engine(before), From_Engine(after)});
-    }
-    changes.push_back(std::move(change));
-  }
-  if (sqlite3changeset_finalize(at) != SQLITE_OK)
-    throw Error(errors::file_damaged, "The recorded change cannot be read.");
-  return changes;
-}
-
-namespace {
-
-struct InverseApplication {
-  const std::function<bool(const std::string&, int)>& is_cache;
-  std::set<std::string> refused;
-};
-
-/// The engine keeps a whole number in a column of doubles either way.
-bool Same_Cell(const Value& one, const Value& other) {
-  auto is_number = [](const Value& cell) {
-    return std::holds_alternative<int64_t>(cell.content()) || std::holds_alternative<double>(cell.content());
-  };
-  return one == other || (is_number(one) && is_number(other) && one.number() == other.number());
-}
-
-/// A deleted or changed row differs from what the action left: only in caches?
-bool Differs_Only_In_Caches(const InverseApplication& application, sqlite3_changeset_iter* at) {
-  const char* table = nullptr;
-  int columns = 0, operation = 0, indirect = 0;
-  sqlite3changeset_op(at, &table, &columns, &operation, &indirect);
-  for (int column = 0; column < columns; ++column) {
-    sqlite3_value *expected = nullptr, *found = nullptr;
-    sqlite3changeset_old(at, column, &expected);
-    sqlite3changeset_conflict(at, column, &found);
-    if (!expected || !found || application.is_cache(table, column)) continue;
-    if (!Same_Cell(From_Engine(expected), From_Engine(found))) return false;
-  }
-  return true;
-}
-
-int On_Conflict(void* context, int kind, sqlite3_changeset_iter* at) {
-  auto& application = *static_cast<InverseApplication*>(context);
-  if (kind == SQLITE_CHANGESET_DATA && Differs_Only_In_Caches(application, at)) return SQLITE_CHANGESET_REPLACE;
-  const char* table = nullptr;
-  int columns = 0, operation = 0, indirect = 0;
-  sqlite3changeset_op(at, &table, &columns, &operation, &indirect);
-  application.refused.insert(table);
-  return SQLITE_CHANGESET_ABORT;
-}
-
-}  // namespace
-
-std::vector<std::string> Connection::apply_inverse(std::string_view changeset,
-                                                   const std::function<bool(const std::string&, int)>& is_cache) {
-  EngineBytes inverse;
-  check(sqlite3changeset_invert(static_cast<int>(changeset.size()), changeset.data(), &inverse.size, &inverse.data),
-        "history");
-  InverseApplication application{is_cache, {}};
-  size_t before = recorder_ ? recorder_->mark() : 0;
-  int code = sqlite3changeset_apply(handle_, inverse.size, inverse.data, nullptr, On_Conflict, &application);
-  if (code != SQLITE_OK && recorder_) recorder_->forget_since(before);  // applied as a whole or not at all
-  if (code != SQLITE_ABORT) check(code, "history");
-  return {application.refused.begin(), application.refused.end()};
 }
 
 std::vector<std::string> Connection::integrity_faults() {

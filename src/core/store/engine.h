@@ -17,7 +17,7 @@
 struct sqlite3;
 struct sqlite3_stmt;
 
-/// Everything that knows which engine stands underneath: statements, pragmas, error codes, locking, changesets.
+/// Everything that knows which engine stands underneath: statements, pragmas, error codes, locking, order of texts.
 /// A server engine would be a second implementation of this header; nothing above it may notice.
 namespace tallymere::store {
 
@@ -57,18 +57,6 @@ class Statement {
   explicit Statement(Slot* slot, class Connection* connection) : slot_(slot), connection_(connection) {}
   Slot* slot_;
   class Connection* connection_;
-};
-
-/// One row's change inside a changeset.
-struct RowChange {
-  enum class Kind { Added, Changed, Deleted };
-  struct Cell {
-    int column;
-    Value before, after;  ///< as the engine holds them
-  };
-  std::string table;
-  Kind kind;
-  std::vector<Cell> cells;  ///< for Changed only the key and the columns that changed
 };
 
 /// How often a file was changed by others and by this connection, undone changes counted too.
@@ -111,12 +99,6 @@ class Connection {
   void record_changes(bool (*leave_out)(std::string_view table));
   std::string take_changes();
   void drop_changes() { recorder_.reset(); }
-  static std::vector<RowChange> read_changes(std::string_view changeset);
-
-  /// Applies the inverse of a changeset as a whole. `may_replace(table, column)` names columns that are only caches
-  /// and may differ. Returns the tables on which later work stands; when not empty nothing was applied.
-  std::vector<std::string> apply_inverse(std::string_view changeset,
-                                         const std::function<bool(const std::string&, int)>& is_cache);
 
   /// Copies the whole file as it stands, under one read lock, into a new file or over the content of another,
   /// which changes in one commit. Error 3218 when somebody else keeps either of them locked.

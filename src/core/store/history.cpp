@@ -61,13 +61,13 @@ Action Find_Action(Database& db, int64_t number) {
 std::vector<Change> Changes_Of(Database& db, int64_t number) {
   Find_Action(db, number);
   std::vector<Change> changes;
-  for (const RowChange& raw : Connection::read_changes(Changeset_Of(db, number))) changes.push_back(Named(db, raw));
+  for (const RowChange& raw : Read_Changeset(Changeset_Of(db, number))) changes.push_back(Named(db, raw));
   return changes;
 }
 
 void Revert_Changes(Database& db, int64_t number) {
   Action action = Find_Action(db, number);
-  auto refused = db.connection().apply_inverse(Changeset_Of(db, number), [&](const std::string& table, int column) {
+  auto refused = Apply_Inverse(db.connection(), Changeset_Of(db, number), [&](const std::string& table, int column) {
     const Field* field = Field_At(db, table, column);
     return field && db.is_cache(table, field->name);
   });

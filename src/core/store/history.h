@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "core/store/changeset.h"
 #include "core/store/database.h"
 
 /// The company's memory: every commit left who, when, what and its changeset.

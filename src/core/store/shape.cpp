@@ -55,6 +55,10 @@ void Refuse_What_Acts(Connection& connection) {
   if (!kind.empty()) Refuse_Shape("it holds " + kind);
 }
 
+bool Is_Own_Table(std::string_view name) {
+  return same_text(name, "History") || same_text(name, "StorePassword") || starts_with_same_text(name, "sqlite_");
+}
+
 void Require_Own_Tables(Connection& connection) {
   const auto found = Found_Tables(connection);
   Require(found, "StorePassword", {"Salt", "Hash"});

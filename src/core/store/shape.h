@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "core/store/engine.h"
@@ -26,6 +27,9 @@ std::vector<FoundTable> Found_Tables(Connection& connection);
 
 /// Refuses what would act when the file is read or written, and texts that are not UTF-8. Reads nothing but definitions.
 void Refuse_What_Acts(Connection& connection);
+
+/// Of the store or the engine, not of the company.
+bool Is_Own_Table(std::string_view name);
 
 /// Refuses a file without the store's own tables.
 void Require_Own_Tables(Connection& connection);
