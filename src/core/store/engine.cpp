@@ -287,7 +287,7 @@ Statement Connection::prepare(std::string_view sql) {
     slot->changes_before = recorder_ ? recorder_->mark() : 0;
     return Statement(slot.get(), this);
   }
-  auto slot = std::make_unique<Statement::Slot>(nullptr, true, recorder_ ? recorder_->mark() : 0);
+  auto slot = std::make_unique<Statement::Slot>(Statement::Slot{nullptr, true, recorder_ ? recorder_->mark() : 0});
   check(sqlite3_prepare_v3(handle_, sql.data(), static_cast<int>(sql.size()), SQLITE_PREPARE_PERSISTENT, &slot->handle,
                            nullptr),
         std::string(sql));
