@@ -5,6 +5,7 @@
 #include "core/company/company.h"
 #include "core/ledger/balances.h"
 #include "core/ledger/verify.h"
+#include "core/values/control_characters.h"
 #include "core/values/format.h"
 
 namespace tallymere::cli {
@@ -37,7 +38,7 @@ int Verify(Arguments& arguments) {
   cli.open(arguments);
   arguments.finish();
   auto findings = Verify_Company(*cli.session.dbCompany);
-  for (const Finding& finding : findings) std::cout << finding.check << ": " << finding.what << "\n";
+  for (const Finding& finding : findings) std::cout << in_one_plain_line(finding.check + ": " + finding.what) << "\n";
   if (findings.empty()) std::cout << "All is well.\n";
   return findings.empty() ? 0 : 1;
 }

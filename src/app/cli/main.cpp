@@ -9,6 +9,7 @@
 
 #include "app/cli/commands.h"
 #include "core/store/error.h"
+#include "core/values/control_characters.h"
 
 namespace {
 
@@ -37,9 +38,9 @@ int Run(const Command& command, const std::vector<std::string>& words) {
               << "\n";
     return 2;
   } catch (const tallymere::store::Error& fault) {
-    std::cerr << "error " << fault.number << ": " << fault.description() << "\n";
+    std::cerr << "error " << fault.number << ": " << tallymere::in_one_plain_line(fault.description()) << "\n";
   } catch (const std::exception& fault) {
-    std::cerr << "error: " << fault.what() << "\n";
+    std::cerr << "error: " << tallymere::in_one_plain_line(fault.what()) << "\n";
   }
   return 1;
 }

@@ -48,6 +48,7 @@ std::string Plain_Words(const std::exception& fault) {
     case store::errors::not_a_database:
     case store::errors::newer_file:
     case store::errors::undo_refused:
+    case store::errors::too_long:
       return error->description();
     default:
       return "What happened stands in ErrorLog.txt.";
