@@ -50,7 +50,7 @@ std::vector<FoundRow> By_Amount(store::Database& company, const FindRequest& req
   const Money amount = Money::parse(request.text)->rounded_to_cents();
   const auto other = Money::parse(request.text_to);
   if (!other) return Rows_Where(company, "Amount = ? ORDER BY Date", {amount});
-  const auto [from, to] = std::minmax(amount, other->rounded_to_cents());
+  const auto [from, to] = std::minmax({amount, other->rounded_to_cents()});
   return Rows_Where(company, "Amount BETWEEN ? AND ? ORDER BY Date", {from, to});
 }
 
