@@ -74,6 +74,11 @@ std::vector<AccountRow> Make_List(Session& session, bool show_dormant) {
   return rows;
 }
 
+std::string Category_Named(Session& session, const std::string& AccountName) {
+  return session.dbCompany->value("SELECT CatID FROM Accounts WHERE AccountName = ? ORDER BY RowKey", {AccountName})
+      .text();
+}
+
 AccountCommands Account_Commands(const AccountRow& row) {
   return {.mnuRegister = Names(register_types, row.Type),
           .mnuReconcile = Names(reconciled_types, row.Type),

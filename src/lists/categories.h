@@ -23,6 +23,10 @@ struct AccountRow {
 /// The tree of categories, grouped by type; dormant ones and all below them only on request.
 std::vector<AccountRow> Make_List(Session& session, bool show_dormant);
 
+/// The CatID of the category with this name; "" when there is none. Lists may lack it: another user made it, or what it
+/// stood below is gone.
+std::string Category_Named(Session& session, const std::string& AccountName);
+
 /// Which commands of mnuAccount a row allows; those not named here always are.
 struct AccountCommands {
   bool mnuRegister = false;

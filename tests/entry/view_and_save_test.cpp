@@ -157,6 +157,19 @@ TEST(ViewAndSave, ARegisterChangesNothingThatWasNotTyped) {
   EXPECT_GT(taken, 150) << "most are recorded, not refused";
 }
 
+TEST(ViewAndSave, ALineStaysWhereItIsWhenItsCategoryGetsChildren) {
+  EntryCompany company;
+  Session& session = *company.session;
+  const int64_t number = company.write("Check", Date(2026, 3, 1), "0SS", "40SS", Dollars(30));
+  company.add_category("901SS", "Expense", "40SS");
+  const std::string before = All_Fields(company.db(), number);
+  Check check = *Load_Check(session, number);
+  ASSERT_TRUE(Enter_Check(session, check).written);
+  Record_As_Shown(session, "0SS", number);
+  Record_As_Shown(session, "40SS", number);
+  EXPECT_EQ(All_Fields(company.db(), number), before);
+}
+
 /// A line that is negative in one place is negative in the other, and both balance.
 TEST(ViewAndSave, NegativeLinesComeBackBothWaysRound) {
   EntryCompany company;

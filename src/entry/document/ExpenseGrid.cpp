@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "core/ledger/ledger.h"
 #include "lists/categories.h"
 #include "shell/drop_downs.h"
 
@@ -71,12 +72,15 @@ void ExpenseGrid::new_category() {
   const int row = std::exchange(left_line_, -1);
   const std::string name = grid->text(row, Category);
   if (name.empty() || !grid->text(row, CatID).empty()) return;
-  const auto made = shell.Ask_Window(
-      {.window = "frmModAccount", .key = name, .number = static_cast<int64_t>(AccountMode::FromCheck)});
-  if (!made) return;
-  const SSDBDropDown& categories = *lists.drpExpenseList;
-  grid->set_text(row, Category, categories.text(categories.find_id(*made)));
-  grid->set_text(row, CatID, *made);
+  const Request ask{.window = "frmModAccount", .key = name, .number = static_cast<int64_t>(AccountMode::FromCheck)};
+  std::string id = Category_Named(session, name);
+  if (id.empty())
+    id = shell.Ask_Window(ask).value_or("");
+  else
+    lists.changed("Accounts");  // which had not heard of it
+  if (id.empty()) return;
+  grid->set_text(row, Category, Category_Name(session, id));
+  grid->set_text(row, CatID, id);
   form.set_Valid(true);
 }
 

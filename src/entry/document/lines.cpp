@@ -103,9 +103,13 @@ ItemLine Read_Item(const LedgerRow& row, const LedgerRow& head, LineSide side) {
           .kept = Kept(row, head)};
 }
 
+std::string Posts_To(Session& session, const std::string& CatID, const KeptRow& kept) {
+  return kept && kept->Account == CatID ? CatID : Get_Postable_Category(session, CatID);
+}
+
 LedgerRow Expense_Row(Session& session, const ExpenseLine& line, const std::string& Category, LineSide side) {
   LedgerRow row = Begin_Row(line.kept);
-  row.Account = Get_Postable_Category(session, line.CatID);
+  row.Account = Posts_To(session, line.CatID, line.kept);
   row.Category = Category;
   Post(row, side, line.Amount);
   row.Memo = line.Memo;
@@ -131,7 +135,7 @@ LedgerRow Item_Row(const ItemLine& line, const std::string& Category, LineSide s
 
 std::string Other_Side(Session& session, const std::vector<ExpenseLine>& expenses, const std::vector<ItemLine>& items) {
   if (!items.empty() || expenses.size() > 1) return break_down;
-  return expenses.empty() ? "" : Get_Postable_Category(session, expenses.front().CatID);
+  return expenses.empty() ? "" : Posts_To(session, expenses.front().CatID, expenses.front().kept);
 }
 
 }  // namespace tallymere

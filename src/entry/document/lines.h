@@ -114,7 +114,11 @@ std::optional<Money> Posted(const LedgerRow& row, LineSide side);
 ExpenseLine Read_Expense(Session& session, const LedgerRow& row, const LedgerRow& head, LineSide side);
 ItemLine Read_Item(const LedgerRow& row, const LedgerRow& head, LineSide side);
 
-/// Rows of lines, whose other side is `Category`. An expense posts to what its category may be posted to.
+/// What a line posts to: its category, or the " - Other" child of one that has children. A line that was loaded from
+/// there stays where it is, also when its category was given children since.
+std::string Posts_To(Session& session, const std::string& CatID, const KeptRow& kept);
+
+/// Rows of lines, whose other side is `Category`.
 LedgerRow Expense_Row(Session& session, const ExpenseLine& line, const std::string& Category, LineSide side);
 LedgerRow Item_Row(const ItemLine& line, const std::string& Category, LineSide side);
 

@@ -255,13 +255,17 @@ void frmRegister::Check_New_Category() {
   const auto CatID = new_category(entry_.Category, row_);
   if (!CatID) return;
   entry_.CatID = *CatID;
-  entry_.Category = SSDBDropDown1->text(SSDBDropDown1->find_id(*CatID));
+  entry_.Category = Category_Name(session, *CatID);
   show_entry();
 }
 
 std::optional<std::string> frmRegister::new_category(const std::string& name, int row) {
   const auto unknown = tallymere::Check_New_Payee(session, name, row);
-  if (!unknown) return std::nullopt;
+  if (!unknown) {
+    const std::string known = Category_Named(session, name);  // which the list has not heard of yet
+    lists_->changed("Accounts");
+    return known.empty() ? std::nullopt : std::optional(known);
+  }
   const auto CatID = shell.Ask_Window({.window = "frmModAccount",
                                        .key = unknown->AccountName,
                                        .number = static_cast<int64_t>(AccountMode::FromRegister)});

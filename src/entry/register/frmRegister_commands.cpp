@@ -4,6 +4,7 @@
 #include <QScopedValueRollback>
 #include <QTimer>
 
+#include "core/ledger/ledger.h"
 #include "entry/document/EntryForm.h"
 #include "entry/register/frmRegister.h"
 #include "shell/widgets/QuillbrookDatePick.h"
@@ -213,7 +214,7 @@ void frmRegister::grdBreakDown_AfterColUpdate(int row, int column) {
       if (name.empty() || !grdBreakDown->text(row, line::CatID).empty()) return;
       const auto CatID = new_category(name, row);
       if (!CatID) return;
-      grdBreakDown->set_text(row, line::Account, SSDBDropDown1->text(SSDBDropDown1->find_id(*CatID)));
+      grdBreakDown->set_text(row, line::Account, Category_Name(session, *CatID));
       grdBreakDown->set_text(row, line::CatID, *CatID);
     });
   });

@@ -211,10 +211,10 @@ void Turn_Negative(RegisterEntry& entry) {
 }
 
 /// The register's own row: what its line shows, the rest as it was.
-LedgerRow Own_Row(Session& session, const std::string& here, const RegisterEntry& entry) {
+LedgerRow Own_Row(const std::string& here, const RegisterEntry& entry, const std::vector<LedgerRow>& others) {
   LedgerRow row = entry.kept ? *entry.kept : LedgerRow{};
   row.Account = here;
-  row.Category = entry.is_broken_down() ? break_down : Get_Postable_Category(session, entry.CatID);
+  row.Category = entry.is_broken_down() ? break_down : others.front().Account;
   Post(row, entry.Credit ? LineSide::Credit : LineSide::Debit, entry.amount());
   row.Memo = entry.Memo;
   row.Class = entry.Class;
@@ -238,7 +238,7 @@ LedgerRow Single_Row(Session& session, const std::string& here, const RegisterEn
   const bool same_line = entry.breakdown.size() == 1 && entry.breakdown.front().CatID == entry.CatID;
   const KeptRow kept = same_line ? entry.breakdown.front().kept : nullptr;
   LedgerRow row = Other_Row(kept, here, entry);
-  row.Account = Get_Postable_Category(session, entry.CatID);
+  row.Account = Posts_To(session, entry.CatID, kept);
   Post(row, Side_Of(entry), entry.amount());
   if (!kept || entry.Memo != entry.kept->Memo) row.Memo = entry.Memo;
   if (!kept || entry.Class != entry.kept->Class) row.Class = entry.Class;
@@ -249,7 +249,7 @@ LedgerRow Single_Row(Session& session, const std::string& here, const RegisterEn
 LedgerRow Break_Down_Row(Session& session, const std::string& here, const RegisterEntry& entry,
                          const BreakDownLine& line) {
   LedgerRow row = Other_Row(line.kept, here, entry);
-  row.Account = Get_Postable_Category(session, line.CatID);
+  row.Account = Posts_To(session, line.CatID, line.kept);
   Post(row, Side_Of(entry), line.Amount);
   row.Memo = line.Memo;
   row.Name = line.Customer;  // its own, or none: the payee is not repeated
@@ -275,8 +275,8 @@ void Write_Entry(Session& session, const Register& reg, const Stored& stored, Re
                            .Name = entry.Name,
                            .Address = stored.Address},
                           entry.probe);
-  const LedgerRow own = Own_Row(session, here, entry);
   const std::vector<LedgerRow> others = Other_Rows(session, here, entry);
+  const LedgerRow own = Own_Row(here, entry, others);
   // A check's bank stays its first row, also when the check is changed in the register of what it pays.
   if (!entry.below) rows.add(own);
   for (const LedgerRow& row : others) rows.add(row);

@@ -59,4 +59,24 @@ const child = listed()[0].CatID;
 expense.set(0, "Category", "Automobile - O");
 equal([expense.text(0, "Category"), expense.text(0, "CatID")], ["Automobile - Other", child], "completed, not asked about");
 expense.remove(0);
+
+// What no list shows is no new category: neither what lost its parent nor what another user just made.
+other("INSERT INTO Accounts (CatID, AccountName, AccountType) VALUES ('902SS', 'Quite New', 'Expense')");
+expense.set(0, "Category", "Lost");
+expense.set(1, "Category", "Quite New");
+expense.row(2);
+equal([expense.text(0, "CatID"), expense.text(1, "CatID")], ["900SS", "902SS"]);
+for (let i = 0; i < 2; ++i) expense.remove(0);
 click(w.cmdOk);
+
+menu("mnuAccounts");
+const list = win("frmAccounts");
+list.grdAccounts.dblclick(0);
+const reg = win("frmRegister").grdRegister;
+const end = reg.rows;
+reg.set(end, "Payment", "5+5");
+equal(reg.text(end, "Payment"), "10");
+reg.set(end, "Category", "Lost");
+click(win("frmRegister").cmdRecord);
+equal(rows("SELECT Account, Category, Debit, Credit FROM Transactions WHERE Account = '0SS' ORDER BY TransNum DESC")[0],
+      {Account: "0SS", Category: "900SS", Debit: 0, Credit: 10});
