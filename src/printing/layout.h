@@ -15,9 +15,9 @@ namespace tallymere {
 
 /// One of the layouts that ship, and what code fills on it. A drawing that lacks an object it needs is not used.
 struct LayoutDef {
-  std::string_view name;     ///< "crpCheck"
-  std::string_view caption;  ///< "Checks, single sheets"
-  std::string_view needs;    ///< names of objects, blanks between; "Text24..Text86" is a row of numbered ones
+  std::string_view name;        ///< "crpCheck"
+  std::string_view caption;     ///< "Checks, single sheets"
+  std::string_view needs;       ///< names of objects, blanks between; "Text24..Text86" is a row of numbered ones
   std::string_view fills = {};  ///< further objects that code fills where a drawing has them
 };
 std::span<const LayoutDef> Layout_Defs();

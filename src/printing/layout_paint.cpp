@@ -15,7 +15,8 @@ const QString detail = QStringLiteral("Detail");
 QString Q(const std::string& text) { return QString::fromStdString(text); }
 
 bool Stands_In(const QStringList& sections, const std::set<QString>& hidden) {
-  return std::any_of(sections.begin(), sections.end(), [&](const QString& section) { return hidden.contains(section); });
+  return std::any_of(sections.begin(), sections.end(),
+                     [&](const QString& section) { return hidden.contains(section); });
 }
 
 /// What code fills on this layout: where it fills nothing, the sample in the drawing must not stand there.
@@ -72,7 +73,8 @@ Layout_Pages::Layout_Pages(std::vector<Layout> layouts, Layout_Shelf& shelf)
 }
 
 std::vector<Layout_Pages::Line> Layout_Pages::lines_of(const Layout& layout, const Layout_Sheet& drawing) const {
-  const Layout_Sheet::Room *row = drawing.room(QStringLiteral("Detail.box")), *room = drawing.room(QStringLiteral("Detail.room"));
+  const Layout_Sheet::Room *row = drawing.room(QStringLiteral("Detail.box")),
+                           *room = drawing.room(QStringLiteral("Detail.room"));
   std::vector<Line> lines;
   if (!room) return lines;
   const qreal usual = row ? row->box.height() : 0;
@@ -162,7 +164,8 @@ void Layout_Pages::paint_pictures(QPainter& painter, const Sheet& sheet, const s
 
 void Layout_Pages::paint_lines(QPainter& painter, const Sheet& sheet) const {
   const Layout_Sheet& drawing = drawing_of(sheet);
-  const Layout_Sheet::Room *row = drawing.room(QStringLiteral("Detail.box")), *room = drawing.room(QStringLiteral("Detail.room"));
+  const Layout_Sheet::Room *row = drawing.room(QStringLiteral("Detail.box")),
+                           *room = drawing.room(QStringLiteral("Detail.room"));
   if (!room) return;
   const qreal begin = row ? row->box.top() : room->box.top();
   QPointF moved(0, room->box.top() - begin);

@@ -21,10 +21,10 @@ constexpr qreal pixels_to_the_inch = 96;
 /// "8.5in" in inches; a bare number is pixels. Nothing for a percentage or what is no length.
 std::optional<qreal> Inches(const QString& length) {
   static const QRegularExpression form(QStringLiteral(R"(^\s*([0-9]*\.?[0-9]+)\s*(in|mm|cm|pt|pc|px|)\s*$)"));
-  static const std::map<QString, qreal> units = {{QStringLiteral("in"), 1},    {QStringLiteral("mm"), 25.4},
-                                                 {QStringLiteral("cm"), 2.54}, {QStringLiteral("pt"), 72},
-                                                 {QStringLiteral("pc"), 6},    {QStringLiteral("px"), pixels_to_the_inch},
-                                                 {QString(), pixels_to_the_inch}};
+  static const std::map<QString, qreal> units = {
+      {QStringLiteral("in"), 1},      {QStringLiteral("mm"), 25.4}, {QStringLiteral("cm"), 2.54},
+      {QStringLiteral("pt"), 72},     {QStringLiteral("pc"), 6},    {QStringLiteral("px"), pixels_to_the_inch},
+      {QString(), pixels_to_the_inch}};
   const auto match = form.match(length);
   if (!match.hasMatch()) return std::nullopt;
   return match.captured(1).toDouble() / units.at(match.captured(2));
@@ -267,8 +267,8 @@ namespace {
 bool Is_Art(const QDomElement& element) {
   static const std::set<QString> shapes = [] {
     std::set<QString> names;
-    for (const char* name : {"g", "a", "rect", "line", "path", "polyline", "polygon", "circle", "ellipse", "defs", "style",
-                             "linearGradient", "radialGradient", "stop"})
+    for (const char* name : {"g", "a", "rect", "line", "path", "polyline", "polygon", "circle", "ellipse", "defs",
+                             "style", "linearGradient", "radialGradient", "stop"})
       names.insert(QLatin1String(name));
     return names;
   }();

@@ -35,7 +35,7 @@ class Layout_Sheet {
     QStringList sections;  ///< the groups it stands in, from the outermost
     QPointF at;            ///< the anchor on the first line's base
     Anchor anchor = Anchor::Start;
-    QFont font;                 ///< its pixel size in twips
+    QFont font;  ///< its pixel size in twips
     QColor color = Qt::black;
     std::optional<QRectF> box;  ///< the room of a text that code fills
     QString caption;            ///< what the drawing itself says there

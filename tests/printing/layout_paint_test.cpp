@@ -13,11 +13,11 @@ namespace tallymere {
 namespace {
 
 namespace fs = std::filesystem;
+using ::testing::HasSubstr;
+using ::testing::Not;
 using testing::Pdf_Pages;
 using testing::Pdf_Text;
 using testing::PdfWord;
-using ::testing::HasSubstr;
-using ::testing::Not;
 
 /// Layouts as the command line has them painted, people's own drawings in a folder of the test.
 struct LayoutPaint : ::testing::Test {
@@ -32,9 +32,9 @@ struct LayoutPaint : ::testing::Test {
       Write_Layout_File({"Test", places, std::move(layouts)}, handed);
     }
     const fs::path program = fs::path(testing::cli_program).parent_path() / "tallymere-paint";
-    testing::ChildProcess child({"/bin/sh", "-c",
-                                 "exec '" + program.string() + "' '" + (folder / "handed").string() + "' '" +
-                                     pdf.string() + "' 2>&1"});
+    testing::ChildProcess child(
+        {"/bin/sh", "-c",
+         "exec '" + program.string() + "' '" + (folder / "handed").string() + "' '" + pdf.string() + "' 2>&1"});
     said = child.rest();
     return child.wait_for_end();
   }
@@ -79,7 +79,7 @@ TEST_F(LayoutPaint, TextsStandWhereTheDrawingSaysAsWordsThatCanBeRead) {
   EXPECT_NEAR(word("Ann").left, 36, 1.5);
   EXPECT_GT(word("Mill").top, word("Ann").top + 8);  // a line of its own
   EXPECT_NEAR(word("Bolt2").top - word("Bolt1").top, 14, 1.5);
-  EXPECT_THAT(Pdf_Text(pdf), HasSubstr("Price/Rate"));           // captions of the drawing
+  EXPECT_THAT(Pdf_Text(pdf), HasSubstr("Price/Rate"));            // captions of the drawing
   EXPECT_THAT(Pdf_Text(pdf), Not(HasSubstr("Billing address")));  // but none of its samples
   EXPECT_THAT(Pdf_Text(pdf), Not(HasSubstr("Page")));
 }

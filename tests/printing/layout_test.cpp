@@ -47,8 +47,9 @@ TEST(Layout, AFileCutShortOrMeddledWithIsRefused) {
     }
   };
   for (size_t length = 0; length + 4 < text.size(); ++length) EXPECT_TRUE(refused(text.substr(0, length))) << length;
-  for (const char* line : {"text\tNumber\t1\nend\n", "layout\tA\ndetail\tItem\nend\n", "layout\tA\npicture\tLogo\t?\nend\n",
-                           "layout\tA\ntext\tN\t\\x\nend\n", "layout\nend\n", "sound\tbell\nend\n"})
+  for (const char* line :
+       {"text\tNumber\t1\nend\n", "layout\tA\ndetail\tItem\nend\n", "layout\tA\npicture\tLogo\t?\nend\n",
+        "layout\tA\ntext\tN\t\\x\nend\n", "layout\nend\n", "sound\tbell\nend\n"})
     EXPECT_TRUE(refused("tallymere-layouts 1\n" + std::string(line))) << line;
 }
 

@@ -21,7 +21,8 @@ struct PdfWord {
 inline std::vector<PdfWord> Pdf_Words(const std::filesystem::path& pdf) {
   ChildProcess reader({"/usr/bin/pdftotext", "-bbox", pdf.string(), "-"});
   const std::string found = reader.rest();
-  static const std::regex form(R"re(<page |<word xMin="([^"]*)" yMin="([^"]*)" xMax="([^"]*)" yMax="([^"]*)">([^<]*)<)re");
+  static const std::regex form(
+      R"re(<page |<word xMin="([^"]*)" yMin="([^"]*)" xMax="([^"]*)" yMax="([^"]*)">([^<]*)<)re");
   std::vector<PdfWord> words;
   int page = 0;
   for (std::sregex_iterator at(found.begin(), found.end(), form), end; at != end; ++at) {

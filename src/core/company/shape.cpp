@@ -53,7 +53,8 @@ void Check_Shape(store::Database& db, FileKind kind, bool is_older) {
       is_there = true;
       Check_Table(candidate, table, is_older);
     }
-    if (!is_there && !is_older && !table.on_demand) Refuse_Shape("its table " + std::string(table.name) + " is missing");
+    if (!is_there && !is_older && !table.on_demand)
+      Refuse_Shape("its table " + std::string(table.name) + " is missing");
   }
   Check_Queries(db, kind, is_older);
   const bool company = kind == FileKind::Company && !is_older;

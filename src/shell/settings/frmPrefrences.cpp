@@ -35,11 +35,14 @@ void show_option(QButtonGroup& group, const std::array<const char*, count>& Stat
 
 /// What is chosen; nothing is chosen where a State of another version stands, and so that stays.
 template <size_t count>
-std::string option_of(const QButtonGroup& group, const std::array<const char*, count>& States, const std::string& kept) {
+std::string option_of(const QButtonGroup& group, const std::array<const char*, count>& States,
+                      const std::string& kept) {
   return group.checkedId() < 0 ? kept : States[static_cast<size_t>(group.checkedId())];
 }
 
-void show_choice(QComboBox& box, const std::string& State) { box.setCurrentIndex(box.findText(qt(State), Qt::MatchFixedString)); }
+void show_choice(QComboBox& box, const std::string& State) {
+  box.setCurrentIndex(box.findText(qt(State), Qt::MatchFixedString));
+}
 
 std::string choice_of(const QComboBox& box, const std::string& kept) {
   return box.currentIndex() < 0 ? kept : utf8(box.currentText());
@@ -52,7 +55,8 @@ std::string choice_of(const QComboBox& box, const std::string& kept) {
 frmPrefrences::frmPrefrences(Shell& shell_of_frame) : Form(shell_of_frame, "frmPrefrences", Place::Above) {
   setWindowTitle(QStringLiteral("Prefrences"));
   build();
-  on(imgSettings, &QComboBox::currentIndexChanged, "imgSettings_Click", [this](int page) { pages_->setCurrentIndex(page); });
+  on(imgSettings, &QComboBox::currentIndexChanged, "imgSettings_Click",
+     [this](int page) { pages_->setCurrentIndex(page); });
   on(SSDBCommand1, "SSDBCommand1_AfterClick", [this] { SSDBCommand1_AfterClick(); });
   on(cmdApply, "cmdApply_AfterClick", [this] { cmdApply_AfterClick(); });
   on(cmdClose, "cmdClose_AfterClick", [this] {
@@ -145,8 +149,8 @@ void frmPrefrences::build_invoices(QFormLayout* page) {
   cmbInvoiceStyle = named("cmbInvoiceStyle", new QComboBox);
   cmbInvoiceStyle->addItems({QStringLiteral("Professional"), QStringLiteral("Product"), QStringLiteral("Service")});
   add_field(page, QStringLiteral("Default Invoice St&yle:"), cmbInvoiceStyle);
-  optPrintInvoice = options(page, "optPrintInvoice", "Invoice Print Style:",
-                            {"Blank /w Boxes", "PrePrinted", "Blank /wo Boxes", "Letterhead"});
+  optPrintInvoice = options(page, "optPrintInvoice",
+                            "Invoice Print Style:", {"Blank /w Boxes", "PrePrinted", "Blank /wo Boxes", "Letterhead"});
   txtLogo = named("txtLogo", new QLineEdit);
   txtLogo->setReadOnly(true);
   SSDBCommand1 = named("SSDBCommand1", new QPushButton(QStringLiteral("&Browse")));
@@ -242,7 +246,8 @@ void frmPrefrences::SSDBCommand1_AfterClick() {
   QByteArray bytes;
   if (file.open(QIODevice::ReadOnly)) bytes = file.read(Largest_Logo + 1);
   if (QPixmap picture; !picture.loadFromData(bytes))
-    return session.prompts.box({"This file holds no picture that can be read.", "Company Logo", Icon::Information, path});
+    return session.prompts.box(
+        {"This file holds no picture that can be read.", "Company Logo", Icon::Information, path});
   logo_ = bytes.toStdString();
   txtLogo->setText(qt(path));
   show_logo();

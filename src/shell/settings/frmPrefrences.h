@@ -32,7 +32,8 @@ class frmPrefrences : public Form {
   QFormLayout* add_page(const char* name);
   void build_pages();
   void build_invoices(QFormLayout* page);
-  QButtonGroup* options(QFormLayout* page, const char* name, const char* label, std::initializer_list<const char*> captions);
+  QButtonGroup* options(QFormLayout* page, const char* name, const char* label,
+                        std::initializer_list<const char*> captions);
   void fill_lists();
   void show_form();
   void show_logo();

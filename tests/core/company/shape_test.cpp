@@ -106,13 +106,14 @@ TEST_F(Shape, ATextWithoutEndIsToldAndFillsNoMemory) {
 /// A chain of a hundred thousand, a circle, one that is its own parent, and ids that stand for several.
 TEST_F(Shape, CategoriesOfAnyDepthOrInACircleEndEveryWalk) {
   Leave_Company(session);
-  change(file("Acme.cmf"),
-         "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 100000)"
-         " INSERT INTO Accounts (CatID, AccountName, AccountType, ParentAccount)"
-         " SELECT 'd' || i, 'Deep ' || i, 'Bank', CASE i WHEN 1 THEN NULL ELSE 'd' || (i - 1) END FROM n;"
-         "INSERT INTO Accounts (CatID, AccountName, AccountType, ParentAccount) VALUES"
-         " ('c1', 'One', 'Bank', 'c2'), ('c2', 'Two', 'Bank', 'c1'), ('s', 'Self', 'Bank', 's'),"
-         " ('X', 'Many', 'Bank', NULL), ('X', 'Many', 'Bank', 'X'), ('x', 'Many', 'Bank', 'X'), ('X', 'More', 'Bank', 'X')");
+  change(
+      file("Acme.cmf"),
+      "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 100000)"
+      " INSERT INTO Accounts (CatID, AccountName, AccountType, ParentAccount)"
+      " SELECT 'd' || i, 'Deep ' || i, 'Bank', CASE i WHEN 1 THEN NULL ELSE 'd' || (i - 1) END FROM n;"
+      "INSERT INTO Accounts (CatID, AccountName, AccountType, ParentAccount) VALUES"
+      " ('c1', 'One', 'Bank', 'c2'), ('c2', 'Two', 'Bank', 'c1'), ('s', 'Self', 'Bank', 's'),"
+      " ('X', 'Many', 'Bank', NULL), ('X', 'Many', 'Bank', 'X'), ('x', 'Many', 'Bank', 'X'), ('X', 'More', 'Bank', 'X')");
   open("Acme");
   const auto tree = CategoryTree::Load(*session.dbCompany);
   EXPECT_EQ(tree.descendants("d1").size(), 99999u);
