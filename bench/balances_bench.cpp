@@ -48,20 +48,11 @@ void Bare_Grouped_Scan(benchmark::State& state) {
 }
 BENCHMARK(Bare_Grouped_Scan)->Unit(benchmark::kMillisecond);
 
-void Full_Balance_Pass(benchmark::State& state) {
-  auto& company = Large_Company();
-  for (auto _ : state) {
-    company.session->RecalcAll = true;
-    Update_Accounts(*company.session);
-  }
-}
-BENCHMARK(Full_Balance_Pass)->Unit(benchmark::kMillisecond);
-
-void Ordinary_Balance_Pass(benchmark::State& state) {
+void Balance_Pass(benchmark::State& state) {
   auto& company = Large_Company();
   for (auto _ : state) Update_Accounts(*company.session);
 }
-BENCHMARK(Ordinary_Balance_Pass)->Unit(benchmark::kMillisecond);
+BENCHMARK(Balance_Pass)->Unit(benchmark::kMillisecond);
 
 void Bank_Balance_Pass(benchmark::State& state) {
   auto& company = Large_Company();

@@ -139,7 +139,6 @@ void Seek(benchmark::State& state) {
 void Balance_Pass(benchmark::State& state) {
   auto& session = BenchCompany::of(state.range(0)).session;
   for (auto _ : state) {
-    session.RecalcAll = true;
     Update_Accounts(session);
   }
 }

@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "core/ledger/numbers.h"
 #include "demo/general.h"
 #include "demo/payroll.h"
 #include "demo/purchases.h"
@@ -146,8 +147,8 @@ void Write_Demo_Company(Session& session, const DemoOptions& options) {
   demo::Without_Indexes ledger(db, books.plan.bulk);
   demo::Year(books).Run();
   ledger.Make_Again();
+  Note_All_Numbers(db);
   load.commit();
-  session.RecalcAll = true;
 }
 
 }  // namespace tallymere

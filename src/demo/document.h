@@ -51,7 +51,11 @@ struct Document {
   std::string po_num;
   std::string pay_period;
   std::optional<Date> due, ship_date, paid_through;
-  std::string paid_by;
+  struct Payer {
+    int64_t number;
+    Money amount;
+  };
+  std::vector<Payer> payers;  ///< in the order of payment
   bool paid = false;
   bool keeps_received = false;  ///< invoices and statements: AmountReceived is told on every row
   Money total;
@@ -61,6 +65,7 @@ struct Document {
   explicit Document(Date day) : date(day) {}
   Posting& add(Posting row) { return rows.emplace_back(row); }
   Money open() const { return total - received; }
+  void settle(const Document& payment, Money amount) { payers.push_back({payment.number, amount}); }
 };
 
 }  // namespace tallymere::demo

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "core/ledger/settlement.h"
 #include "demo/random.h"
 
 namespace tallymere::demo {
@@ -75,6 +76,14 @@ struct Setter {
   void flag(Column column, bool on) const { statement.bind(column, on); }
 };
 
+/// A payment that was deposited does not name its deposit.
+std::string Payers_Of(const Document& document) {
+  std::string payers;
+  if (document.type != "Payment")
+    for (const auto& payer : document.payers) payers += Paid_By(payer.number);
+  return payers;
+}
+
 void Set_Head(const Setter& set, const Document& document) {
   set.text(Type, document.type);
   set.day(Day, document.date);
@@ -92,7 +101,7 @@ void Set_Head(const Setter& set, const Document& document) {
   set.day(PaidThrough, document.paid_through);
   set.text(SSNum, document.ss_num);
   set.text(PayPeriod, document.pay_period);
-  set.text(PaidBy, document.paid_by);
+  set.text(PaidBy, Payers_Of(document));
   set.flag(Paid, document.paid);
 }
 
@@ -138,6 +147,9 @@ void Loader::Write_All() {
 
 void Loader::Write(const Document& document) {
   for (const Posting& row : document.rows) Write_Row(document, row);
+  for (const auto& payer : document.payers)
+    db_.Execute("INSERT INTO Applied (Payment, Document, Amount) VALUES (?, ?, ?)",
+                {payer.number, document.number, payer.amount});
   rows_ += static_cast<int64_t>(document.rows.size());
 }
 

@@ -224,7 +224,7 @@ int64_t Purchases::Pay(const Vendor& vendor, const std::vector<Document*>& bills
   payment.add({.account = payable, .category = source, .debit = total});
   for (Document* bill : bills) {
     bill->paid = true;
-    bill->paid_by += std::to_string(payment.number) + ";";
+    bill->settle(payment, bill->total);
   }
   if (by_card) card_balance_ += total;
   books_.Close(payment);

@@ -185,7 +185,7 @@ void Sales::Receive(Customer& customer, Document& first, Money amount, bool by_c
     payment.total += share;
     invoice->received += share;
     invoice->paid = invoice->open().is_zero();
-    invoice->paid_by += std::to_string(payment.number) + ";";
+    invoice->settle(payment, share);
   }
   std::erase_if(customer.open, [](const Document* invoice) { return invoice->paid; });
   const bool held = payment.pay_method == "Check" || payment.pay_method == "Cash";
@@ -223,6 +223,7 @@ void Sales::Write_Deposit(std::span<Document* const> payments) {
                .name = single ? payments.front()->name : std::string_view()});
   for (Document* payment : payments) {
     payment->paid = true;
+    payment->settle(deposit, payment->total);
     deposit.add(
         {.account = undeposited, .category = books_.chart.checking, .credit = payment->total, .name = payment->name});
   }

@@ -4,6 +4,7 @@
 
 #include "core/ledger/category_tree.h"
 #include "core/ledger/ledger.h"
+#include "core/ledger/links.h"
 #include "core/store/recordset.h"
 #include "core/values/text.h"
 
@@ -25,13 +26,6 @@ bool Names(const List& list, std::string_view type) {
   return std::ranges::any_of(list, [&](std::string_view named) {
     return named.starts_with("...") ? contains(type, named.substr(3)) : named == type;
   });
-}
-
-bool In_Use(Session& session, const std::string& CatID) {
-  store::Database& db = *session.dbCompany;
-  return !db.value("SELECT RowKey FROM Transactions WHERE Account = ? LIMIT 1", {CatID}).is_null() ||
-         // Sub-categories would never show again in any list.
-         !db.value("SELECT RowKey FROM Accounts WHERE ParentAccount = ? LIMIT 1", {CatID}).is_null();
 }
 
 Fault Mistake(const char* text, const char* title, const char* control) {
@@ -58,9 +52,19 @@ std::optional<Fault> Parent_Fault(Session& session, const CategoryForm& form) {
 void Begin_Category(Session& session, ListRow& row, CategoryForm& form) {
   if (!row.is_new()) return;
   form.CatID = Unused_CatID(*session.dbCompany);
+  Note_CatID(*session.dbCompany, form.CatID);
   row["CatID"] = form.CatID;
   row["OpeningDate"] = session.today();
   row["LastYearEndBal"] = Money();
+}
+
+std::optional<Reference> Delete_Unless_Used(store::Database& db, const std::string& CatID, const std::string& name) {
+  store::Transaction tx(db, "Deleted category " + name);
+  if (auto use = In_Use(db, "Accounts", "CatID", CatID)) return use;
+  Note_CatID(db, CatID);
+  db.Execute("DELETE FROM Accounts WHERE CatID = ?", {CatID});
+  tx.commit();
+  return std::nullopt;
 }
 
 }  // namespace
@@ -92,14 +96,9 @@ bool Delete_Category(Session& session, const AccountRow& row) {
   const Box question{"Are you sure you want to delete \"" + name + "\"", "Confirm Delete", Icon::Critical};
   if (!session.prompts.ask(question, Buttons::YesNoDefaultNo)) return false;
 
-  store::Transaction tx(*session.dbCompany, "Deleted category " + name);
-  if (In_Use(session, row.CatID)) {
-    session.prompts.box({"Category in use cannot Delete", "No Deletion", Icon::Information});
-    return false;
-  }
-  session.dbCompany->Execute("DELETE FROM Accounts WHERE CatID = ?", {row.CatID});
-  tx.commit();
-  return true;
+  const auto use = Delete_Unless_Used(*session.dbCompany, row.CatID, name);
+  if (use) session.prompts.box({"Category in use cannot Delete", "No Deletion", Icon::Information, Use_In_Words(*use)});
+  return !use;
 }
 
 // --- frmModAccount ---------------------------------------------------------------------------------------

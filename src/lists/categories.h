@@ -37,8 +37,8 @@ AccountCommands Account_Commands(const AccountRow& row);
 /// Whether a double click on a row of this type opens its register.
 bool Opens_Register(std::string_view AccountType);
 
-/// mnuDelete: asks, then deletes a category that nothing is posted to and nothing stands below. The list is
-/// to be rebuilt whatever came of it.
+/// mnuDelete: asks, then deletes a category that nothing is posted to and nothing else names. The list is to
+/// be rebuilt whatever came of it.
 bool Delete_Category(Session& session, const AccountRow& row);
 
 /// Why frmModAccount was opened.
@@ -76,7 +76,8 @@ std::vector<ParentChoice> Parent_Choices(Session& session, const CategoryForm& f
 /// Ticking Check1 needs a type first.
 std::optional<Fault> Check_Sub_Category(const CategoryForm& form);
 
-/// Saves the form, or answers with the first mistake. A new category gets an unused number followed by "SS".
+/// Saves the form, or answers with the first mistake. A new category gets a number that none ever
+/// had, followed by "SS".
 RowSave Save_Category(Session& session, ListRow& row, CategoryForm& form);
 
 }  // namespace tallymere

@@ -35,9 +35,10 @@ void frmAccounts::load() {
   ListForm::load();
 }
 
-/// Balances are as of opening; a register that closes brings them up to date and says so.
 void frmAccounts::on_changed(const std::string& table) {
-  if (table == "Accounts") make_list_again();
+  if (table != "Accounts" && table != "Transactions") return;
+  Update_Accounts(session, Categories::All, Progress::Silent);
+  make_list_again();
 }
 
 void frmAccounts::Make_List() {

@@ -171,9 +171,7 @@ TEST_F(DemoCompany, CustomersOweWhatTheirInvoicesLeaveOpen) {
   Update_Customers(*company_->session);
   std::map<std::string, Money> expected, balances;
   each(
-      "SELECT Name, CASE WHEN Type = 'Invoice' THEN Debit - Credit ELSE 0 END - CASE WHEN Debit <> 0 THEN "
-      "AmountReceived"
-      " ELSE 0 END FROM Transactions WHERE Account = 'AR1' AND Type IN ('Invoice', 'Statement')",
+      "SELECT Name, Debit - Credit - CASE WHEN Debit <> 0 THEN AmountReceived ELSE 0 END FROM Transactions WHERE Account = 'AR1' AND Type IN ('Invoice', 'Statement')",
       [&](const Row& row) { expected[Text(row, 0)] += row.money(1); });
   each("SELECT Name, Balance FROM Customers", [&](const Row& row) { balances[Text(row, 0)] = row.money(1); });
   for (const auto& [name, amount] : expected) EXPECT_EQ(balances[name], amount) << name;

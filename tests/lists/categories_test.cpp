@@ -81,6 +81,17 @@ TEST(Categories, OnlyAnUnusedCategoryIsDeleted) {
     EXPECT_FALSE(delete_it(used, true));
     EXPECT_EQ(company.prompts.boxes.back().title, "No Deletion");
   }
+  // What preferences, lists and plans name is in use as well: its id would come back to them as another's.
+  company.run("INSERT INTO Items (ItemName, COGScat) VALUES ('Bolt', '36SS')");
+  company.run("INSERT INTO Vendors (Name, [1099Cat]) VALUES ('Acme', '39SS')");
+  company.run("INSERT INTO Budget (Category) VALUES ('76SS')");
+  company.run("INSERT INTO PayrollItems (Name, ExpenseAcct) VALUES ('Wage', '68SS')");
+  company.run("INSERT INTO RepeatTrans (Name, SourceCat) VALUES ('Rent', '1SS')");
+  company.run("INSERT INTO SavedReports (ReportName, Item) VALUES ('Mine', '82SS')");
+  for (const char* named : {"0SS", "36SS", "39SS", "76SS", "68SS", "1SS", "82SS"}) {
+    EXPECT_FALSE(delete_it(named, true)) << named;
+    EXPECT_NE(company.prompts.boxes.back().detail, "");
+  }
   EXPECT_TRUE(delete_it("40SS", true));
   EXPECT_TRUE(company.db().value("SELECT CatID FROM Accounts WHERE CatID = '40SS'").is_null());
 }
@@ -98,16 +109,16 @@ TEST(Categories, TheFormNamesItsFirstMistake) {
   EXPECT_EQ(save()->control, "cmbType");
 }
 
-TEST(Categories, ANewCategoryTakesTheLowestFreeNumber) {
+TEST(Categories, ANewCategoryTakesANumberThatNoneEverHad) {
   TestCompany company;
-  company.run("DELETE FROM Accounts WHERE CatID = '7SS'");
+  EXPECT_TRUE(Delete_Category(*company.session, {"Penalties and Fines", "Other Expense", {}, "91SS"}));
   CategoryForm form = New_Category(AccountMode::FromCheck, "Gifts");
   form.cmbType = "Expense";
   form.lblParentID = "41SS";  // picked, then the box was cleared
   ListRow made(*company.session, Category_Rows);
   ASSERT_TRUE(Save_Category(*company.session, made, form).ok());
-  EXPECT_EQ(form.CatID, "7SS");
-  auto row = company.db().OpenRecordset("SELECT * FROM Accounts WHERE CatID = '7SS'");
+  EXPECT_EQ(form.CatID, "92SS");
+  auto row = company.db().OpenRecordset("SELECT * FROM Accounts WHERE CatID = '92SS'");
   EXPECT_EQ(row["OpeningDate"].date(), Date(2026, 6, 15));
   EXPECT_EQ(row["LastYearEndBal"].money(), Money());
   EXPECT_FALSE(row["LastYearEndBal"].value().is_null());

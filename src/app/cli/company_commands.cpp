@@ -15,7 +15,6 @@ namespace fs = std::filesystem;
 namespace {
 
 void Refresh_Balances(Session& session) {
-  session.RecalcAll = true;
   Update_Accounts(session);
   Update_Customers(session);
   Update_Vendors(session);

@@ -1,7 +1,6 @@
 #include <iostream>
 
 #include "app/cli/commands.h"
-#include "core/ledger/balances.h"
 #include "core/ledger/ledger.h"
 #include "core/ledger/transaction_writer.h"
 #include "core/values/text.h"
@@ -75,7 +74,6 @@ int Enter(Arguments& arguments) {
   int64_t times = arguments.number("times").value_or(1);
   arguments.finish();
   for (int64_t done = 0; done < times; ++done) Tell_Saved(Enter_One(session, head, bank, lines, memo));
-  if (session.RecalcAll) Update_Accounts(session);  // the wish for it would end with this call
   return 0;
 }
 

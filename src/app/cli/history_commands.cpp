@@ -1,7 +1,6 @@
 #include <iostream>
 
 #include "app/cli/commands.h"
-#include "core/ledger/balances.h"
 #include "core/ledger/undo.h"
 #include "core/store/history.h"
 #include "core/values/control_characters.h"
@@ -57,7 +56,6 @@ int Undo(Arguments& arguments) {
   arguments.finish();
   Undo_Action(cli.session, *number);
   Show_Action(store::List_Actions(*cli.session.dbCompany, 1).at(0));
-  if (cli.session.RecalcAll) Update_Accounts(cli.session);  // the wish for it would end with this call
   return 0;
 }
 

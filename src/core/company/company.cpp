@@ -118,7 +118,6 @@ void Introduce(Session& session, Database& db) {
 void Main(Session& session) {
   Sweep_Asides(session.folder);
   session.dbAccounts = Open_Current(session.folder / "Accounts.mdb", FileKind::Shared);
-  session.RecalcAll = false;
   Is_Tax_Check_Due(session);
 }
 

@@ -2,6 +2,8 @@
 
 #include "core/backup/whole_file.h"
 #include "core/company/shape.h"
+#include "core/ledger/numbers.h"
+#include "core/ledger/settlement.h"
 #include "core/store/recordset.h"
 #include "core/values/tsv.h"
 
@@ -12,11 +14,26 @@ namespace fs = std::filesystem;
 using store::Database;
 using store::FileKind;
 
+/// Rows of before may stand signed; what is negative belongs on the other side.
+void Take_Signs_Off(Database& db) {
+  db.Execute("UPDATE Transactions SET Credit = IFNULL(Credit, 0) - Debit, Debit = 0 WHERE Debit < 0");
+  db.Execute("UPDATE Transactions SET Debit = IFNULL(Debit, 0) - Credit, Credit = 0 WHERE Credit < 0");
+  db.Execute("UPDATE Transactions SET Amount = -Amount WHERE Amount < 0");
+}
+
 /// What has to be done to files written before a change of the schema that new tables, fields and indexes alone don't
 /// bring. The next change adds a row here and raises schema_version.
-constexpr std::array<UpgradeStep, 1> upgrade_steps = {{
-    {3, [](Database& db) { db.rebuild_indexes(); }},  // texts stood in the order of ASCII's case alone
-}};
+constexpr UpgradeStep upgrade_steps[] = {
+    // texts stood in the order of ASCII's case alone
+    {.to = 3, .run = [](Database& db) { db.rebuild_indexes(); }, .shared = true},
+    {.to = 4,
+     .run =
+         [](Database& db) {
+           Take_Signs_Off(db);
+           Fill_Applied(db);
+           Note_All_Numbers(db);
+         }},
+};
 
 std::span<const TableDef> Tables_Of(FileKind kind) {
   return kind == FileKind::Shared ? accounts_tables() : company_tables();
@@ -113,9 +130,9 @@ std::unique_ptr<Database> Open_Current(const fs::path& path, FileKind kind, cons
 void Upgrade(Database& db, FileKind kind, std::span<const UpgradeStep> steps, int newest) {
   store::Transaction upgrade(db, "Upgrade to version " + std::to_string(newest), store::Transaction::History::Summary);
   if (db.version() >= newest) return;  // another program did it while this one waited
-  for (const UpgradeStep& step : steps)
-    if (step.to > db.version() && step.to <= newest) step.run(db);
   Complete(db, kind);
+  for (const UpgradeStep& step : steps)
+    if (step.to > db.version() && step.to <= newest && (kind == FileKind::Company || step.shared)) step.run(db);
   db.set_version(newest);
   upgrade.commit();
 }

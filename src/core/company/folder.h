@@ -24,10 +24,12 @@ void Prepare_Folder(const std::filesystem::path& folder, const std::filesystem::
 std::unique_ptr<store::Database> Open_Current(const std::filesystem::path& path, store::FileKind kind,
                                               const store::Author& author = {});
 
-/// A numbered step from the schema before to `to`. After all steps every table, field and index of the schema exists.
+/// A numbered step from the schema before to `to`, for companies unless `shared` says for all files. It finds every
+/// table, field and index of the newest schema in place.
 struct UpgradeStep {
   int to;
   void (*run)(store::Database&);
+  bool shared = false;
 };
 void Upgrade(store::Database& db, store::FileKind kind, std::span<const UpgradeStep> steps, int newest);
 

@@ -480,6 +480,17 @@ constexpr FieldDef CustomerMessages_fields[] = {
 };
 constexpr IndexDef CustomerMessages_indexes[] = {{"Message", "Message"}};
 
+constexpr FieldDef Applied_fields[] = {
+    {"Payment", Long, "TransNum of what paid: a check, a payment, a credit, a deposit"},
+    {"Document", Long, "TransNum of what it paid: a bill, an invoice, a statement"},
+    {"Amount", Money, "how much of it, more than nothing"},
+};
+
+constexpr FieldDef Marks_fields[] = {
+    {"Name", Text, "what the mark is of: \"TransNum\", \"CatID\" and so on", true},
+    {"Value", Long, "the highest number ever given, or the action as of which figures were worked out", true},
+};
+
 constexpr TableDef tables[] = {
     {"Transactions", "general ledger and every sub-ledger: one row posts to one category", Transactions_fields, {}},
     {"Accounts", "categories: the chart of accounts", Accounts_fields, Accounts_indexes},
@@ -523,6 +534,8 @@ constexpr TableDef tables[] = {
     {"RepNames", "sales representatives", RepNames_fields, RepNames_indexes},
     {"OtherNames", "payees that are neither customer, vendor nor employee", OtherNames_fields, OtherNames_indexes},
     {"CustomerMessages", "messages offered on invoices", CustomerMessages_fields, CustomerMessages_indexes},
+    {"Applied", "what each payment settled of which document, in the order of payment", Applied_fields, {}},
+    {"Marks", "how far numbers were given and figures worked out; no part of the history", Marks_fields, {}},
 };
 
 }  // namespace

@@ -15,7 +15,7 @@ struct FieldDef {
   std::string_view name;
   FieldType type;
   std::string_view meaning;
-  bool cache = false;  // recomputed from the ledger, never booked: worth neither a conflict nor an undo
+  bool cache = false;  // worked out, never booked: worth neither a conflict nor a line of the history
 };
 
 // A named index of a table-type set: what Seek looks up.
@@ -59,10 +59,11 @@ struct Reference {
   std::string_view to_table;
   std::string_view to_field;
   std::string_view condition = {};  // SQL over from_table: only these rows point; empty means all
+  bool or_words = false;            // may hold words as well: it keeps what it names, but is never broken
 };
 
 // Raised with every change of a table, field or index; stored in each file as its user_version.
-inline constexpr int schema_version = 3;
+inline constexpr int schema_version = 4;
 
 std::span<const TableDef> company_tables();   // Model.mdb and every company file
 std::span<const TableDef> accounts_tables();  // Accounts.mdb

@@ -32,6 +32,9 @@ constexpr ReadingIndex reading[] = {
     // what an invoice comes to: the first of its rows on AR1, as the rows were written
     {"Transactions_Receivable", "Transactions", "TransNum, RowKey, Amount", "Account = 'AR1'"},
     // income of a period, when the invoice had been paid in part before
+    // what a payment settled, and by whom a document was settled, at every save and deletion
+    {"Applied_Payment", "Applied", "Payment, Document", ""},
+    {"Applied_Document", "Applied", "Document, RowKey, Payment, Amount", ""},
     {"Transactions_PaidByMore", "Transactions", "PaidBy", not_one_payment},
 };
 
@@ -45,6 +48,13 @@ constexpr std::string_view not_template = "SSNum <> '000'";
 
 constexpr Reference links[] = {
     {"Transactions", "Account", "Accounts", "CatID"},
+    {.from_table = "Transactions",
+     .from_field = "Category",
+     .to_table = "Accounts",
+     .to_field = "CatID",
+     .or_words = true},
+    {"Applied", "Payment", "Transactions", "TransNum"},
+    {"Applied", "Document", "Transactions", "TransNum"},
     {"Transactions", "Item", "Items", "ItemName"},
     {"Transactions", "SSNum", "Employees", "SSNum"},
     {"Transactions", "PayrollItem", "PayrollItems", "Name"},
@@ -53,6 +63,7 @@ constexpr Reference links[] = {
     {"Accounts", "ParentAccount", "Accounts", "CatID"},
     {"Budget", "Category", "Accounts", "CatID"},
     {"GeneralPrefs", "State", "Accounts", "CatID", "Preference IN ('DefaultBank', 'FinanceCat')"},
+    {.from_table = "SavedReports", .from_field = "Item", .to_table = "Accounts", .to_field = "CatID", .or_words = true},
     {"Customers", "ParentName", "Customers", "Name"},
     {"Vendors", "1099Cat", "Accounts", "CatID"},
     {"Items", "ParentItem", "Items", "ItemName"},

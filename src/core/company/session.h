@@ -36,7 +36,6 @@ struct Session {
   std::string CompanyFile;                      ///< file name with ".cmf"
   bool MultiUser = false;
   std::string CurrentUser;   ///< empty in single-user mode
-  bool RecalcAll = false;    ///< the next balance pass starts from zero
   int LastCompanyError = 0;  ///< what New_Company last met
   RecordSets sets;
   NumberWords words;

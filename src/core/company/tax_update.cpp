@@ -6,7 +6,6 @@ bool Is_Tax_Check_Due(Session& session) {
   const auto updated = session.dbAccounts->value("SELECT Updated FROM Settings").maybe_date();
   if (!updated) return true;
   const bool new_year = years_between(*updated, session.today()) > 0;
-  if (new_year) session.RecalcAll = true;
   return new_year || session.today() > updated->add_months(1);
 }
 

@@ -4,8 +4,7 @@
 
 namespace tallymere {
 
-/// Whether the tax tables are to be checked: once a month, and in each new year. A new year also asks for the balances to
-/// be recalculated.
+/// Whether the tax tables are to be checked: once a month, and in each new year.
 bool Is_Tax_Check_Due(Session& session);
 
 }  // namespace tallymere

@@ -1,14 +1,20 @@
 #include "core/ledger/balances.h"
 
+#include <functional>
 #include <optional>
-#include <vector>
 
 #include "core/ledger/category_tree.h"
 #include "core/ledger/ledger.h"
-#include "core/values/text.h"
+#include "core/ledger/marks.h"
+#include "core/store/history.h"
+#include "core/store/sql.h"
 
 namespace tallymere {
 namespace {
+
+using store::Database;
+
+// --- figures -------------------------------------------------------------------------------------
 
 /// What rows came to, debits less credits, by where they stand to the current calendar year.
 struct YearSums {
@@ -22,63 +28,105 @@ struct YearSums {
   }
 };
 
-/// One walk over the index of accounts and days answers for all categories. Outside RecalcAll only the
-/// current year is read. Rows without a date stand before all others.
-CaselessMap<YearSums> Sum_Ledger(store::Database& db, int year, bool all_years) {
+/// One walk over the index of accounts and days answers for all categories. Rows without a date stand before all
+/// others.
+CaselessMap<YearSums> Sum_Ledger(Database& db, int year) {
   constexpr std::string_view sum =
       "(SELECT SUM(IFNULL(Debit, 0) - IFNULL(Credit, 0)) FROM Transactions WHERE Account = CatID AND Date ";
-  const std::string within = std::string(sum) + ">= ? AND Date < ?)";
-  const std::string others =
-      ", " + std::string(sum) + "IS NULL), " + std::string(sum) + "< ?), " + std::string(sum) + ">= ?)";
+  std::string columns;
+  for (const char* days : {">= ? AND Date < ?)", "IS NULL)", "< ?)", ">= ?)"})
+    columns += ", " + std::string(sum) + days;
   const store::Value first = Date(year, 1, 1), next = Date(year + 1, 1, 1);
-  store::Database::Params params{first, next};
-  if (all_years) params.insert(params.end(), {first, next});
-
   CaselessMap<YearSums> sums;
-  db.each("SELECT CatID, " + within + (all_years ? others : "") + " FROM Accounts", params, [&](const store::Row& row) {
-    YearSums& account = sums[std::string(row.text(0))];
-    account = {.within = row.money(1), .any_within = !row.is_null(1)};
-    if (all_years) account.before = row.money(2) + row.money(3), account.after = row.money(4);
+  db.each("SELECT CatID" + columns + " FROM Accounts", {first, next, first, next}, [&](const store::Row& row) {
+    sums[std::string(row.text(0))] = {row.money(2) + row.money(3), row.money(1), row.money(4), !row.is_null(1)};
   });
   return sums;
 }
-
-/// The balance when the first row of the current year comes; without one, after the last row of all.
-Money Year_End(const YearSums& sums) { return sums.any_within ? sums.before : sums.before + sums.after; }
 
 struct Figures {
   std::optional<Money> Balance, LastYearEndBal;
   friend bool operator==(const Figures&, const Figures&) = default;
 };
 
-Figures Recalculated(const YearSums& sums) { return {sums.before + sums.within + sums.after, Year_End(sums)}; }
-
-/// From last year's end on. A row of the current year turns an unset LastYearEndBal into 0.
-Figures Carried_On(const YearSums& sums, std::optional<Money> LastYearEndBal) {
-  Money opening = LastYearEndBal.value_or(Money());
-  return {opening + sums.within, sums.any_within ? opening : LastYearEndBal};
+/// The year ends where the first row of the current one comes; without one, after the last row of all.
+Figures Of_Category(const YearSums& sums, std::string_view AccountType) {
+  const Money all = sums.before + sums.within + sums.after, year_end = sums.any_within ? sums.before : all;
+  return Is_Credit_Normal(AccountType) ? Figures{-all, -year_end} : Figures{all, year_end};
 }
 
-YearSums On_Normal_Side(YearSums sums, std::string_view AccountType) {
-  if (!Is_Credit_Normal(AccountType)) return sums;
-  return {-sums.before, -sums.within, -sums.after, sums.any_within};
+/// A cached figure of a row of a list, and what the ledger says.
+struct Cached {
+  int64_t key;
+  std::string name;
+  Figures is, should_be;
+};
+
+bool In_Use(const Category& category) { return !category.Dormant; }
+bool Is_Bank(const Category& category) { return In_Use(category) && same_text(category.AccountType, "Bank"); }
+bool Is_Any(const Category&) { return true; }
+
+std::vector<Cached> Reckon_Accounts(Database& db, int year, bool (*wanted)(const Category&)) {
+  const auto tree = CategoryTree::Load(db);
+  const auto sums = Sum_Ledger(db, year);
+  std::vector<Cached> figures;
+  for (const Category& category : tree.all()) {
+    if (!wanted(category) || Is_Profit_And_Loss(category.AccountType)) continue;
+    figures.push_back({category.key,
+                       category.AccountName,
+                       {category.Balance, category.LastYearEndBal},
+                       Of_Category(tree.sum_family(category.CatID, sums), category.AccountType)});
+  }
+  return figures;
 }
+
+/// A list of names whose balance is the sum of some rows of the ledger under the name.
+struct NameList {
+  std::string table;
+  std::string sums;  ///< SQL: name, sum
+};
+const NameList customers{
+    "Customers",
+    "SELECT Customers.Name, SUM(CASE WHEN IFNULL(Debit, 0) = 0 THEN -IFNULL(Credit, 0) ELSE Debit END)"
+    " FROM (SELECT DISTINCT Name FROM Customers WHERE Dormant = False) AS Customers"
+    " CROSS JOIN Transactions ON Transactions.Name = Customers.Name"
+    " WHERE Account = 'AR1' AND Type IN ('Invoice', 'Statement', 'Payment', 'Check') GROUP BY Customers.Name"};
+const NameList vendors{"Vendors",
+                       "SELECT Name, SUM(IFNULL(Credit, 0) - IFNULL(Debit, 0)"
+                       " - IFNULL((SELECT SUM(Applied.Amount) FROM Applied WHERE Document = TransNum), 0))"
+                       " FROM Transactions WHERE Paid = 0 AND Type = 'Bill' AND Account = 'AP1' GROUP BY Name"};
+
+std::vector<Cached> Reckon_Names(Database& db, const NameList& list) {
+  CaselessMap<Money> sums;
+  db.each(list.sums, {}, [&](const store::Row& row) { sums[std::string(row.text(0))] = row.money(1); });
+  std::vector<Cached> figures;
+  db.each("SELECT RowKey, Name, Balance FROM " + list.table + " WHERE Dormant = False", {}, [&](const store::Row& row) {
+    const auto found = sums.find(row.text(1));
+    figures.push_back({row.integer(0),
+                       std::string(row.text(1)),
+                       {row.is_null(2) ? std::nullopt : std::optional(row.money(2)), {}},
+                       {found == sums.end() ? Money() : found->second, {}}});
+  });
+  return figures;
+}
+
+// --- passes --------------------------------------------------------------------------------------
 
 /// Tells of progress in a hundred steps at most, and takes the window away however the work ends.
-class Progress {
+class Teller {
  public:
-  Progress(Prompts* prompts, std::string label, size_t total)
+  Teller(Prompts* prompts, std::string label, size_t total)
       : prompts_(prompts), label_(std::move(label)), total_(total ? static_cast<int64_t>(total) : 1) {
     tell();
   }
-  ~Progress() {
+  ~Teller() {
     if (prompts_) prompts_->progress_done();
   }
-  Progress(const Progress&) = delete;
-  Progress& operator=(const Progress&) = delete;
+  Teller(const Teller&) = delete;
+  Teller& operator=(const Teller&) = delete;
 
   void step() {
-    int64_t before = done_++;
+    const int64_t before = done_++;
     if (before * 100 / total_ != done_ * 100 / total_) tell();
   }
 
@@ -91,127 +139,101 @@ class Progress {
   int64_t done_ = 0, total_;
 };
 
-/// Rows to be written: a statement's parameters, the key last.
-class CacheUpdate {
- public:
-  CacheUpdate(store::Database& db, std::string what, std::string statement)
-      : db_(db), what_(std::move(what)), statement_(std::move(statement)) {}
-  void add(store::Database::Params params) { rows_.push_back(std::move(params)); }
-  void write() {
-    if (rows_.empty()) return;
-    store::Transaction tx(db_, what_);
-    for (const auto& row : rows_) db_.Execute(statement_, row);
-    tx.commit();
-  }
+int64_t Last_Action(Database& db) { return db.value("SELECT MAX(RowKey) FROM History").integer(); }
 
- private:
-  store::Database& db_;
-  std::string what_, statement_;
-  std::vector<store::Database::Params> rows_;
+std::string Mark_Of(const std::string& table) { return table + " worked out"; }
+
+/// What a pass over a table leaves. `statement` sets the figures of a key; `as_of` is the action that the ledger had
+/// come to before it was read, or nothing for a pass over a part.
+struct Pass {
+  std::string table, statement;
+  bool keeps_year_end;
+  std::optional<int64_t> as_of = {};
+  int year = 0;
 };
+
+void Write(Database& db, const Pass& pass, const std::vector<Cached>& figures, Teller& teller) {
+  std::vector<const Cached*> changed;
+  for (const Cached& figure : figures) {
+    teller.step();
+    if (figure.is != figure.should_be) changed.push_back(&figure);
+  }
+  const bool marks = pass.as_of && Mark(db, Mark_Of(pass.table)) != *pass.as_of;
+  if (changed.empty() && !marks) return;
+  store::Transaction tx(db, "Updating " + pass.table);
+  for (const Cached* figure : changed) {
+    store::Database::Params values{figure->should_be.Balance};
+    if (pass.keeps_year_end) values.push_back(figure->should_be.LastYearEndBal);
+    values.push_back(figure->key);
+    db.Execute(pass.statement, values);
+  }
+  if (marks) Set_Mark(db, Mark_Of(pass.table), *pass.as_of);
+  if (marks && pass.year) Set_Mark(db, "Year of the balances", pass.year);
+  tx.commit();
+}
+
+const std::string accounts_statement = "UPDATE Accounts SET Balance = ?, LastYearEndBal = ? WHERE RowKey = ?";
+
+void Update_Names(Session& session, const NameList& list) {
+  Database& db = *session.dbCompany;
+  const Pass pass{list.table, "UPDATE " + list.table + " SET Balance = ? WHERE RowKey = ?", false, Last_Action(db)};
+  const auto figures = Reckon_Names(db, list);
+  Teller teller(&session.prompts, "Updating " + list.table, figures.size());
+  Write(db, pass, figures, teller);
+}
 
 }  // namespace
 
-void Update_Accounts(Session& session, Categories which) {
-  const std::string label = "Updating Categories";
-  const bool banks_only = which == Categories::Bank;
-  store::Database& db = *session.dbCompany;
-  const auto tree = CategoryTree::Load(db);
-  Progress progress(banks_only ? nullptr : &session.prompts, label, tree.all().size());
-  const auto sums = Sum_Ledger(db, session.today().year(), session.RecalcAll);
-  CacheUpdate update(db, label, "UPDATE Accounts SET Balance = ?, LastYearEndBal = ? WHERE RowKey = ?");
-  for (const Category& category : tree.all()) {
-    progress.step();
-    if (category.Dormant || Is_Profit_And_Loss(category.AccountType)) continue;
-    if (banks_only && !same_text(category.AccountType, "Bank")) continue;
-    auto own = banks_only ? sums.at(category.CatID) : tree.sum_family(category.CatID, sums);
-    own = On_Normal_Side(own, category.AccountType);
-    Figures now = session.RecalcAll ? Recalculated(own) : Carried_On(own, category.LastYearEndBal);
-    if (now != Figures{category.Balance, category.LastYearEndBal})
-      update.add({now.Balance, now.LastYearEndBal, category.key});
-  }
-  update.write();
-  session.RecalcAll = false;
+void Update_Accounts(Session& session, Categories which, Progress progress) {
+  Database& db = *session.dbCompany;
+  const bool all = which == Categories::All;
+  const int year = session.today().year();
+  Pass pass{"Accounts", accounts_statement, true, {}, year};
+  if (all) pass.as_of = Last_Action(db);
+  const auto figures = Reckon_Accounts(db, year, all ? In_Use : Is_Bank);
+  const bool told = all && progress == Progress::Told;
+  Teller teller(told ? &session.prompts : nullptr, "Updating Categories", figures.size());
+  Write(db, pass, figures, teller);
 }
 
 void Fix_Accounts(Session& session) {
-  store::Database& db = *session.dbCompany;
-  const auto tree = CategoryTree::Load(db);
-  const auto sums = Sum_Ledger(db, session.today().year(), true);
-  CacheUpdate update(db, "Year-end balances", "UPDATE Accounts SET LastYearEndBal = ? WHERE RowKey = ?");
-  for (const Category& category : tree.all()) {
-    if (Is_Profit_And_Loss(category.AccountType)) continue;
-    Money year_end = Year_End(On_Normal_Side(tree.sum_family(category.CatID, sums), category.AccountType));
-    if (category.LastYearEndBal != year_end) update.add({year_end, category.key});
-  }
-  update.write();
+  Database& db = *session.dbCompany;
+  auto figures = Reckon_Accounts(db, session.today().year(), Is_Any);
+  for (Cached& figure : figures) figure.should_be.Balance = figure.is.Balance;
+  Teller silent(nullptr, "", figures.size());
+  Write(db, {"Accounts", accounts_statement, true}, figures, silent);
 }
+
+void Update_Customers(Session& session) { Update_Names(session, customers); }
+void Update_Vendors(Session& session) { Update_Names(session, vendors); }
+
+// --- holding them against the ledger -------------------------------------------------------------
 
 namespace {
 
-CaselessMap<Money> Sums_By_Name(store::Database& db, std::string_view sql) {
-  CaselessMap<Money> sums;
-  db.each(sql, {}, [&](const store::Row& row) {
-    if (!row.is_null(0)) sums[std::string(row.text(0))] = row.money(1);
-  });
-  return sums;
-}
+bool Is_Due(Database& db, const std::string& table) { return Mark(db, Mark_Of(table)) != Last_Action(db); }
 
-struct CachedName {
-  int64_t key;
-  std::string Name;
-  std::optional<Money> Balance;
-};
-
-std::vector<CachedName> Names_In_Use(store::Database& db, const std::string& table) {
-  std::vector<CachedName> names;
-  db.each("SELECT RowKey, Name, Balance FROM " + table + " WHERE Dormant = False", {}, [&](const store::Row& row) {
-    auto balance = row.is_null(2) ? std::nullopt : std::optional(row.money(2));
-    names.push_back({row.integer(0), std::string(row.text(1)), balance});
-  });
-  return names;
-}
-
-/// `balance_of(name)` gives the new figure, or nothing where the old one stays.
-template <typename Fn>
-void Update_Names(Session& session, const std::string& table, Fn&& balance_of) {
-  store::Database& db = *session.dbCompany;
-  const std::string label = "Updating " + table;
-  const auto names = Names_In_Use(db, table);
-  Progress progress(&session.prompts, label, names.size());
-  CacheUpdate update(db, label, "UPDATE " + table + " SET Balance = ? WHERE RowKey = ?");
-  for (const CachedName& name : names) {
-    std::optional<Money> balance = balance_of(name.Name);
-    if (balance && balance != name.Balance) update.add({balance, name.key});
-    progress.step();
+void Add_False(std::vector<std::string>& found, const std::vector<Cached>& figures) {
+  const auto words = [](const std::optional<Money>& amount) { return amount ? amount->to_text() : "nothing"; };
+  for (const Cached& figure : figures) {
+    if (figure.is.Balance != figure.should_be.Balance)
+      found.push_back(figure.name + ": " + words(figure.is.Balance) + ", but " + words(figure.should_be.Balance) +
+                      " in the ledger");
+    else if (figure.is != figure.should_be)
+      found.push_back(figure.name + " at the year's end: " + words(figure.is.LastYearEndBal) + ", but " +
+                      words(figure.should_be.LastYearEndBal) + " in the ledger");
   }
-  update.write();
 }
 
 }  // namespace
 
-void Update_Customers(Session& session) {
-  const auto owed =
-      Sums_By_Name(*session.dbCompany,
-                   "SELECT Customers.Name, SUM(CASE WHEN IFNULL(Debit, 0) = 0 THEN -IFNULL(Credit, 0) ELSE Debit END)"
-                   " FROM (SELECT DISTINCT Name FROM Customers WHERE Dormant = False) AS Customers"
-                   " CROSS JOIN Transactions ON Transactions.Name = Customers.Name"
-                   " WHERE Account = 'AR1' AND Type IN ('Invoice', 'Payment', 'Check') GROUP BY Customers.Name");
-  Update_Names(session, "Customers", [&](const std::string& name) -> std::optional<Money> {
-    auto found = owed.find(name);
-    return found == owed.end() ? Money() : found->second;
-  });
-}
-
-void Update_Vendors(Session& session) {
-  const auto unpaid = Sums_By_Name(*session.dbCompany,
-                                   "SELECT Name, SUM(Debit) FROM Transactions WHERE Paid = 0 AND Type = 'Bill'"
-                                   " GROUP BY Name");
-  Update_Names(session, "Vendors", [&](const std::string& name) -> std::optional<Money> {
-    // Written into a query the way that leaves such a name unfound, which is kept.
-    auto found = unpaid.find(replace_all(name, "'", "\\'"));
-    return found == unpaid.end() ? std::nullopt : std::optional(found->second);
-  });
+std::vector<std::string> False_Balances(Database& db) {
+  std::vector<std::string> found;
+  const int year = static_cast<int>(Mark(db, "Year of the balances"));
+  if (!Is_Due(db, "Accounts")) Add_False(found, Reckon_Accounts(db, year, In_Use));
+  for (const NameList& list : {customers, vendors})
+    if (!Is_Due(db, list.table)) Add_False(found, Reckon_Names(db, list));
+  return found;
 }
 
 }  // namespace tallymere

@@ -27,13 +27,12 @@ std::string Make_Other_Child(Session& session, const std::string& parent_id) {
   accounts["Dormant"] = false;
   accounts["LastYearEndBal"] = Money();
   accounts.Update();
+  Note_CatID(db, id);
   tx.commit();
   return id;
 }
 
 }  // namespace
-
-int64_t Next_TransNum(store::Database& db) { return db.value("SELECT MAX(TransNum) FROM Transactions").integer() + 1; }
 
 std::string SubAccount_Clause(const CategoryTree& tree, std::string_view parent) {
   std::string clause;
@@ -49,13 +48,6 @@ std::string SubAccount_Clause(Session& session, std::string_view parent) {
 std::string Category_Name(Session& session, const std::string& id) {
   if (id == break_down) return id;
   return session.dbCompany->value("SELECT AccountName FROM Accounts WHERE CatID = ?", {id}).text();
-}
-
-std::string Unused_CatID(store::Database& db) {
-  for (int64_t number = 0;; ++number) {
-    std::string id = std::to_string(number) + "SS";
-    if (db.value("SELECT RowKey FROM Accounts WHERE CatID = ?", {id}).is_null()) return id;
-  }
 }
 
 std::string Get_Postable_Category(Session& session, const std::string& id) {
@@ -89,10 +81,6 @@ int Count_Text_Lines(std::string_view text) {
     if ((text[at] == '\r' || text[at] == '\n') && !second_half) ++lines;
   }
   return lines;
-}
-
-void Set_Recalc_If_Other_Year(Session& session, Date date) {
-  if (years_between(date, session.today()) != 0) session.RecalcAll = true;
 }
 
 }  // namespace tallymere

@@ -6,6 +6,7 @@
 
 #include "core/company/session.h"
 #include "core/ledger/category_tree.h"
+#include "core/ledger/numbers.h"
 
 /// Conventions of the ledger that every entry window obeys.
 namespace tallymere {
@@ -20,19 +21,12 @@ inline const std::string undeposited_funds = "UF1";
 inline const std::string retained_earnings = "RE1";
 inline const std::string opening_balance = "OE1";
 
-/// One more than the highest TransNum in use, 1 in an empty ledger. It is not reserved: Transaction_Writer
-/// looks again.
-int64_t Next_TransNum(store::Database& db);
-
 /// " OR Account = '...'" for each category below `parent`, to any depth; "" when there is none.
 std::string SubAccount_Clause(Session& session, std::string_view parent);
 std::string SubAccount_Clause(const CategoryTree& tree, std::string_view parent);
 
 /// The AccountName of a CatID; "<-Break Down->" as it stands, "" for what is no category.
 std::string Category_Name(Session& session, const std::string& id);
-
-/// The lowest number from 0 upward that followed by "SS" is no category's CatID yet.
-std::string Unused_CatID(store::Database& db);
 
 /// The category that a posting to `id` goes to: `id` itself when it has no children, else its " - Other"
 /// child, which is made on first use. Inside a save the new child belongs to the same store transaction.
@@ -46,8 +40,5 @@ bool Is_Profit_And_Loss(std::string_view AccountType);
 
 /// The lines of a multi-line text: one more than its line ends, which may be CR LF, CR or LF.
 int Count_Text_Lines(std::string_view text);
-
-/// A posting outside the current calendar year makes the next balance pass start from zero.
-void Set_Recalc_If_Other_Year(Session& session, Date date);
 
 }  // namespace tallymere

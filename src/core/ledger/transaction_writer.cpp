@@ -1,9 +1,12 @@
 #include "core/ledger/transaction_writer.h"
 
+#include <algorithm>
 #include <cassert>
 
 #include "core/ledger/ledger.h"
+#include "core/ledger/marks.h"
 #include "core/ledger/pay_period.h"
+#include "core/ledger/settlement.h"
 #include "core/store/sql.h"
 
 namespace tallymere {
@@ -81,17 +84,15 @@ bool Has_Rows(store::Database& db, int64_t number) {
   return !db.value("SELECT RowKey FROM Transactions WHERE TransNum = ? LIMIT 1", {number}).is_null();
 }
 
-/// Rows that leave a year make its balances as stale as rows that come.
-void Set_Recalc_For_Rows(Session& session, int64_t number) {
-  session.dbCompany->each("SELECT DISTINCT Date FROM Transactions WHERE TransNum = ?", {number},
-                          [&](const store::Row& row) {
-                            if (auto date = row.date(0)) Set_Recalc_If_Other_Year(session, *date);
-                          });
+void Delete_Rows(store::Database& db, int64_t number) {
+  db.Execute("DELETE FROM Transactions WHERE TransNum = ?", {number});
 }
 
-void Delete_Rows(Session& session, int64_t number) {
-  Set_Recalc_For_Rows(session, number);
-  session.dbCompany->Execute("DELETE FROM Transactions WHERE TransNum = ?", {number});
+void Unsign(LedgerRow& row) {
+  const Money debit = row.Debit, credit = row.Credit, none;
+  row.Debit = std::max(debit, none) + std::max(-credit, none);
+  row.Credit = std::max(credit, none) + std::max(-debit, none);
+  if (row.Amount) row.Amount = row.Amount->abs();
 }
 
 }  // namespace
@@ -100,25 +101,41 @@ void Delete_Rows(Session& session, int64_t number) {
 
 Transaction_Writer::Transaction_Writer(Session& session, TransactionHead head, const Probe& probe)
     : db_(*session.dbCompany), head_(std::move(head)), tx_(db_, Title(head_.Type, head_.Number, head_.Name)) {
-  Set_Recalc_If_Other_Year(session, head_.Date);
   if (probe.is_new()) {
-    if (head_.TransNum == 0 || Has_Rows(db_, head_.TransNum)) head_.TransNum = Next_TransNum(db_);
+    const bool used = Has_Rows(db_, head_.TransNum) || head_.TransNum <= Mark(db_, "TransNum");
+    if (used || head_.TransNum == 0) head_.TransNum = Next_TransNum(db_);
   } else {
     assert(head_.TransNum != 0);
     probe.check(db_);
-    Delete_Rows(session, head_.TransNum);
+    Delete_Rows(db_, head_.TransNum);
   }
+  Note_TransNum(db_, head_.TransNum);
 }
 
-void Transaction_Writer::add(const LedgerRow& row) {
+void Transaction_Writer::require_category(const LedgerRow& row) {
+  const bool posts = !row.Debit.is_zero() || !row.Credit.is_zero();
+  if (row.Account.empty() && !posts) return;
+  if (found_.contains(row.Account)) return;
+  if (db_.value("SELECT 1 FROM Accounts WHERE CatID = ?", {row.Account}).is_null())
+    throw store::Error(store::errors::no_such_category,
+                       row.Account.empty() ? "Please choose a category for every line that has an amount."
+                                           : "A category of this transaction is not there any more. Another user may "
+                                             "have deleted it. Please choose another one.");
+  found_.insert(row.Account);
+}
+
+void Transaction_Writer::add(LedgerRow row) {
   static const std::string insert = Insert_Statement();
   store::Database::Params values;
+  require_category(row);
+  Unsign(row);
   values.reserve(std::size(columns));
   for (const Column& column : columns) values.push_back(column.value(head_, row));
   db_.Execute(insert, values);
 }
 
 void Transaction_Writer::commit() {
+  if (!Applied_To(db_, head_.TransNum).empty()) Settle(db_, head_.TransNum);
   Probe written = Probe::Of(db_, head_.TransNum);
   tx_.commit();
   written_ = std::move(written);
@@ -137,7 +154,9 @@ int64_t Delete_Transaction(Session& session, int64_t TransNum) {
   store::Transaction tx(db, "Deleted " + Title_Of_Rows(db, TransNum));
   int64_t rows = db.value("SELECT COUNT(*) FROM Transactions WHERE TransNum = ?", {TransNum}).integer();
   Unpay_Period(db, TransNum);
-  Delete_Rows(session, TransNum);
+  Take_Back(db, TransNum);
+  Note_TransNum(db, TransNum);
+  Delete_Rows(db, TransNum);
   tx.commit();
   return rows;
 }
@@ -153,10 +172,6 @@ int64_t Rewrite_Fields(Session& session, int64_t TransNum, const FieldValues& fi
       throw store::Error(store::errors::no_such_field, "Item not found in this collection: " + std::string(name) + ".");
     assignments += (assignments.empty() ? "" : ", ") + store::Quoted(field->name) + " = ?";
     values.push_back(value.as(field->type));
-    if (field->name == "Date") {
-      Set_Recalc_For_Rows(session, TransNum);
-      Set_Recalc_If_Other_Year(session, values.back().date());
-    }
   }
   values.emplace_back(TransNum);
   store::Transaction tx(db, Title_Of_Rows(db, TransNum));
@@ -173,6 +188,8 @@ std::optional<Conflict> Conflict_Of(const store::Error& error) {
            "updated. Click Ok to see changes.",
            "Data has changed", Icon::Information},
           true};
+    case store::errors::no_such_category:
+      return Conflict{{error.description(), "Invalid Category", Icon::Information}, false};
     case store::errors::locked:
       return Conflict{{error.description() + " Try Again later.", "", Icon::None}, false};
     default:

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -26,7 +27,8 @@ struct TransactionHead {
 };
 
 /// One row: its posting, then what documents add, initialised in this order. Empty text and unset values are
-/// stored as null, but an unset Debit or Credit as 0, so that "Credit = 0" finds the other side.
+/// stored as null, but an unset Debit or Credit as 0, so that "Credit = 0" finds the other side. Nothing is stored
+/// signed: a negative Debit becomes a Credit, a negative Credit a Debit, and Amount is its size.
 struct LedgerRow {
   std::string Account = {};
   std::string Category = {};
@@ -67,21 +69,25 @@ struct LedgerRow {
 
 /// Writes a transaction, new or in place of its old rows: probe, delete, write, in one store transaction.
 /// What is called between construction and commit belongs to it; without commit nothing has happened. Errors
-/// 3197 (changed by another user) and 3218 (locked) come from the constructor.
+/// 3197 (changed by another user) and 3218 (locked) come from the constructor, 3201 (no such category) from add.
 class Transaction_Writer {
  public:
-  /// A new entry whose number another user has taken since gets the next free one.
+  /// A new entry whose number another user has taken since, or ever had, gets the next free one.
   Transaction_Writer(Session& session, TransactionHead head, const Probe& probe = {});
 
   int64_t number() const { return head_.TransNum; }
-  void add(const LedgerRow& row);
+  /// A row on a category that is not there is refused; so is one on none, but for lines that post nothing.
+  void add(LedgerRow row);
+  /// What had been paid on the document before stays paid: its settlement is written onto the new rows.
   void commit();
   /// After commit: remembers the rows just written, for the next save from the same window.
   const Probe& probe() const { return written_; }
 
  private:
+  void require_category(const LedgerRow& row);
   store::Database& db_;
   TransactionHead head_;
+  std::set<std::string> found_;  ///< categories that are there
   store::Transaction tx_;
   Probe written_;
 };
@@ -89,17 +95,18 @@ class Transaction_Writer {
 /// A transaction as the history speaks of it: "Check 1042, Acme Supply".
 std::string Title_Of_Rows(store::Database& db, int64_t TransNum);
 
-/// Removes all rows of a transaction in one store transaction; how many there were.
+/// Removes all rows of a transaction, and what it settled is open again, in one store transaction; how many rows
+/// there were.
 int64_t Delete_Transaction(Session& session, int64_t TransNum);
 
 /// Sets a few fields on all rows of a transaction that must not be rewritten; how many rows there are.
 using FieldValues = std::vector<std::pair<std::string_view, store::Value>>;
 int64_t Rewrite_Fields(Session& session, int64_t TransNum, const FieldValues& fields);
 
-/// A save that met another user's. The save has ended and nothing was written.
+/// A save that met another user's, or a category that is not there. The save has ended and nothing was written.
 struct Conflict {
   Box box;
-  bool reload = false;  ///< show the box, then load the transaction anew
+  bool reload = false;  ///< show the box, then load the transaction anew; else what was typed stays
 };
 /// The conflict that an error stands for; nothing for any other failure.
 std::optional<Conflict> Conflict_Of(const store::Error& error);

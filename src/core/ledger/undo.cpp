@@ -1,9 +1,11 @@
 #include "core/ledger/undo.h"
 
 #include <optional>
+#include <unordered_map>
 
 #include "core/company/schema.h"
 #include "core/ledger/ledger.h"
+#include "core/ledger/links.h"
 #include "core/store/history.h"
 #include "core/store/sql.h"
 #include "core/values/text.h"
@@ -33,17 +35,21 @@ int64_t Count(Database& db, std::string_view table, std::string_view field, cons
 
 /// The action that took this one back and stands itself.
 std::optional<int64_t> Taken_Back_By(Database& db, int64_t number) {
-  std::vector<int64_t> undos;
-  db.each("SELECT RowKey FROM History WHERE Undoes = ? ORDER BY RowKey", {number},
-          [&](const store::Row& row) { undos.push_back(row.integer(0)); });
-  for (int64_t undo : undos)
-    if (!Taken_Back_By(db, undo)) return undo;
-  return std::nullopt;
+  std::unordered_map<int64_t, int64_t> by;  // from the newest back: an undo that was itself taken back does not count
+  db.each("SELECT RowKey, Undoes FROM History WHERE Undoes >= ? AND Undoes < RowKey ORDER BY RowKey DESC", {number},
+          [&](const store::Row& row) {
+            if (!by.contains(row.integer(0))) by.try_emplace(row.integer(1), row.integer(0));
+          });
+  const auto found = by.find(number);
+  return found == by.end() ? std::nullopt : std::optional(found->second);
 }
 
-bool Points_At(Database& db, const Reference& link, const Value& key) {
-  std::string condition = link.condition.empty() ? "" : " AND (" + std::string(link.condition) + ")";
-  return Count(db, link.from_table, link.from_field, key, condition) > 0;
+/// Only what can itself be taken back is taken back: some row must change that is no cache.
+void Refuse_If_Nothing_Would_Change(Database& db, const store::Action& action, const std::vector<Change>& changes) {
+  for (const Change& change : changes)
+    for (const auto& cell : change.cells)
+      if (!db.is_cache(change.table, cell.field)) return;
+  Refuse(action, "it only worked out balances");
 }
 
 /// What is gone now must not be what others point at.
@@ -64,7 +70,7 @@ void Refuse_If_Taken(Database& db, const store::Action& action, const Reference&
 
 /// Names may stay behind when a list's row is renamed; a category's id never does.
 void Refuse_If_Category_Is_Gone(Database& db, const store::Action& action, const Reference& link, const Value& came) {
-  if (link.to_table != "Accounts" || came.blank() || !Points_At(db, link, came)) return;
+  if (link.to_table != "Accounts" || link.or_words || came.blank() || !Points_At(db, link, came)) return;
   if (Count(db, link.to_table, link.to_field, came) == 0)
     Refuse(action, Named(link.from_table, link.from_field, came) + " is a category that is gone");
 }
@@ -90,27 +96,20 @@ int64_t Last_Key(const std::vector<Change>& changes) {
   return last;
 }
 
-void Set_Recalc(Session& session, const Change& change) {
-  if (change.table != "Transactions") return;
-  for (const auto& cell : change.cells)
-    if (cell.field == "Date")
-      for (const Value& day : {cell.before, cell.after})
-        if (auto date = day.maybe_date()) Set_Recalc_If_Other_Year(session, *date);
-}
-
 }  // namespace
 
 void Undo_Action(Session& session, int64_t number) {
   Database& db = *session.dbCompany;
   const store::Action action = store::Find_Action(db, number);
   store::Transaction undo(db, "Undo " + std::to_string(number) + ": " + action.what);
+  if (action.undoes >= number) Refuse(action, "it says that it took back what came after it");
   if (auto earlier = Taken_Back_By(db, number)) Refuse(action, "action " + std::to_string(*earlier) + " has done it");
-  store::Revert_Changes(db, number);
   const auto changes = store::Changes_Of(db, number);
+  Refuse_If_Nothing_Would_Change(db, action, changes);
+  store::Revert_Changes(db, number);
   for (const Change& change : changes) Check_Links(db, action, change, Last_Key(changes));
   undo.undoes(number);
   undo.commit();
-  for (const Change& change : changes) Set_Recalc(session, change);
 }
 
 }  // namespace tallymere

@@ -83,7 +83,7 @@ Findings Links_Resolve(Database& db, const Reference& link) {
 Findings All_Links_Resolve(Database& db) {
   Findings found;
   for (const Reference& link : references()) {
-    if (!db.find_table(link.from_table)) continue;
+    if (link.or_words || !db.find_table(link.from_table)) continue;
     for (std::string& fault : Links_Resolve(db, link)) found.push_back(std::move(fault));
   }
   return found;

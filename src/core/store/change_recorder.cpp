@@ -48,10 +48,11 @@ void Append_Record(std::string& out, const std::vector<std::string>& record) {
 }
 
 /// Of a changed row: the key and what changed as it was, then what changed as it is.
-void Append_Update(std::string& out, const std::vector<std::string>& before, const std::vector<std::string>& after) {
-  for (size_t at = 0; at < before.size(); ++at)
-    at == 0 || before[at] != after[at] ? out += before[at] : out += undefined_cell;
-  for (size_t at = 0; at < after.size(); ++at) before[at] != after[at] ? out += after[at] : out += undefined_cell;
+void Append_Update(std::string& out, const std::vector<std::string>& before, const std::vector<std::string>& after,
+                   const std::vector<bool>& caches) {
+  const auto changed = [&](size_t at) { return !caches[at] && before[at] != after[at]; };
+  for (size_t at = 0; at < before.size(); ++at) at == 0 || changed(at) ? out += before[at] : out += undefined_cell;
+  for (size_t at = 0; at < after.size(); ++at) changed(at) ? out += after[at] : out += undefined_cell;
 }
 
 }  // namespace
@@ -61,8 +62,14 @@ struct ChangeRecorder::Net {
   const std::optional<Record>* before;
   const std::optional<Record>* after;
 
-  bool nothing() const { return *before == *after; }
-  void append_to(std::string& out) const {
+  bool nothing(const std::vector<bool>& caches) const {
+    for (size_t at = 1; at < caches.size(); ++at) {
+      if (caches[at]) continue;
+      if (!before->has_value() || !after->has_value() || (**before)[at] != (**after)[at]) return false;
+    }
+    return true;
+  }
+  void append_to(std::string& out, const std::vector<bool>& caches) const {
     bool added = !before->has_value(), deleted = !after->has_value();
     out += static_cast<char>(added ? SQLITE_INSERT : deleted ? SQLITE_DELETE : SQLITE_UPDATE);
     out += '\0';  // not the work of a trigger
@@ -71,7 +78,7 @@ struct ChangeRecorder::Net {
     else if (deleted)
       Append_Record(out, **before);
     else
-      Append_Update(out, **before, **after);
+      Append_Update(out, **before, **after, caches);
   }
   size_t columns() const { return before->has_value() ? (*before)->size() : (*after)->size(); }
 };
@@ -127,7 +134,7 @@ ChangeRecorder::Record ChangeRecorder::read(bool old_values) const {
   return record;
 }
 
-std::string ChangeRecorder::changeset() const {
+std::string ChangeRecorder::changeset(const CacheColumn& is_cache) const {
   std::string out;
   for (size_t table = 0; table < tables_.size(); ++table) {
     std::vector<Net> rows;
@@ -138,14 +145,19 @@ std::string ChangeRecorder::changeset() const {
       if (is_new) rows.push_back({&change.before, &change.after});
       rows[found->second].after = &change.after;
     }
-    std::erase_if(rows, [](const Net& row) { return row.nothing(); });
+    std::erase_if(rows, [](const Net& row) { return !row.before->has_value() && !row.after->has_value(); });
+    if (rows.empty()) continue;
+    std::vector<bool> caches(rows[0].columns());
+    for (size_t at = 1; at < caches.size(); ++at)
+      caches[at] = is_cache && is_cache(tables_[table], static_cast<int>(at));
+    std::erase_if(rows, [&](const Net& row) { return row.nothing(caches); });
     if (rows.empty()) continue;
     out += 'T';
     Append_Length(out, static_cast<uint32_t>(rows[0].columns()));
     out += '\x01';  // the hidden key comes first and is the key
     out.append(rows[0].columns() - 1, '\0');
     out += tables_[table] + '\0';
-    for (const Net& row : rows) row.append_to(out);
+    for (const Net& row : rows) row.append_to(out, caches);
   }
   return out;
 }

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -10,6 +11,9 @@
 struct sqlite3;
 
 namespace tallymere::store {
+
+/// Whether a column of a table, counted with the hidden key as 0, is only a cache.
+using CacheColumn = std::function<bool(const std::string& table, int column)>;
 
 /// Notes every row that a connection adds, changes or deletes, and writes them down as one changeset, in the form that the
 /// engine's session extension has too. The extension's own recorder asks the schema and reads each row again at every
@@ -28,8 +32,8 @@ class ChangeRecorder {
   size_t mark() const { return log_.size(); }
   void forget_since(size_t mark);  ///< after what was written since has been rolled back
 
-  /// The net of all changes; empty when there is none.
-  std::string changeset() const;
+  /// The net of all changes but those of columns that are only caches; empty when there is none.
+  std::string changeset(const CacheColumn& is_cache) const;
 
  private:
   using Record = std::vector<std::string>;  ///< one cell each, in the changeset's form

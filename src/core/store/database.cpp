@@ -357,6 +357,12 @@ Value Database::value(std::string_view sql, const Params& params) {
   return Typed(statement.raw(0), Type_Of_Declaration(statement.declared_type(0)));
 }
 
+bool Database::is_cache_column(const std::string& table, int column) const {
+  const TableDef* definition = find_table(table);
+  if (!definition || column < 1 || column > static_cast<int>(definition->fields.size())) return false;
+  return is_cache(table, definition->fields[static_cast<size_t>(column) - 1].name);
+}
+
 void Database::require_transaction() const {
   if (depth_ == 0) throw std::logic_error("a database is written only inside a store::Transaction");
   if (!connection_.in_transaction())
@@ -427,7 +433,8 @@ void Transaction::leave() {
 void Transaction::write_history() {
   std::string changes;
   if (history_ == History::Rows) {
-    changes = db_.connection_.take_changes();
+    changes = db_.connection_.take_changes(
+        [this](const std::string& table, int column) { return db_.is_cache_column(table, column); });
     if (changes.empty()) return;  // nothing was written that a history could tell
     if (changes.size() > Connection::longest_text) history_ = History::Summary;
   }

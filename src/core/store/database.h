@@ -75,7 +75,8 @@ struct Author {
   std::function<std::string()> now;  ///< "yyyy-mm-dd hh:mm:ss"
 };
 
-/// Whether a field is only a cache, recomputed from other rows: no change of it counts as another user's work.
+/// Whether a field is only a cache, recomputed from other rows: no change of it counts as another user's work, or
+/// stands in the history.
 using IsCache = std::function<bool(const std::string& table, const std::string& field)>;
 
 /// A scope of writing, for those who must know later whether what was written in it came to stay.
@@ -138,6 +139,8 @@ class Database {
   const Author& author() const { return author_; }
   void set_caches(IsCache caches) { caches_ = std::move(caches); }
   bool is_cache(const std::string& table, const std::string& field) const { return caches_ && caches_(table, field); }
+  /// The same by the column in the file, where the hidden key is column 0.
+  bool is_cache_column(const std::string& table, int column) const;
   bool keeps_history() const { return keeps_history_; }
   /// A bug when no Transaction is open; Error 3034 when the engine undid it by itself after an earlier
   /// failure.

@@ -337,8 +337,8 @@ void Connection::record_changes(bool (*leave_out)(std::string_view table)) {
   recorder_->start(leave_out);
 }
 
-std::string Connection::take_changes() {
-  std::string changes = recorder_ ? recorder_->changeset() : std::string();
+std::string Connection::take_changes(const CacheColumn& is_cache) {
+  std::string changes = recorder_ ? recorder_->changeset(is_cache) : std::string();
   drop_changes();
   return changes;
 }

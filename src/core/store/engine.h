@@ -97,7 +97,7 @@ class Connection {
 
   /// Notes what is written from now on, but for the tables that `leave_out` knows; take_changes() ends it.
   void record_changes(bool (*leave_out)(std::string_view table));
-  std::string take_changes();
+  std::string take_changes(const CacheColumn& is_cache = {});
   void drop_changes() { recorder_.reset(); }
 
   /// Copies the whole file as it stands, under one read lock, into a new file or over the content of another,

@@ -30,6 +30,7 @@ inline constexpr int bad_statement = 3075;
 inline constexpr int no_such_table = 3078;
 inline constexpr int too_long = 3163;
 inline constexpr int data_changed = 3197;
+inline constexpr int no_such_category = 3201;
 inline constexpr int database_exists = 3204;
 inline constexpr int locked = 3218;
 inline constexpr int no_such_field = 3265;

@@ -68,8 +68,7 @@ std::vector<Change> Changes_Of(Database& db, int64_t number) {
 void Revert_Changes(Database& db, int64_t number) {
   Action action = Find_Action(db, number);
   auto refused = Apply_Inverse(db.connection(), Changeset_Of(db, number), [&](const std::string& table, int column) {
-    const Field* field = Field_At(db, table, column);
-    return field && db.is_cache(table, field->name);
+    return db.is_cache_column(table, column);
   });
   if (refused.empty()) return;
   throw Error(errors::undo_refused, "Action " + std::to_string(number) + " (" + action.what +

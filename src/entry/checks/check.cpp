@@ -5,6 +5,7 @@
 #include "core/company/preferences.h"
 #include "core/ledger/balances.h"
 #include "core/ledger/ledger.h"
+#include "core/ledger/settlement.h"
 #include "core/ledger/stored_row.h"
 #include "core/store/recordset.h"
 #include "core/values/text.h"
@@ -15,9 +16,6 @@ namespace {
 constexpr std::string_view check_types[] = {"Check", "Liabilitycheck", "Paycheck", "Billcheck"};
 
 std::string Default_Bank(Session& session) { return Preference(*session.dbCompany, preference::DefaultBank); }
-
-/// "1042;", as a bill that this payment settled names it.
-std::string Paid_By(int64_t TransNum) { return std::to_string(TransNum) + ";"; }
 
 }  // namespace
 
@@ -270,7 +268,6 @@ void Rewrite_Narrow(Session& session, Check& check) {
   change("Number", check.Number, check.kept->Number.value_or(""), now->Number);
   if (may.Date) change("Date", check.Date, *check.loaded, now->Date);
   if (may.Name) change("Name", check.Name, check.kept->Name.value_or(""), now->Name);
-  Set_Recalc_If_Other_Year(session, now->Date);
   if (!fields.empty()) Rewrite_Fields(session, check.TransNum, fields);
   tx.commit();
   check = *Load_Check(session, check.TransNum);
@@ -281,7 +278,6 @@ void Rewrite_Narrow(Session& session, Check& check) {
 SaveResult Enter_Check(Session& session, Check& check) {
   if (check.Name.empty() && !check.Amount) return {};
   if (!check.Amount) return {.fault = Mistake("Please enter an amount for this check.", "No Amount", "txtAmount")};
-  Set_Recalc_If_Other_Year(session, check.Date);
   if (!check.is_narrow()) {
     // A company without a default bank begins its checks without one.
     if (check.BankID.empty())
@@ -319,17 +315,11 @@ std::optional<Fault> Cannot_Print(const Check& check) {
 const DocumentKind<Check> Check_Kind = {"check", {check_types, 1000}, New_Check, Load_Check, Enter_Check};
 
 Deleted<Check> Delete_Check(Session& session, const Check& check) {
-  const auto free_bills = [&] {
-    session.dbCompany->Execute(
-        "UPDATE Transactions SET Paid = False, PaidBy = NULL WHERE Type = 'Bill' AND Paid = True AND PaidBy = ?",
-        {Paid_By(check.TransNum)});
-  };
   return Delete_Document(
       session, Check_Kind, check,
       {.question = "Are you sure you want to delete this Check?",
        .spoken = Spoken(check.is_new() ? "the new Check" : check.Type, check.Number, check.Name, check.Amount),
-       .cleared = check.Cleared,
-       .frees = free_bills});
+       .cleared = check.Cleared});
 }
 
 }  // namespace tallymere

@@ -7,6 +7,7 @@
 #include <QStackedWidget>
 #include <QTabWidget>
 
+#include "core/ledger/balances.h"
 #include "core/values/format.h"
 #include "core/values/text.h"
 #include "entry/document/ExpenseGrid.h"
@@ -41,6 +42,10 @@ void frmCheck::load() {
 void frmCheck::on_changed(const std::string& table) {
   lists_->changed(table);
   if (table == "Colors") Paint_Paper(*fraCheck, Company_Color(session, "CheckBack"));
+  if (table == "Accounts" || table == "Transactions") {
+    Update_Accounts(session, Categories::Bank);
+    show_balance();
+  }
   if (table != "Accounts") return;
   std::vector<SSDBDropDown::Item> banks;
   for (const Bank& bank : Banks(session)) banks.push_back({bank.AccountName, bank.CatID});
@@ -132,7 +137,11 @@ void frmCheck::set_bank(const std::string& CatID) {
   const Bank bank = Read_Bank(session, CatID);
   lblBankID->setText(qt(CatID));
   if (!cmbAccount->set_id(CatID)) cmbAccount->set_text(bank.AccountName);
-  lblBalance->setText(qt(Format(bank.Balance, "$0.00")));
+  show_balance();
+}
+
+void frmCheck::show_balance() {
+  lblBalance->setText(qt(Format(Read_Bank(session, utf8(lblBankID->text())).Balance, "$0.00")));
 }
 
 void frmCheck::cmbAccount_LostFocus() { set_bank(cmbAccount->Valid() ? cmbAccount->id() : utf8(lblBankID->text())); }

@@ -57,6 +57,7 @@ class frmCheck : public DocumentForm<Check> {
 
   // --- what happens while it is filled in
   void set_bank(const std::string& CatID);
+  void show_balance();
   void cmbAccount_LostFocus();
   void Load_Address_Box();
   void Check_New_Payee();

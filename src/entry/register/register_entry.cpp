@@ -343,7 +343,7 @@ RecordResult Record(Session& session, const Register& reg, RegisterEntry& entry)
   if (result.fault) return result;
   Turn_Negative(entry);
   result.conflict = Save_Or_Conflict([&] { Save_Entry(session, reg, entry, result); });
-  result.reload = true;
+  result.reload = !result.conflict || result.conflict->reload;
   result.TransNum = entry.TransNum;
   return result;
 }

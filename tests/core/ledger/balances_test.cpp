@@ -30,24 +30,31 @@ std::string Figures(TestCompany& company, const std::string& id) {
 // Today is 6/15/2026 in all of these.
 const Date last_year(2025, 12, 31), new_year(2026, 1, 1), year_end(2026, 12, 31), next_year(2027, 1, 1);
 
-TEST(UpdateAccounts, OrdinaryPassCarriesOnFromLastYearsEnd) {
+/// Whatever a pass before left in the caches, and whichever pass it was.
+TEST(UpdateAccounts, ArePutRightByAnyPassWhateverWasDoneBefore) {
   TestCompany company;
-  for (auto id : {"quiet", "busy", "unset", "ahead"}) company.add_category(id, "Bank");
-  company.run("UPDATE Accounts SET LastYearEndBal = ? WHERE CatID IN ('quiet', 'busy')", {D(70)});
-  Post(company, "quiet", last_year, D(999));
-  Post(company, "busy", last_year, D(999));
+  for (auto id : {"quiet", "busy"}) company.add_category(id, "Bank");
+  company.run("UPDATE Accounts SET Balance = ?, LastYearEndBal = ? WHERE CatID IN ('quiet', 'busy')", {D(70), D(70)});
+  Post(company, "busy", last_year, D(40));
   Post(company, "busy", new_year, D(5));
-  Post(company, "busy", year_end, {}, D(8));
   Post(company, "busy", next_year, D(1000));
-  Post(company, "unset", new_year, D(5));
-  Post(company, "ahead", next_year, D(5));
-  Update_Accounts(*company.session);
-  EXPECT_EQ(Figures(company, "quiet"), "70/70");
-  EXPECT_EQ(Figures(company, "busy"), "67/70");
-  EXPECT_EQ(Figures(company, "unset"), "5/0");
-  EXPECT_EQ(Figures(company, "ahead"), "0/null");
-  EXPECT_EQ(company.prompts.labels, std::vector<std::string>{"Updating Categories"});
+  for (Categories which : {Categories::Bank, Categories::All, Categories::Bank}) {
+    Update_Accounts(*company.session, which);
+    EXPECT_EQ(Figures(company, "quiet"), "0/0");
+    EXPECT_EQ(Figures(company, "busy"), "1045/40");
+  }
+  EXPECT_EQ(company.prompts.labels, std::vector<std::string>{"Updating Categories"}) << "the banks' pass is silent";
   EXPECT_EQ(company.prompts.in_progress, false);
+
+  company.run("UPDATE Transactions SET Date = ? WHERE Date = ?", {last_year, new_year});  // into the year before
+  company.run("UPDATE Accounts SET AccountType = 'Long Term Liability', ParentAccount = 'quiet' WHERE CatID = 'busy'");
+  Update_Accounts(*company.session, Categories::All, Progress::Silent);
+  EXPECT_EQ(Figures(company, "busy"), "-1045/-1045");
+  EXPECT_EQ(Figures(company, "quiet"), "1045/1045") << "a new parent holds it";
+  TestCompany later(Date(2027, 2, 1));
+  for (auto day : {last_year, next_year}) Post(later, "0SS", day, D(3));
+  Update_Accounts(*later.session, Categories::Bank);
+  EXPECT_EQ(Figures(later, "0SS"), "6/3") << "the year has turned";
 }
 
 TEST(UpdateAccounts, FullPassFindsTheYearsEndAnew) {
@@ -62,14 +69,12 @@ TEST(UpdateAccounts, FullPassFindsTheYearsEndAnew) {
   Post(company, "both", next_year, D(300));
   Post(company, "ahead", last_year, D(40));
   Post(company, "ahead", next_year, D(300));
-  company.session->RecalcAll = true;
   Update_Accounts(*company.session);
   EXPECT_EQ(Figures(company, "fresh"), "5/0");
   EXPECT_EQ(Figures(company, "old"), "42/42");
   EXPECT_EQ(Figures(company, "both"), "345/40");
   EXPECT_EQ(Figures(company, "ahead"), "340/340") << "no row of this year: the last row of all ends the year";
   EXPECT_EQ(Figures(company, "none"), "0/0");
-  EXPECT_FALSE(company.session->RecalcAll);
 }
 
 TEST(UpdateAccounts, ParentsHoldAllBelowThemOnTheirOwnSide) {
@@ -93,7 +98,7 @@ TEST(UpdateAccounts, ParentsHoldAllBelowThemOnTheirOwnSide) {
   EXPECT_EQ(Figures(company, "misc"), "4/0");
 }
 
-TEST(UpdateAccounts, TheBankPassIsForBanksAndTheirOwnRows) {
+TEST(UpdateAccounts, TheBankPassIsForBanks) {
   TestCompany company;
   company.add_category("main", "Bank");
   company.add_category("till", "Bank", "main");
@@ -102,21 +107,21 @@ TEST(UpdateAccounts, TheBankPassIsForBanksAndTheirOwnRows) {
   Post(company, "main", new_year, D(2));
   Post(company, "till", new_year, D(7));
   Post(company, "asset", new_year, D(9));
-  company.session->RecalcAll = true;
   Update_Accounts(*company.session, Categories::Bank);
-  EXPECT_EQ(Figures(company, "main"), "42/40");
+  EXPECT_EQ(Figures(company, "main"), "49/40") << "as in the list of categories, with all below";
   EXPECT_EQ(Figures(company, "till"), "7/0");
   EXPECT_EQ(Figures(company, "asset"), "null/null");
-  EXPECT_FALSE(company.session->RecalcAll);
   EXPECT_TRUE(company.prompts.labels.empty());
 }
 
-TEST(UpdateAccounts, WritesOnlyWhatChanged) {
+TEST(UpdateAccounts, WritesOnlyWhatChangedAndNoHistory) {
   TestCompany company;
   Post(company, "0SS", new_year, D(5));
-  Update_Accounts(*company.session);
   auto newest = [&] { return store::List_Actions(company.db(), 1).front().number; };
   int64_t before = newest();
+  Update_Accounts(*company.session);
+  Update_Customers(*company.session);
+  EXPECT_EQ(Figures(company, "0SS"), "5/0");
   auto other = company.another_user();
   store::Transaction busy(*other->dbCompany, "Somebody is writing");
   Update_Accounts(*company.session);
@@ -146,27 +151,22 @@ TEST(FixAccounts, SetsTheYearsEndOfAllCategoriesAndNoBalance) {
 /// The balance pass as bookkeepers describe it: category by category, row by row.
 class RowByRow {
  public:
-  RowByRow(TestCompany& company, bool recalc_all) : db_(company.db()), recalc_all_(recalc_all) {}
+  explicit RowByRow(TestCompany& company) : db_(company.db()) {}
 
-  std::string figures(const std::string& id, Categories which) {
+  std::string figures(const std::string& id) {
     auto category = db_.OpenRecordset("SELECT * FROM Accounts WHERE CatID = ?", {id});
     credit_normal_ = Is_Credit_Normal(category["AccountType"].text());
-    Value carried = category["LastYearEndBal"].value();
-    Money balance = recalc_all_ ? Money() : carried.money();
-    std::string condition = "(Account = '" + id + "'" + (which == Categories::All ? below(id) : "") + ")";
-    if (!recalc_all_) condition += " AND Date >= #1/1/2026#";
-    auto rows = db_.OpenRecordset("SELECT * FROM Transactions WHERE " + condition + " ORDER BY Date,TransNum");
-    bool marker = recalc_all_;
-    if (rows.Eof() && marker) carried = balance;
-    if (!rows.Eof() && this_year(rows)) carried = balance, marker = false;
+    Money balance, carried;
+    auto rows = db_.OpenRecordset("SELECT * FROM Transactions WHERE (Account = '" + id + "'" + below(id) +
+                                  ") ORDER BY Date,TransNum");
+    bool year_ends = true;
+    if (!rows.Eof() && this_year(rows)) year_ends = false;
     while (!rows.Eof()) {
-      if (recalc_all_ || this_year(rows)) balance += effect(rows);
+      balance += effect(rows);
       rows.MoveNext();
-      if (which == Categories::Bank && recalc_all_ && !rows.Eof() && before_this_year(rows)) carried = balance;
-      if (!rows.Eof() && marker && this_year(rows)) carried = balance, marker = false;
-      if (rows.Eof() && marker) carried = balance;
+      if (year_ends && (rows.Eof() || this_year(rows))) carried = balance, year_ends = false;
     }
-    return balance.to_text() + "/" + (carried.is_null() ? "null" : carried.text());
+    return balance.to_text() + "/" + carried.to_text();
   }
 
   std::string fixed_year_end(const std::string& id) {
@@ -184,10 +184,6 @@ class RowByRow {
     auto date = row["Date"].maybe_date();
     return date && date->year() == 2026;
   }
-  bool before_this_year(store::Recordset& row) {
-    auto date = row["Date"].maybe_date();
-    return date && date->year() < 2026;
-  }
   Money effect(store::Recordset& row) {
     Money debit = row["Debit"].money(), credit = row["Credit"].money();
     return credit_normal_ ? credit - debit : debit - credit;
@@ -200,7 +196,7 @@ class RowByRow {
     return clause;
   }
   store::Database& db_;
-  bool recalc_all_, credit_normal_ = false;
+  bool credit_normal_ = false;
 };
 
 class RandomLedger {
@@ -237,16 +233,15 @@ class RandomLedger {
   std::mt19937 random_;
 };
 
-void Expect_Same(RandomLedger& ledger, bool recalc_all, Categories which) {
+void Expect_Same(RandomLedger& ledger, Categories which) {
   TestCompany& company = ledger.company;
   std::map<std::string, std::string> expected;
   for (const auto& id : ledger.ids) {
     auto row = company.db().OpenRecordset("SELECT * FROM Accounts WHERE CatID = ?", {id});
     bool wanted = which == Categories::All || row["AccountType"].text() == "Bank";
     bool left_alone = row["Dormant"].flag() || Is_Profit_And_Loss(row["AccountType"].text()) || !wanted;
-    expected[id] = left_alone ? Figures(company, id) : RowByRow(company, recalc_all).figures(id, which);
+    expected[id] = left_alone ? Figures(company, id) : RowByRow(company).figures(id);
   }
-  company.session->RecalcAll = recalc_all;
   Update_Accounts(*company.session, which);
   for (const auto& id : ledger.ids) EXPECT_EQ(Figures(company, id), expected[id]) << id;
 }
@@ -255,15 +250,14 @@ TEST(UpdateAccounts, AgreesWithTheWalkRowByRow) {
   for (unsigned seed = 1; seed <= 12; ++seed) {
     SCOPED_TRACE("seed " + std::to_string(seed));
     RandomLedger ledger(seed);
-    Expect_Same(ledger, seed % 2 == 0, Categories::Bank);
-    Expect_Same(ledger, false, Categories::All);
-    Expect_Same(ledger, true, Categories::All);
+    Expect_Same(ledger, Categories::Bank);
+    Expect_Same(ledger, Categories::All);
 
     Fix_Accounts(*ledger.company.session);
     for (const auto& id : ledger.ids) {
       auto row = ledger.company.db().OpenRecordset("SELECT * FROM Accounts WHERE CatID = ?", {id});
       if (Is_Profit_And_Loss(row["AccountType"].text())) continue;
-      EXPECT_EQ(row["LastYearEndBal"].text(), RowByRow(ledger.company, true).fixed_year_end(id)) << id;
+      EXPECT_EQ(row["LastYearEndBal"].text(), RowByRow(ledger.company).fixed_year_end(id)) << id;
     }
   }
 }
@@ -294,14 +288,14 @@ TEST(UpdateCustomers, OweTheirInvoicesLessTheirPayments) {
   Sell(company, "Paid up", "Payment", {}, D(10));
   Sell(company, "Gone", "Invoice", D(10), {});
   Update_Customers(*company.session);
-  EXPECT_EQ(Balance_Of(company, "Customers", "O'Brien"), "75") << "a row with a debit does not count its credit";
+  EXPECT_EQ(Balance_Of(company, "Customers", "O'Brien"), "1075") << "a row with a debit does not count its credit";
   EXPECT_EQ(Balance_Of(company, "Customers", "Paid up"), "0");
   EXPECT_EQ(Balance_Of(company, "Customers", "Idle"), "0");
   EXPECT_EQ(Balance_Of(company, "Customers", "Gone"), "55");
   EXPECT_EQ(company.prompts.labels, std::vector<std::string>{"Updating Customers"});
 }
 
-TEST(UpdateVendors, AreOwedTheirUnpaidBillsAndKeepTheLastFigureWithoutAny) {
+TEST(UpdateVendors, AreOwedWhatIsUnpaidOfTheirBills) {
   TestCompany company;
   for (auto name : {"Acme", "O'Brien", "Settled", "Zero"})
     company.run("INSERT INTO Vendors (Name, Balance) VALUES (?, ?)", {name, D(55)});
@@ -313,12 +307,36 @@ TEST(UpdateVendors, AreOwedTheirUnpaidBillsAndKeepTheLastFigureWithoutAny) {
   Sell(company, "Acme", "Credit", D(1000), {}, "AP1");
   Sell(company, "Zero", "Bill", {}, {}, "AP1");
   company.run("UPDATE Transactions SET Paid = True WHERE Name = 'Settled'");
+  company.run("UPDATE Transactions SET TransNum = 2 WHERE Name = 'O''Brien'");
+  company.run("INSERT INTO Applied (Payment, Document, Amount) VALUES (9, 2, ?)", {D(4)});
   Update_Vendors(*company.session);
   EXPECT_EQ(Balance_Of(company, "Vendors", "Acme"), "20");
-  EXPECT_EQ(Balance_Of(company, "Vendors", "O'Brien"), "55");
-  EXPECT_EQ(Balance_Of(company, "Vendors", "Settled"), "55");
+  EXPECT_EQ(Balance_Of(company, "Vendors", "O'Brien"), "16") << "paid in part";
+  EXPECT_EQ(Balance_Of(company, "Vendors", "Settled"), "0");
   EXPECT_EQ(Balance_Of(company, "Vendors", "Zero"), "0");
   EXPECT_EQ(company.prompts.labels, std::vector<std::string>{"Updating Vendors"});
+}
+
+// --- held against the ledger ---------------------------------------------------------------------
+
+TEST(FalseBalances, AreFoundUnlessAPassIsDue) {
+  TestCompany company;
+  const auto passes = [&] {
+    Update_Accounts(*company.session), Update_Customers(*company.session), Update_Vendors(*company.session);
+  };
+  company.run("INSERT INTO Customers (Name) VALUES ('Jones')");
+  Post(company, "0SS", new_year, D(5));
+  EXPECT_TRUE(False_Balances(company.db()).empty()) << "a pass is due";
+  passes();
+  EXPECT_TRUE(False_Balances(company.db()).empty());
+  company.run("UPDATE Accounts SET Balance = ? WHERE CatID = '0SS'", {D(9)});
+  company.run("UPDATE Accounts SET LastYearEndBal = ? WHERE CatID = '1SS'", {D(8)});
+  company.run("UPDATE Customers SET Balance = ?", {D(7)});
+  EXPECT_EQ(False_Balances(company.db()), (std::vector<std::string>{"Checking: 9, but 5 in the ledger",
+                                                                    "Savings at the year's end: 8, but 0 in the ledger",
+                                                                    "Jones: 7, but 0 in the ledger"}));
+  passes();
+  EXPECT_TRUE(False_Balances(company.db()).empty());
 }
 
 }  // namespace

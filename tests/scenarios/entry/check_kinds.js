@@ -17,6 +17,8 @@ function bank(number, type, name, amount, category) {
 bank(1, "Billcheck", "Acme Supply", 300, "AP1");
 write({TransNum: 1, Type: "Billcheck", Date: "2026-03-01", Number: "n1", Name: "Acme Supply", Account: "AP1", Category: "0SS",
        Debit: 300 * money, Credit: 0, Amount: 300 * money});
+write({TransNum: 9, Type: "Ledger Entry", Date: "2026-03-09", Number: "n9", Name: "Acme Supply", Account: "AP1", Category: "0SS",
+       Debit: 100 * money, Credit: 0, Amount: 100 * money});
 for (const bill of [[20, "B-20", "1;"], [21, "B-21", "1;9;"]]) {
   write({TransNum: bill[0], Type: "Bill", Date: "2026-02-01", DueDate: "2026-03-03", Number: bill[1], Name: "Acme Supply",
          Account: "AP1", Category: "42SS", Credit: 100 * money, Debit: 0, Amount: 100 * money, Paid: -1, PaidBy: bill[2]});
@@ -95,5 +97,5 @@ box("Transaction Cleared", null, "Yes");
 click(again.cmdDelete);
 equal(ledger(1), []);
 equal(rows("SELECT TransNum, Paid, PaidBy FROM Transactions WHERE Type = 'Bill' ORDER BY TransNum"),
-      [{TransNum: 20, Paid: false, PaidBy: null}, {TransNum: 21, Paid: true, PaidBy: "1;9;"}]);
+      [{TransNum: 20, Paid: false, PaidBy: null}, {TransNum: 21, Paid: true, PaidBy: "9;"}]);
 equal(log(), []);
