@@ -19,7 +19,8 @@ constexpr int waiting_for_deposit = 4;  // days: the last payments still lie in 
 /// The people of the company and what each does on a day.
 class Year {
  public:
-  explicit Year(Books& books) : books_(books), sales_(books), purchases_(books), payroll_(books), general_(books) {}
+  Year(Books& books, store::Database& accounts)
+      : books_(books), sales_(books), purchases_(books), payroll_(books, accounts), general_(books) {}
 
   void Run();
 
@@ -145,7 +146,7 @@ void Write_Demo_Company(Session& session, const DemoOptions& options) {
   demo::Write_Company_Info(db, options.name);
   demo::Books books(db, options);
   demo::Without_Indexes ledger(db, books.plan.bulk);
-  demo::Year(books).Run();
+  demo::Year(books, *session.dbAccounts).Run();
   ledger.Make_Again();
   Note_All_Numbers(db);
   load.commit();

@@ -4,16 +4,13 @@
 #include <cstdio>
 
 #include "demo/rows.h"
-#include "demo/withholding.h"
 
 namespace tallymere::demo {
 namespace {
 
 constexpr int friday = 6;
 constexpr int days_from_period_to_payday = 5;  // the period ends on the Sunday before
-constexpr Money social_limit = Money::dollars(184500);
-constexpr Money federal_unemployment_limit = Money::dollars(7000);
-constexpr Money state_unemployment_limit = Money::dollars(14250);
+constexpr int pay_periods = 26;
 
 Money Cents_Of(Money base, double rate) { return base.times(rate).rounded_to_cents(); }
 
@@ -30,18 +27,11 @@ bool Is_Quarterly(std::string_view item) {
 
 }  // namespace
 
-Payroll::Payroll(Books& books) : books_(books), staff_(books) {}
+Payroll::Payroll(Books& books, store::Database& accounts) : books_(books), accounts_(accounts), staff_(books) {}
 
-Money Payroll::Slip::gross() const {
-  Money sum;
-  for (const Share& share : earned) sum += share.amount;
-  return sum;
-}
-
-Money Payroll::Slip::net() const {
-  Money sum = gross();
-  for (const Share& share : withheld) sum -= share.amount;
-  return sum;
+void Payroll::Write_Lists() {
+  staff_.Write_Employees(books_.db);
+  staff_.Learn_Facts(books_.db, accounts_);
 }
 
 // --- paychecks -----------------------------------------------------------------------------------
@@ -50,85 +40,78 @@ void Payroll::Pay_If_Payday() {
   if (books_.day.weekday() != friday || days_between(books_.plan.first, books_.day) / 7 % 2 != 0) return;
   for (Employee& person : staff_.employees) {
     if (person.released && *person.released < books_.day) continue;
-    if (person.year != books_.day.year()) person.year = books_.day.year(), person.year_gross = Money();
-    const Slip slip = Work_Out(person, books_.day);
-    Write_Paycheck(person, slip);
-    person.year_gross += slip.gross();
+    if (person.year != books_.day.year()) person.year = books_.day.year(), person.facts.earned_this_year = {};
+    const Paycheck check = Work_Out(person, books_.day);
+    Write_Paycheck(person, check);
+    for (const EarningRow& row : check.grdEarnings)
+      for (const SummaryRow& line : check.grdEmployee)
+        if (line.Name == row.Name) Earned(person, row.Name, line.amount().cents());
   }
   Write_History(books_.day.plus_days(-days_from_period_to_payday));
 }
 
-Payroll::Slip Payroll::Work_Out(Employee& person, Date payday) {
-  Slip slip;
-  Add_Earnings(slip, person, payday);
-  Add_Taxes(slip, person);
-  return slip;
+void Payroll::Earned(Employee& person, std::string_view item, Money amount) {
+  person.facts.earned_this_year.add({std::string(item), person.ss_num, person.year, 0, {amount, 0, 1}});
 }
 
-void Payroll::Add_Earnings(Slip& slip, const Employee& person, Date payday) {
+Paycheck Payroll::Work_Out(Employee& person, Date payday) {
+  Paycheck check;
+  Add_Earnings(check, person, payday);
+  for (const EmployeeLine& line : person.facts.employee.adjustments)
+    check.grdOtherItems.push_back({line.item, line.AmountRate.value_or(""), "", ""});
+  Calculate(check, person.facts);
+  return check;
+}
+
+void Payroll::Add_Earnings(Paycheck& check, const Employee& person, Date payday) {
   Random& random = books_.random;
+  auto add = [&check](std::string_view wage, Money rate, double hours) {
+    check.grdEarnings.push_back({std::string(wage), rate.to_text(), Exact::of(hours).text()});
+  };
   if (person.salaried) {
-    slip.earned.push_back({pay_items::salary, person.rate.times(1.0 / pay_periods).rounded_to_cents(), 0});
+    check.grdEarnings.push_back({std::string(pay_items::salary), (Exact(person.rate) / pay_periods).cell(), ""});
   } else {
     const double sick = random.chance(6) ? 8 : 0, extra = random.chance(20) ? random.between(1, 8) : 0;
-    slip.earned.push_back({pay_items::hourly, Cents_Of(person.rate, 80 - sick), 80 - sick});
-    if (sick > 0) slip.earned.push_back({pay_items::sick, Cents_Of(person.rate, sick), sick});
-    if (extra > 0) slip.earned.push_back({pay_items::overtime, Cents_Of(person.rate, 1.5 * extra), extra});
+    add(pay_items::hourly, person.rate, 80 - sick);
+    if (sick > 0) add(pay_items::sick, person.rate, sick);
+    if (extra > 0) add(pay_items::overtime, person.rate.times(1.5), extra);
   }
   if (payday.month() == 12 && payday.day() > 7 && payday.day() <= 21)
-    slip.earned.push_back({pay_items::bonus, Money::dollars(250), 0});
+    check.grdOtherItems.push_back({std::string(pay_items::bonus), "250.00", "", ""});
 }
 
-void Payroll::Add_Taxes(Slip& slip, const Employee& person) {
-  const Money gross = slip.gross();
-  const Money saved = person.in_plan ? Cents_Of(gross, retirement_rate) : Money();
-  const Money taxable = gross - saved;
-  auto withhold = [&slip](std::string_view item, Money amount) {
-    if (!amount.is_zero()) slip.withheld.push_back({item, amount, 0});
-  };
-  auto contribute = [&slip](std::string_view item, Money amount) {
-    if (!amount.is_zero()) slip.company.push_back({item, amount, 0});
-  };
-  withhold(pay_items::retirement, saved);
-  withhold(pay_items::health, person.insured ? Money::dollars(85) : Money());
-  withhold(pay_items::federal, Federal_Withholding(taxable, person.married, person.allowances));
-  const Money social = Cents_Of(Under_Limit(gross, person.year_gross, social_limit), 0.062);
-  withhold(pay_items::social_employee, social);
-  withhold(pay_items::medicare_employee, Cents_Of(gross, 0.0145));
-  withhold(pay_items::state_tax, Illinois_Withholding(taxable, person.allowances));
-  contribute(pay_items::match, person.in_plan ? Cents_Of(gross, match_rate) : Money());
-  contribute(pay_items::social_company, social);
-  contribute(pay_items::medicare_company, Cents_Of(gross, 0.0145));
-  const Money state_base = Under_Limit(gross, person.year_gross, state_unemployment_limit);
-  contribute(pay_items::federal_unemployment,
-             Cents_Of(Under_Limit(gross, person.year_gross, federal_unemployment_limit), 0.006));
-  contribute(pay_items::state_unemployment, Cents_Of(state_base, state_unemployment_rate));
-  contribute(pay_items::training, Cents_Of(state_base, training_rate));
-}
-
-void Payroll::Post(Document& check, const Share& share, std::string_view bank, bool wage) {
+void Payroll::Post(Document& check, const Share& share, std::string_view bank, Summary summary) {
   const Pay_Item& item = staff_.item(share.item);
-  if (!item.expense.empty()) {
-    Posting& row = check.add({.account = item.expense, .category = bank, .debit = share.amount});
+  const PayItem& known = staff_.employees.front().facts.items->item(share.item);
+  for (const PostedSide& side : Sides_Of(PayrollPosting::Balanced, known, share.amount, summary)) {
+    const bool owed = side.Account == item.liability;
+    Posting& row = check.add({.account = owed ? std::string_view(item.liability) : std::string_view(item.expense),
+                              .category = bank,
+                              .debit = side.Debit,
+                              .credit = side.Credit});
     row.payroll_item = item.name;
-    if (wage) row.hours = share.hours;
+    if (known.type() == ItemType::Wage) row.hours = share.hours;
+    if (owed) Owe(item.name, side.Credit - side.Debit);
   }
-  if (item.liability.empty()) return;
-  check.add({.account = item.liability, .category = bank, .credit = share.amount}).payroll_item = item.name;
-  Owe(item.name, share.amount);
 }
 
-void Payroll::Write_Paycheck(const Employee& person, const Slip& slip) {
+void Payroll::Write_Paycheck(const Employee& person, const Paycheck& slip) {
   const std::string_view bank = books_.chart.checking;
   const Date end = books_.day.plus_days(-days_from_period_to_payday);
   Document& check = books_.Open_Check("Paycheck", person.name, person.address);
   check.ss_num = person.ss_num;
   check.class_name = person.class_name;
   check.pay_period = Padded(end.plus_days(-13)) + " - " + Padded(end);
-  check.add({.account = bank, .category = break_down, .credit = slip.net()});
-  for (const Share& share : slip.earned) Post(check, share, bank, share.item != pay_items::bonus);
-  for (const Share& share : slip.withheld) Post(check, share, bank, false);
-  for (const Share& share : slip.company) Post(check, share, bank, false);
+  std::string_view memo;
+  for (const OtherItemRow& row : slip.grdOtherItems)
+    if (const Pay_Item& item = staff_.item(row.Item); !item.number.empty()) memo = item.number;
+  check.add({.account = bank, .category = break_down, .credit = slip.lblTotal, .memo = memo});
+  for (size_t at = 0; at < slip.grdEmployee.size(); ++at) {
+    const double hours =
+        at < slip.grdEarnings.size() ? First_Number(slip.grdEarnings[at].Hours).money().to_double() : 0;
+    Post(check, {slip.grdEmployee[at].Name, slip.grdEmployee[at].amount().cents(), hours}, bank, Summary::Employee);
+  }
+  for (const SummaryRow& row : slip.grdCompany) Post(check, {row.Name, row.amount().cents()}, bank, Summary::Company);
   books_.Close(check);
 }
 
@@ -156,15 +139,15 @@ void Payroll::Set_Up_Year() {
     Document& set_up = books_.Open("YTD Adjust");
     set_up.name = person.name;
     set_up.ss_num = person.ss_num;
-    Slip slip;
-    slip.earned.push_back({person.salaried ? pay_items::salary : pay_items::hourly, gross, 0});
-    slip.withheld = {{pay_items::social_employee, social}, {pay_items::medicare_employee, medicare}};
-    slip.company = {{pay_items::social_company, social}, {pay_items::medicare_company, medicare}};
-    for (const auto* shares : {&slip.earned, &slip.withheld, &slip.company})
-      for (const Share& share : *shares) Post(set_up, share, opening_equity, false);
-    set_up.add({.account = opening_equity, .category = break_down, .credit = slip.net()});
+    const std::string_view wage = person.salaried ? pay_items::salary : pay_items::hourly;
+    Post(set_up, {wage, gross}, opening_equity, Summary::Employee);
+    Post(set_up, {pay_items::social_employee, -social}, opening_equity, Summary::Employee);
+    Post(set_up, {pay_items::medicare_employee, -medicare}, opening_equity, Summary::Employee);
+    Post(set_up, {pay_items::social_company, -social}, opening_equity, Summary::Company);
+    Post(set_up, {pay_items::medicare_company, -medicare}, opening_equity, Summary::Company);
+    set_up.add({.account = opening_equity, .category = break_down, .credit = gross - social - medicare});
     person.year = first.year();
-    person.year_gross = gross;
+    Earned(person, wage, gross);
     books_.Close(set_up);
   }
 }

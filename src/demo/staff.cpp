@@ -114,4 +114,14 @@ void Staff::Write_Employees(store::Database& db) const {
   }
 }
 
+void Staff::Learn_Facts(store::Database& db, store::Database& accounts) {
+  for (Employee& person : employees)
+    person.facts = {.employee = *Find_Employee_By_Number(db, person.ss_num),
+                    .items = PayItems::Of(db),
+                    .tables = TaxTables::Of(accounts),
+                    .rule = PayrollPosting::Balanced,
+                    .earned_this_year = {},
+                    .paid_this_year = {}};
+}
+
 }  // namespace tallymere::demo

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "demo/books.h"
+#include "payroll/calc/calculate.h"
 
 namespace tallymere::demo {
 
@@ -19,10 +20,6 @@ inline constexpr std::string_view federal = "Federal Withholding", social_employ
                                   medicare_company = "Medicare Company", federal_unemployment = "Federal Unemployment";
 }  // namespace pay_items
 
-inline constexpr double retirement_rate = 0.04, match_rate = 0.02;
-inline constexpr double state_unemployment_rate = 0.0335;  // Illinois, new employers, 2026
-inline constexpr double training_rate = 0.001;
-
 /// What a pay run must know of a payroll item: where it posts, and whom it is owed to.
 struct Pay_Item {
   std::string name, expense, liability, agency, number;
@@ -37,7 +34,7 @@ struct Employee {
   int allowances = 0;
   Date hired;
   std::optional<Date> released;
-  Money year_gross;  ///< paid so far in `year`
+  PayFacts facts;  ///< what a paycheck is calculated by, with what was earned so far in `year`
   int year = 0;
 
   explicit Employee(Date day) : hired(day) {}
@@ -50,6 +47,8 @@ struct Staff {
   explicit Staff(Books& books);
   const Pay_Item& item(std::string_view name) const;
   void Write_Employees(store::Database& db) const;
+  /// Once they are written: how their paychecks are calculated.
+  void Learn_Facts(store::Database& db, store::Database& accounts);
 
  private:
   void Hire(Books& books);

@@ -6,6 +6,7 @@
 #include "core/ledger/balances.h"
 #include "core/ledger/verify.h"
 #include "core/values/text.h"
+#include "payroll/paychecks.h"
 #include "support/test_company.h"
 
 namespace tallymere {
@@ -201,6 +202,31 @@ TEST_F(DemoCompany, PaychecksWithholdByLaw) {
   EXPECT_EQ(value("SELECT COUNT(*) FROM Transactions WHERE Type = 'Paycheck' AND NOT EXISTS (SELECT 1 FROM PayHistory"
                   " WHERE Employee = Transactions.Name AND PayCheckDate = Transactions.Date AND Paid = 'Yes')"),
             "0");
+}
+
+/// A paycheck of the sample company is what the program makes of it: opened again and calculated, its amounts are the
+/// same. The unemployment taxes go by the year's wages of today and are left out.
+TEST_F(DemoCompany, PaychecksAreTheProgramsOwn) {
+  std::vector<int64_t> numbers;
+  each("SELECT DISTINCT TransNum FROM Transactions WHERE Type = 'Paycheck' ORDER BY TransNum",
+       [&](const Row& row) { numbers.push_back(row.integer(0)); });
+  ASSERT_GT(numbers.size(), 60U);
+  auto amounts = [](const Paycheck& check) {
+    std::map<std::string, std::string> all;
+    for (const auto* grid : {&check.grdEmployee, &check.grdCompany})
+      for (const SummaryRow& row : *grid)
+        if (!contains(row.Name, "Unemployment")) all[row.Name] = row.Amount;
+    return all;
+  };
+  for (const int64_t number : numbers) {
+    auto entry = Open_Paycheck(*company_->session, number);
+    ASSERT_TRUE(entry) << number;
+    const auto kept = amounts(entry->check);
+    const Money total = entry->check.lblTotal;
+    Calculate(entry->check, entry->facts);
+    ASSERT_EQ(amounts(entry->check), kept) << number;
+    EXPECT_EQ(entry->check.lblTotal, total) << number;
+  }
 }
 
 /// What stands open as of PaidThrough, counted as the liability windows count, is nothing once a check is
