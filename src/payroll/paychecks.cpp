@@ -80,7 +80,8 @@ std::optional<Fault> Run_Fault(const PayRunHead& run) {
 
 NewPaycheck New_Paycheck(Session& session, const PayRunHead& run, const PayRunRow& row) {
   const auto period = Period_Bounds(row.PayPeriod, run.pay_end, run.pay_date);
-  if (!period) return {{}, Box{"Please Select a Pay Period for this Employee.", "No Pay Period"}};
+  if (!period)
+    return {{}, Box{"Please Select a Pay Period for this Employee.", "No Pay Period", Icon::Information, row.Employee}};
   auto employee = Find_Employee_By_Name(*session.dbCompany, row.Employee);
   if (!employee)
     throw store::Error(store::errors::no_current_record,

@@ -69,6 +69,7 @@ struct PayrollCompany : TestCompany {
     return Money::from_units(
         db().value("SELECT SUM(Debit) - SUM(Credit) + 0 FROM Transactions WHERE TransNum = ?", {TransNum}).integer());
   }
+  int64_t found_off_balance() { return std::ranges::count(Verify_Company(db()), "balance", &Finding::check); }
 };
 
 TEST(Posting, APaycheckIsItsRows) {
@@ -167,8 +168,15 @@ TEST(Posting, UnderThePlainRuleWhatDoesNotBalanceHasAName) {
             std::vector<std::string>{"Federal Withholding (12.00) is given back, but posts as if it was taken."});
   Post_Paycheck(*acme.session, given_back);
   EXPECT_EQ(acme.off_balance(given_back.TransNum), Dollars(-24));
+  EXPECT_EQ(acme.found_off_balance(), 0) << "both are known patterns of the plain rule";
+  acme.run("UPDATE Transactions SET Debit = Debit + 10000 WHERE PayrollItem = 'Salary' AND TransNum = ?",
+           {given_back.TransNum});
+  EXPECT_EQ(acme.found_off_balance(), 1) << "a dollar more is not";
+  acme.run("UPDATE Transactions SET Debit = Debit - 10000 WHERE PayrollItem = 'Salary' AND TransNum = ?",
+           {given_back.TransNum});
 
   acme.rule("Balanced");
+  EXPECT_EQ(acme.found_off_balance(), 2) << "which books that balance do not have";
   PaycheckEntry balanced = acme.opened("Ann");
   Calculate(balanced.check, balanced.facts);
   balanced.check.grdEmployee[1].Amount = "12.00";

@@ -1,5 +1,6 @@
 #include "core/ledger/verify.h"
 
+#include "core/company/preferences.h"
 #include "core/company/schema.h"
 #include "core/names/name_faults.h"
 #include "core/store/sql.h"
@@ -36,16 +37,64 @@ Findings File_Is_Sound(Database& db) {
   return found;
 }
 
+/// Why a paycheck may be off balance in a company that keeps to the plain posting pattern ("" when it may not): the
+/// names of docs/bookkeeping.md. `off` is its debits less its credits.
+std::string Plain_Pattern(Database& db, int64_t TransNum, Money off) {
+  if (Preference(db, "PayrollPosting") == "Balanced") return "";
+  auto sum = [&](const char* rows) {
+    return Money::from_units(db.value("SELECT SUM(t.Debit) + 0 FROM Transactions AS t JOIN PayrollItems AS p"
+                                      " ON p.Name = t.PayrollItem WHERE t.TransNum = ? AND " +
+                                          std::string(rows),
+                                      {TransNum})
+                                 .integer());
+  };
+  const Money contributed = sum("p.Type = 'Company Contribution'");
+  const Money twice = sum("p.Type LIKE '*Tax' AND p.TaxPaid = 'Employee Paid Tax'");
+  const Money rest = off + contributed - twice;
+  if (rest.is_zero()) return contributed.is_zero() ? "withheld item posted twice" : "company contribution paid out";
+  const bool given_back = !db.value(
+                                 "SELECT RowKey FROM Transactions WHERE TransNum = ? AND PayrollItem IS NOT NULL"
+                                 " AND Credit * 2 = ? LIMIT 1",
+                                 {TransNum, -rest})
+                               .is_null();
+  return given_back ? "withholding given back" : "";
+}
+
+/// A liability adjustment of what an employee pays has one row under the plain pattern.
+bool Is_Plain_Adjustment(Database& db, int64_t TransNum) {
+  return Preference(db, "PayrollPosting") != "Balanced" &&
+         !db.value(
+                "SELECT t.RowKey FROM Transactions AS t JOIN PayrollItems AS p ON p.Name = t.PayrollItem"
+                " WHERE t.TransNum = ? AND t.Type = 'Liability Adjust' AND IFNULL(p.ExpenseAcct, '') = '' LIMIT 1",
+                {TransNum})
+              .is_null();
+}
+
+/// Whether a difference is one of the named patterns of payroll.
+bool Is_Known_Difference(Database& db, int64_t TransNum, const std::string& type, Money off) {
+  if (type == "Paycheck") return !Plain_Pattern(db, TransNum, off).empty();
+  return type == "Liability Adjust" && Is_Plain_Adjustment(db, TransNum);
+}
+
 /// The sale of an inventory part stands twice more in the ledger, on its cost and on its income, marked by SourceName.
 Findings Transactions_Balance(Database& db) {
-  return Examples(
-      db,
-      "SELECT TransNum, MAX(Type), SUM(IFNULL(Debit, 0)), SUM(IFNULL(Credit, 0)) FROM Transactions"
-      " WHERE SourceName IS NULL OR SourceName <> 'Inventory Part' GROUP BY TransNum HAVING SUM(IFNULL(Debit, 0)) <> SUM(IFNULL(Credit, 0))",
-      [](const Row& row) {
-        return Text(row, 1) + " " + Text(row, 0) + ": debits " + row.money(2).to_text() + ", credits " +
-               row.money(3).to_text();
+  std::string known;  // numbers, for the query below
+  db.each(
+      "SELECT TransNum, MAX(Type), SUM(IFNULL(Debit, 0)) - SUM(IFNULL(Credit, 0)) FROM Transactions"
+      " WHERE Type IN ('Paycheck', 'Liability Adjust') GROUP BY TransNum"
+      " HAVING SUM(IFNULL(Debit, 0)) <> SUM(IFNULL(Credit, 0))",
+      {}, [&](const Row& row) {
+        if (Is_Known_Difference(db, row.integer(0), Text(row, 1), row.money(2)))
+          known += (known.empty() ? "" : ", ") + Text(row, 0);
       });
+  return Examples(db,
+                  "SELECT TransNum, MAX(Type), SUM(IFNULL(Debit, 0)), SUM(IFNULL(Credit, 0)) FROM Transactions"
+                  " WHERE (SourceName IS NULL OR SourceName <> 'Inventory Part') AND TransNum NOT IN (" +
+                      known + ") GROUP BY TransNum HAVING SUM(IFNULL(Debit, 0)) <> SUM(IFNULL(Credit, 0))",
+                  [](const Row& row) {
+                    return Text(row, 1) + " " + Text(row, 0) + ": debits " + row.money(2).to_text() + ", credits " +
+                           row.money(3).to_text();
+                  });
 }
 
 Findings One_Document_A_Number(Database& db) {

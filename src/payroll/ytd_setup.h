@@ -1,0 +1,26 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "core/company/session.h"
+
+namespace tallymere {
+
+/// What frmSetupYTD shows: an employee's totals of the time before the books, or a correction of them.
+struct YtdSetup {
+  struct Line {
+    std::string Item = {};
+    std::optional<Money> Amount = {};
+  };
+  std::string SSNum = {}, Employee = {};
+  Date date;
+  std::string BankID = {};  ///< "": to liability and expense categories only, against "Opening Balance Equity"
+  std::vector<Line> lines = {};
+};
+
+/// Writes it as one transaction of type "YTD Adjust"; the fault, when a line is not complete or nobody is chosen.
+std::optional<Fault> Set_Up_Year_To_Date(Session& session, const YtdSetup& setup);
+
+}  // namespace tallymere
