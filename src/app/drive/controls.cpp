@@ -154,6 +154,10 @@ QVariant Property_Of(const QObject& control, const QString& word) {
     const QWidget* focus = QApplication::focusWidget();
     return focus && (focus == widget || widget->isAncestorOf(focus));
   }
+  if (word == QLatin1String("coloured")) {
+    const auto* button = qobject_cast<const QPushButton*>(widget);
+    return button && button->isDefault() && button->isEnabled();
+  }
   if (word == QLatin1String("checked")) {
     const auto* button = qobject_cast<const QAbstractButton*>(widget);
     const auto* group = qobject_cast<const QGroupBox*>(widget);

@@ -76,16 +76,30 @@ void Settle() {
   Wait_Till_Idle();
 }
 
-void Press(Qt::Key key, Qt::KeyboardModifiers modifiers, const QString& text) {
+/// false: a shortcut took it.
+static bool Down(Qt::Key key, Qt::KeyboardModifiers modifiers, const QString& text = {}) {
   const QPointer<QWidget> target = Target();
   if (!target) throw Failed{"nothing has the focus"};
-  if (qt_sendShortcutOverrideEvent(target, 0, key, modifiers, text, false, 1)) return;
+  if (qt_sendShortcutOverrideEvent(target, 0, key, modifiers, text, false, 1)) return false;
   QKeyEvent press(QEvent::KeyPress, key, modifiers, text);
   QApplication::sendEvent(target, &press);
+  return true;
+}
+
+static void Up(Qt::Key key, Qt::KeyboardModifiers modifiers, const QString& text = {}) {
   const QPointer<QWidget> now = Target();
   if (!now) return;
   QKeyEvent release(QEvent::KeyRelease, key, modifiers, text);
   QApplication::sendEvent(now, &release);
+}
+
+void Press(Qt::Key key, Qt::KeyboardModifiers modifiers, const QString& text) {
+  // Alt goes down before the letter, and quick fingers let it go first: the menu bar watches both.
+  const bool with_alt = modifiers & Qt::AltModifier;
+  if (with_alt) Down(Qt::Key_Alt, Qt::AltModifier);
+  const bool down = Down(key, modifiers, text);
+  if (with_alt) Up(Qt::Key_Alt, Qt::NoModifier);
+  if (down) Up(key, modifiers, text);
 }
 
 /// After a mnemonic: until its button came up again.

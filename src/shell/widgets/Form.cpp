@@ -49,11 +49,10 @@ QWidget* next_field(const QWidget* window, QWidget* from) {
   return nullptr;
 }
 
-QPushButton* default_button(const QWidget* window) {
-  for (QPushButton* button : window->findChildren<QPushButton*>())
-    if (button->isDefault() && button->isEnabled() && button->isVisible()) return button;
-  return nullptr;
-}
+/// Grids and boxes of several lines know what to do with Enter.
+bool takes_enter(const QWidget* field) { return qobject_cast<const QAbstractScrollArea*>(field); }
+
+bool can_be_pressed(const QPushButton* button) { return button && button->isEnabled() && button->isVisible(); }
 
 }  // namespace
 
@@ -113,9 +112,11 @@ void Form::showEvent(QShowEvent* event) {
   if (!prepared_) prepare_controls();
   prepared_ = true;
   QWidget::showEvent(event);
+  show_enter_button();
 }
 
-void Form::prepare_controls() {
+/// What nobody named goes by its label's words, else by its own.
+void Form::name_controls() {
   for (QLabel* label : findChildren<QLabel*>())
     if (QWidget* control = label->buddy(); control && control->accessibleName().isEmpty())
       control->setAccessibleName(label->text().remove(QLatin1Char('&')));
@@ -124,10 +125,19 @@ void Form::prepare_controls() {
         control->focusPolicy() != Qt::NoFocus && !control->objectName().startsWith(QStringLiteral("qt_")) &&
         !qobject_cast<QAbstractButton*>(control))
       control->setAccessibleName(control->objectName().mid(3));
+}
+
+void Form::prepare_controls() {
+  name_controls();
   for (QPlainTextEdit* box : findChildren<QPlainTextEdit*>()) box->setTabChangesFocus(true);
   for (QTextEdit* box : findChildren<QTextEdit*>()) box->setTabChangesFocus(true);
+  for (QPushButton* button : findChildren<QPushButton*>())
+    if (button->isDefault()) main_button_ = button;
+  connect(qApp, &QApplication::focusChanged, this, [this] { show_enter_button(); });
   if (const auto size = window_memory::size_of(objectName()); size && isWindow()) resize(*size);
 }
+
+// --- keys ----------------------------------------------------------------------------------------
 
 void Form::keyPressEvent(QKeyEvent* event) {
   const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
@@ -137,16 +147,33 @@ void Form::keyPressEvent(QKeyEvent* event) {
     return event->setAccepted(done);
   }
   if (enter && !(event->modifiers() & ~Qt::KeypadModifier)) return enter_pressed();
-  if (event->key() == Qt::Key_Escape && place_ == Place::Above) return finish(false);
+  if (event->key() == Qt::Key_Escape) return finish(false);
   QWidget::keyPressEvent(event);
 }
 
-/// A letter underlined in this window is its own, also where the frame's menu bar has it too.
+bool Form::control_enter() {
+  if (place_ != Place::Above || !can_be_pressed(main_button_)) return false;
+  press(*main_button_);
+  return true;
+}
+
+/// A letter underlined in this window is its own, also where the frame's menu bar has it too; Ctrl+W closes this
+/// window and none behind it.
+std::function<void()> Form::meaning_of(const QKeyEvent& key) {
+  const auto modifiers = key.modifiers() & ~Qt::KeypadModifier;
+  if (key.key() == Qt::Key_W && modifiers == Qt::ControlModifier) return [this] { finish(false); };
+  if (modifiers != Qt::AltModifier) return {};
+  return Mnemonic_Of(*this, QKeySequence(QKeyCombination(Qt::AltModifier, Qt::Key(key.key()))));
+}
+
+/// The press itself comes next, to whatever has the focus. It is caught there and no sooner: the menu bar must see
+/// that Alt was not pressed alone, or letting go of it would open the menus.
 bool Form::claims(const QKeyEvent& key) {
-  if ((key.modifiers() & ~Qt::KeypadModifier) != Qt::AltModifier) return false;
-  mnemonic_ = Mnemonic_Of(*this, QKeySequence(QKeyCombination(Qt::AltModifier, Qt::Key(key.key()))));
-  if (mnemonic_) qApp->installEventFilter(this);  // the press itself comes next, to whatever has the focus
-  return mnemonic_ != nullptr;
+  mnemonic_ = meaning_of(key);
+  if (!mnemonic_) return false;
+  pressed_on_ = QApplication::focusWidget() ? QApplication::focusWidget() : this;
+  pressed_on_->installEventFilter(this);
+  return true;
 }
 
 bool Form::event(QEvent* event) {
@@ -157,30 +184,41 @@ bool Form::event(QEvent* event) {
 }
 
 bool Form::eventFilter(QObject* watched, QEvent* event) {
-  if (!mnemonic_ || event->type() != QEvent::KeyPress) return QWidget::eventFilter(watched, event);
-  qApp->removeEventFilter(this);
+  if (!mnemonic_ || watched != pressed_on_ || event->type() != QEvent::KeyPress)
+    return QWidget::eventFilter(watched, event);
+  watched->removeEventFilter(this);
   const auto press = std::exchange(mnemonic_, {});
-  if (!(static_cast<QKeyEvent*>(event)->modifiers() & Qt::AltModifier)) return false;
+  if (!(static_cast<QKeyEvent*>(event)->modifiers() & (Qt::AltModifier | Qt::ControlModifier))) return false;
   press();
   return true;
 }
 
-void Form::enter_pressed() {
+QPushButton* Form::enter_button() const {
   QWidget* here = focusWidget();
-  if (!here || here == this) {
-    if (auto* button = default_button(this)) button->click();
-    return;
-  }
-  if (auto* button = qobject_cast<QPushButton*>(here)) return button->click();
+  QPushButton* main = can_be_pressed(main_button_) ? main_button_.data() : nullptr;
+  if (!here || here == this) return main;
+  if (auto* button = qobject_cast<QPushButton*>(here)) return button;
+  if (place_ != Place::Above || takes_enter(here)) return nullptr;
   QWidget* next = next_field(this, here);
-  auto* button = qobject_cast<QPushButton*>(next);
-  QPushButton* ok = default_button(this);
-  if (place_ == Place::Above && ok && (!next || button)) {
-    ok->setFocus(Qt::TabFocusReason);  // the field is left first, as by hand: its lost-focus work runs
-    if (ok->hasFocus() || focusWidget() == ok) ok->click();
-    return;
-  }
-  if (next) next->setFocus(Qt::TabFocusReason);
+  return !next || qobject_cast<QPushButton*>(next) ? main : nullptr;
+}
+
+/// The coloured button is the one that Enter would press now.
+void Form::show_enter_button() {
+  QPushButton* coloured = enter_button();
+  for (QPushButton* button : findChildren<QPushButton*>()) button->setDefault(button == coloured);
+}
+
+/// The field is left first, as by hand: its lost-focus work runs, and may keep the focus.
+void Form::press(QPushButton& button) {
+  button.setFocus(Qt::TabFocusReason);
+  if (button.hasFocus() || focusWidget() == &button) button.click();
+}
+
+void Form::enter_pressed() {
+  if (QPushButton* button = enter_button()) return press(*button);
+  QWidget* here = focusWidget();
+  if (QWidget* next = here ? next_field(this, here) : nullptr) next->setFocus(Qt::TabFocusReason);
 }
 
 }  // namespace tallymere

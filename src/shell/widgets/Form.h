@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QAbstractButton>
+#include <QPointer>
+#include <QPushButton>
 #include <QWidget>
 #include <functional>
 #include <type_traits>
@@ -34,8 +36,9 @@ class Form : public QWidget {
   virtual void unloading() {}
   /// Something in the company changed elsewhere: a table's name.
   virtual void on_changed(const std::string& /*table*/) {}
-  /// Control+Enter anywhere in the window: entry windows save and go on. false: nothing done.
-  virtual bool control_enter() { return false; }
+  /// Control+Enter anywhere in the window: entry windows save and go on, dialogs do what their main button says.
+  /// false: nothing done.
+  virtual bool control_enter();
 
   /// Runs a procedure of this window: a fault of the store shows the program's error box, writes the log line
   /// with window and procedure and leaves the window as it is. false when it failed.
@@ -76,7 +79,7 @@ class Form : public QWidget {
 
   void closeEvent(QCloseEvent* event) override;
   void showEvent(QShowEvent* event) override;
-  void keyPressEvent(QKeyEvent* event) override;  ///< what the controls left over
+  void keyPressEvent(QKeyEvent* event) override;  ///< what the controls left over; docs/keyboard.md
   bool event(QEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -99,14 +102,21 @@ class Form : public QWidget {
       handler();
   }
   void enter_pressed();
+  QPushButton* enter_button() const;  ///< what Enter would press now; nullptr: it goes on to the next field
+  void press(QPushButton& button);
+  void show_enter_button();
   bool claims(const QKeyEvent& key);
+  std::function<void()> meaning_of(const QKeyEvent& key);
+  void name_controls();
   void prepare_controls();
 
   Place place_;
   bool accepted_ = false;
   std::string answer_;
   std::function<void()> mnemonic_;  ///< what the Alt key that is being pressed does here
+  QPointer<QWidget> pressed_on_;    ///< where that key arrives
   bool prepared_ = false;
+  QPointer<QPushButton> main_button_;  ///< a dialog's, as it was built
 };
 
 /// std::string is UTF-8 everywhere; these are the two doors to Qt.
