@@ -2,6 +2,7 @@
 
 #include <QKeyEvent>
 #include <QPushButton>
+#include <QScopedValueRollback>
 #include <algorithm>
 
 #include "core/values/text.h"
@@ -42,13 +43,28 @@ void ListForm::load() {
   grid_->setFocus();
 }
 
+std::set<std::string> ListForm::ids() const {
+  std::set<std::string> all;
+  for (int row = 0; row < grid_->rows(); ++row) all.insert(grid_->text(row, id_column_));
+  return all;
+}
+
+int ListForm::row_of(const std::string& id) const {
+  int row = 0;
+  while (row < grid_->rows() && grid_->text(row, id_column_) != id) ++row;
+  return row;
+}
+
 void ListForm::make_list_again() {
   const Hourglass hourglass(session.prompts);
   const int before = grid_->Row();
-  const std::string id = grid_->text(before, id_column_);
+  std::string id = grid_->text(before, id_column_);
+  const auto known = making_ ? ids() : std::set<std::string>();
   Make_List();
-  int row = 0;
-  while (row < grid_->rows() && grid_->text(row, id_column_) != id) ++row;
+  if (making_)
+    for (const std::string& made : ids())
+      if (!known.contains(made)) id = made;
+  const int row = row_of(id);
   grid_->set_Row(row < grid_->rows() ? row : std::clamp(before, 0, std::max(grid_->rows() - 1, 0)));
 }
 
@@ -71,15 +87,19 @@ void ListForm::edit_row(const char* form, const RowList& rows, const std::string
 
 void ListForm::cmdAction_Click() {
   QWidget* from = cmdAction;
-  if (sender() == grid_) from = grid_;  // at the pointer
-  shell.Popup(menu_.name, *from, disabled(),
-              [this](const std::string& item) { guard((item + "_Click").c_str(), [&] { chosen(item); }); });
+  if (sender() == grid_) from = grid_;  // at the row or the pointer
+  shell.Popup(menu_.name, *from, disabled(), [this](const std::string& item) { do_item(item); });
+}
+
+void ListForm::do_item(const std::string& item) {
+  const QScopedValueRollback making(making_, item == menu_.insert);
+  guard((item + "_Click").c_str(), [&] { chosen(item); });
 }
 
 bool ListForm::run(const std::string& item) {
   const auto off = disabled();
   if (item.empty() || std::ranges::find(off, item) != off.end()) return false;
-  guard((item + "_Click").c_str(), [&] { chosen(item); });
+  do_item(item);
   return true;
 }
 

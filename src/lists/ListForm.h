@@ -1,5 +1,6 @@
 #pragma once
 
+#include <set>
 #include <string>
 #include <vector>
 
@@ -40,7 +41,7 @@ class ListForm : public Form {
   /// The items that do not suit the current row; with no row all but the one for a new row.
   virtual std::vector<std::string> disabled() const { return {}; }
 
-  /// Make_List, with the current row kept.
+  /// Make_List, with the current row kept, or the one that New has just made.
   void make_list_again();
   bool has_row() const { return grid_->Row() >= 0 && grid_->Row() < grid_->rows(); }
   /// Lays the window out; `above_buttons` stands between the grid and the buttons at their left.
@@ -62,9 +63,13 @@ class ListForm : public Form {
  private:
   void cmdAction_Click();
   bool run(const std::string& item);  ///< unless it is disabled now
+  void do_item(const std::string& item);
+  std::set<std::string> ids() const;
+  int row_of(const std::string& id) const;  ///< rows(): there is none
 
   Menu menu_;
   int id_column_ = 0;
+  bool making_ = false;  ///< New is at work: the row it makes is to be the current one
 };
 
 }  // namespace tallymere

@@ -24,10 +24,10 @@ DropDowns::DropDowns(Session& session, QObject* parent)
       drpClass(new SSDBDropDown(this)),
       session_(session),
       small_{{Class_List.table, {Class_List, drpClass}}} {
-  drpExpenseList->set_columns({{.name = QStringLiteral("AccountName")}, {.name = QStringLiteral("Type")}});
-  drpItems->set_columns({{.name = QStringLiteral("ItemName")},
+  drpExpenseList->set_columns({{.name = QStringLiteral("Category")}, {.name = QStringLiteral("Type")}});
+  drpItems->set_columns({{.name = QStringLiteral("Item")},
                          {.name = QStringLiteral("Description"), .width = 30},
-                         {.name = QStringLiteral("PriceRate"), .money = true}});
+                         {.name = QStringLiteral("Price"), .money = true}});
 }
 
 void DropDowns::fill() {

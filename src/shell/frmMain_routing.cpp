@@ -16,6 +16,7 @@
 #include "shell/start/frmCreate.h"
 #include "shell/start/frmStart.h"
 #include "shell/widgets/Form.h"
+#include "shell/widgets/grid/SSDBGrid.h"
 #include "shell/widgets/grid/arrow_pointer.h"
 
 /// From a command to its window.
@@ -95,7 +96,8 @@ void frmMain::Go_To_Transaction(const std::string& type, int64_t number) {
 void frmMain::Popup(const std::string& menu, QWidget& from, const std::vector<std::string>& disabled,
                     std::function<void(const std::string&)> chosen) {
   const bool button = qobject_cast<QPushButton*>(&from) || qobject_cast<QToolButton*>(&from);
-  const QPoint at = button ? from.mapToGlobal(QPoint(0, from.height())) : QCursor::pos();
+  const auto* grid = qobject_cast<SSDBGrid*>(&from);
+  const QPoint at = button ? from.mapToGlobal(QPoint(0, from.height())) : grid ? grid->menu_place() : QCursor::pos();
   menus_->Popup(menu, at, disabled, std::move(chosen));
 }
 

@@ -46,7 +46,8 @@ class Shell {
   /// A transaction report beside those that are open, with the columns that belong to its key unless it names
   /// its own.
   Form* Show_Custom_Report(Request request);
-  /// Pops a context menu of the table: below the button `from`, or at the pointer over anything else.
+  /// Pops a context menu of the table: below the button `from`, where a grid was asked for it (a row or the pointer),
+  /// or at the pointer over anything else.
   /// `chosen` gets the item's name; `disabled` names those that cannot be chosen now.
   virtual void Popup(const std::string& menu, QWidget& from, const std::vector<std::string>& disabled,
                      std::function<void(const std::string& item)> chosen) = 0;

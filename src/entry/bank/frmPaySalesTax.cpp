@@ -43,11 +43,10 @@ void frmPaySalesTax::build() {
   dteQtrDate = named("dteQtrDate", new QuillbrookDatePick);
   SSDBGrid1 = named("SSDBGrid1", new SSDBGrid);
   SSDBGrid1->setAccessibleName(QStringLiteral("Sales taxes"));
-  SSDBGrid1->set_columns(
-      {{.name = QStringLiteral("Select"), .kind = Kind::check, .width = 8},
-       {.name = QStringLiteral("Item"), .locked = true},
-       {.name = QStringLiteral("Vendor"), .locked = true},
-       {.name = QStringLiteral("Amount"), .kind = Kind::money, .width = 14, .locked = true, .mask = "#,##0.00"}});
+  SSDBGrid1->set_columns({{.name = QStringLiteral("Select"), .kind = Kind::check, .width = 8},
+                          {.name = QStringLiteral("Item"), .locked = true},
+                          {.name = QStringLiteral("Vendor"), .locked = true},
+                          {.name = QStringLiteral("Amount"), .kind = Kind::money, .width = 14, .locked = true}});
   SSDBGrid1->set_read_only(false);
   SSDBGrid1->set_empty_hint(QStringLiteral("No item is a sales tax."));
   cmdOk = named("cmdOk", new QPushButton(QStringLiteral("C&reate")));

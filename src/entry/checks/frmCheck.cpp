@@ -141,7 +141,7 @@ void frmCheck::set_bank(const std::string& CatID) {
 }
 
 void frmCheck::show_balance() {
-  lblBalance->setText(qt(Format(Read_Bank(session, utf8(lblBankID->text())).Balance, "$0.00")));
+  lblBalance->setText(qt(Dollar_Text(Read_Bank(session, utf8(lblBankID->text())).Balance)));
 }
 
 void frmCheck::cmbAccount_LostFocus() { set_bank(cmbAccount->Valid() ? cmbAccount->id() : utf8(lblBankID->text())); }

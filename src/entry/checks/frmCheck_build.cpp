@@ -114,7 +114,7 @@ QGroupBox* frmCheck::build_bill() {
                          {.name = QStringLiteral("Number"), .width = 14},
                          {.name = QStringLiteral("Vendor")},
                          {.name = QStringLiteral("Amount"), .kind = Kind::money, .width = 14},
-                         {.name = QStringLiteral("BillDate"), .kind = Kind::date, .width = 12}});
+                         {.name = QStringLiteral("Bill Date"), .kind = Kind::date, .width = 12}});
   grdBills->set_empty_hint(QStringLiteral("No bill names this check alone as its payment."));
   column_layout(fraBill)->addWidget(grdBills);
   return fraBill;
@@ -139,7 +139,7 @@ QGroupBox* frmCheck::build_liability() {
   lblPaidThrough = named("lblPaidThrough", new QLabel);
   grdLiabilities = named("grdLiabilities", new SSDBGrid);
   grdLiabilities->set_columns(
-      {{.name = QStringLiteral("PayrollItem")}, {.name = QStringLiteral("Amount"), .kind = Kind::money, .width = 14}});
+      {{.name = QStringLiteral("Payroll Item")}, {.name = QStringLiteral("Amount"), .kind = Kind::money, .width = 14}});
   cmdLiaEdit = named("cmdLiaEdit", new QPushButton(QStringLiteral("&Edit Liability Check")));
   auto* column = column_layout(fraLiability);
   column->addLayout(figure_row("Paid Through", lblPaidThrough));

@@ -78,7 +78,7 @@ void frmFind::build() {
                           {.name = QStringLiteral("Date"), .kind = Kind::date, .width = 11},
                           {.name = QStringLiteral("Name")},
                           {.name = QStringLiteral("Category")},
-                          {.name = QStringLiteral("Amount"), .kind = Kind::money, .width = 13, .mask = "#,##0.00"},
+                          {.name = QStringLiteral("Amount"), .kind = Kind::money, .width = 13},
                           {.name = QStringLiteral("TransNum"), .kind = Kind::hidden}});
   SSDBGrid1->set_sorting(true);
 

@@ -77,7 +77,7 @@ void Register::Load_Register() {
   Fill(std::max<int64_t>(count_ - filled_at_load, 0), filled_at_load);
 }
 
-std::string Register::lblTotal() const { return Format(ending_, "$0.00;($0.00)"); }
+std::string Register::lblTotal() const { return Dollar_Text(ending_); }
 
 size_t Register::day_of(int64_t row) const {
   auto after = std::ranges::upper_bound(days_, row, {}, &Day::first);

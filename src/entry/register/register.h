@@ -50,7 +50,7 @@ class Register {
 
   const Category& category() const { return category_; }
   Money ending_balance() const { return ending_; }
-  std::string lblTotal() const;  ///< "$0.00;($0.00)"
+  std::string lblTotal() const;  ///< "-$1,234.50"
   int64_t count() const { return count_; }
 
   /// Whether a line has been read. Up to twenty lines all are from the start, else the last twenty.

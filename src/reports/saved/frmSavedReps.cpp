@@ -19,7 +19,8 @@ frmSavedReps::frmSavedReps(Shell& shell_of_frame) : Form(shell_of_frame, "frmSav
   setWindowTitle(QStringLiteral("Saved Reports"));
   grdCustomers = named("grdCustomers", new SSDBGrid);
   grdCustomers->setAccessibleName(QStringLiteral("Saved Reports"));
-  grdCustomers->set_columns({{.name = QStringLiteral("ReportName")}, {.name = {}, .kind = Kind::hidden}});
+  grdCustomers->set_columns({{.name = QStringLiteral("Report Name")}, {.name = {}, .kind = Kind::hidden}});
+  grdCustomers->set_sorting(true);
   grdCustomers->set_empty_hint(QStringLiteral("Save a transaction report, and it stands here."));
   cmdAction = named("cmdAction", new QPushButton(QStringLiteral("&Action")));
   cmdClose = named("cmdClose", new QPushButton(QStringLiteral("&Close")));

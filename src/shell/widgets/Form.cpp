@@ -30,6 +30,18 @@ void select_all(QWidget* control) {
   if (auto* rich = qobject_cast<QTextEdit*>(control)) rich->selectAll();
 }
 
+/// Text that is no longer being written stands in its usual colours.
+void select_nothing(QWidget* control) {
+  const auto drop = [](auto* box) {
+    if (!box) return;
+    QTextCursor cursor = box->textCursor();
+    cursor.clearSelection();
+    box->setTextCursor(cursor);
+  };
+  drop(qobject_cast<QPlainTextEdit*>(control));
+  drop(qobject_cast<QTextEdit*>(control));
+}
+
 /// Brings the tab page or stacked page to the front on which a control stands.
 void show_pages_of(QWidget* control) {
   for (QWidget* inner = control; inner && !inner->isWindow(); inner = inner->parentWidget())
@@ -115,16 +127,11 @@ void Form::showEvent(QShowEvent* event) {
   show_enter_button();
 }
 
-/// What nobody named goes by its label's words, else by its own.
+/// A control goes by the words of its label; what has none is named where it is made.
 void Form::name_controls() {
   for (QLabel* label : findChildren<QLabel*>())
     if (QWidget* control = label->buddy(); control && control->accessibleName().isEmpty())
       control->setAccessibleName(label->text().remove(QLatin1Char('&')));
-  for (QWidget* control : findChildren<QWidget*>())
-    if (control->accessibleName().isEmpty() && control->objectName().size() > 3 &&
-        control->focusPolicy() != Qt::NoFocus && !control->objectName().startsWith(QStringLiteral("qt_")) &&
-        !qobject_cast<QAbstractButton*>(control))
-      control->setAccessibleName(control->objectName().mid(3));
 }
 
 void Form::prepare_controls() {
@@ -133,7 +140,10 @@ void Form::prepare_controls() {
   for (QTextEdit* box : findChildren<QTextEdit*>()) box->setTabChangesFocus(true);
   for (QPushButton* button : findChildren<QPushButton*>())
     if (button->isDefault()) main_button_ = button;
-  connect(qApp, &QApplication::focusChanged, this, [this] { show_enter_button(); });
+  connect(qApp, &QApplication::focusChanged, this, [this](QWidget* left, QWidget* now) {
+    if (left && now && isAncestorOf(left)) select_nothing(left);
+    show_enter_button();
+  });
   if (const auto size = window_memory::size_of(objectName()); size && isWindow()) resize(*size);
 }
 

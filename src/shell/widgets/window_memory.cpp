@@ -24,4 +24,12 @@ void remember(const QString& window, QSize size) {
   if (enabled && !size.isEmpty()) QSettings().setValue(key(window), size);
 }
 
+int column_width(const QString& key) {
+  return enabled && !key.isEmpty() ? QSettings().value(QStringLiteral("columns/") + key).toInt() : 0;
+}
+
+void remember_column(const QString& key, int width) {
+  if (enabled && !key.isEmpty()) QSettings().setValue(QStringLiteral("columns/") + key, width);
+}
+
 }  // namespace tallymere::window_memory

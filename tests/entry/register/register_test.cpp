@@ -51,7 +51,7 @@ TEST(Registers, BalancesRunByDateAndNumberOnTheSideOfTheType) {
   company.write("Check", Date(2026, 2, 1), "12SS", "40SS", Dollars(50), "", "2");
   Register bank(*company.session, "0SS"), card(*company.session, "12SS"), loan(*company.session, "24SS");
   EXPECT_EQ(Balances(bank), "5:100 10:10 9:-20 ");  // numbers are text
-  EXPECT_EQ(bank.lblTotal(), "($20.00)");
+  EXPECT_EQ(bank.lblTotal(), "-$20.00");
   EXPECT_EQ(Balances(card), "2:50 9:20 ");
   EXPECT_EQ(Balances(loan), "10:-90 ");
   EXPECT_EQ(bank.New_Line_Date(), Date(2026, 2, 1));

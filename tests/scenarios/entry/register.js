@@ -60,7 +60,7 @@ click(w.cmdRecord);
 equal(sounds(), ["stapler.wav"]);
 equal(sides(1), ["Ledger Entry 0SS 40SS 0 1250.5 1250.5", "Ledger Entry 40SS 0SS 1250.5 0 1250.5"]);
 equal(ledger(1)[1].Memo + ledger(1)[1].Number + ledger(1)[1].Date, "Flyers1013/15/2026");
-equal([line(g, 0), w.lblTotal.value], ["3/15/2026|101||Advertising and Promotion|1250.5||-1250.5", "($1250.50)"]);
+equal([line(g, 0), w.lblTotal.value], ["3/15/2026|101||Advertising and Promotion|1250.5||-1250.5", "-$1,250.50"]);
 equal([g.row(), w.datReg.value, w.datReg.focused], [1, "3/15/2026", true], "ready for the next one");
 
 // A payee's last outgoing entry fills what is empty, a quote in the name or not; the number typed makes no check of it.
@@ -100,7 +100,7 @@ box("Save Changes", null, "Yes");
 next.row(0);
 equal(next.row(), 0, "the line that was gone to");
 equal(sides(3), ["Ledger Entry 0SS 29SS 20 0 20", "Ledger Entry 29SS 0SS 0 20 20"]);
-equal(w.lblTotal.value, "($1305.50)");
+equal(w.lblTotal.value, "-$1305.50");
 
 // A line is written anew under its number; an entry of another year asks for a full balance pass.
 next.set(1, "Payment", "80");
@@ -145,7 +145,7 @@ rightclick(next, 1);
 box("Confirm Delete", null, "Yes");
 box("Transaction Cleared", null, "Yes");
 popup("mnuDelReg");
-equal([ledger(2).length, next.rows, w.lblTotal.value], [0, 4, "($102.33)"]);
+equal([ledger(2).length, next.rows, w.lblTotal.value], [0, 4, "-$102.33"]);
 rightclick(next, 0);
 box("Confirm Delete", null, "Enter", "Delete ");  // which is kept, and named
 popup("mnuDelReg");

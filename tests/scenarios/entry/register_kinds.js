@@ -41,7 +41,7 @@ post(14, "Payment", "1/9/2026", "0SS", "AR1", 90, 0);
 post(14, "Payment", "1/9/2026", "AR1", "0SS", 0, 90);
 let w = register("Checking");
 let g = w.grdRegister;
-equal(w.lblTotal.value, "($170.00)");
+equal(w.lblTotal.value, "-$170.00");
 
 // An expense check is written anew in two rows, and keeps its number, type, address and customer.
 g.set(find(g, 10), "Payment", "55");

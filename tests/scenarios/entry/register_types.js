@@ -24,7 +24,7 @@ const kinds = {
   "Accounts Receivable": ["Amt Rec'd", "Amt Billed", "$100.00"],
   "Accounts Payable": ["Billed", "Paid", "$25.00"],
   "Line of Credit": ["Increase", "Decrease", "$0.00"],
-  "Bank Loan": ["Increase", "Decrease", "($15.00)"],
+  "Bank Loan": ["Increase", "Decrease", "-$15.00"],
   "Undeposited Funds": ["Decrease", "Increase", "$0.00"],
   "Machinery and Equipment": ["Decrease", "Increase", "$60.00"],
   "Company Credit Card": ["Charge", "Payment", "$40.00"],
@@ -53,7 +53,7 @@ card.grdRegister.set(1, "Category", "Savings");
 card.grdRegister.set(1, "Payment", "40");
 click(card.cmdRecord);
 equal([card.lblTotal.value, bank.lblTotal.value, bank.grdRegister.text(0, "Category")],
-      ["$0.00", "($40.00)", "Company Credit Card"]);
+      ["$0.00", "-$40.00", "Company Credit Card"]);
 bank.grdRegister.set(1, "Memo", "half a line");
 card.grdRegister.set(2, "Category", "Savings");
 card.grdRegister.set(2, "Payment", "1");
@@ -61,7 +61,7 @@ click(card.cmdRecord);
 equal([bank.grdRegister.rows, bank.grdRegister.text(1, "Memo")], [2, "half a line"]);
 box("Save Changes", null, "No");
 bank.grdRegister.row(0);
-equal([bank.grdRegister.rows, bank.lblTotal.value], [2, "($41.00)"]);
+equal([bank.grdRegister.rows, bank.lblTotal.value], [2, "-$41.00"]);
 while (isOpen("frmRegister")) close(win("frmRegister"));
 equal(rows("SELECT CatID, Balance FROM Accounts WHERE Balance <> 0 ORDER BY CatID").map(function (row) {
   return row.CatID + " " + row.Balance; }), ["1SS -41", "24SS -15", "9SS 60", "AP1 25", "AR1 100", "12SS -1"].sort());
@@ -69,7 +69,7 @@ equal(rows("SELECT CatID, Balance FROM Accounts WHERE Balance <> 0 ORDER BY CatI
 // Dates rule the order, then numbers; the balance is walked over lines that are not read yet.
 for (let number = 10; number < 31; ++number) post(number, "2/" + (number - 9) + "/2026", "2SS", "40SS", 0, 1);
 let cash = register("Petty Cash");
-equal([cash.grdRegister.rows, cash.grdRegister.row(), cash.lblTotal.value], [21, 21, "($21.00)"]);
+equal([cash.grdRegister.rows, cash.grdRegister.row(), cash.lblTotal.value], [21, 21, "-$21.00"]);
 equal(cash.datReg.value, "2/21/2026", "the date of the line above");
 equal([cash.grdRegister.text(20, "Balance"), cash.grdRegister.text(0, "Num"), cash.grdRegister.text(0, "Balance")],
       ["-21", "10", "-1"]);

@@ -30,13 +30,13 @@ other("DELETE FROM Transactions WHERE TransNum = ?", 2);
 g.set(1, "Memo", "mine");
 box("Data has changed", changed);
 click(w.cmdRecord);
-equal([ledger(2), g.rows, w.lblTotal.value], [[], 2, "($40.00)"]);
+equal([ledger(2), g.rows, w.lblTotal.value], [[], 2, "-$40.00"]);
 
 // Changed before the line was gone to: it shows what is there, and can be recorded at once.
 other("UPDATE Transactions SET Memo = ?, Credit = ? WHERE TransNum = ? AND Account = ?", "moved", 35, 3, "0SS");
 g.row(0);
 g.row(1);
-equal([g.text(1, "Memo"), g.text(1, "Payment"), w.lblTotal.value], ["moved", "35", "($45.00)"]);
+equal([g.text(1, "Memo"), g.text(1, "Payment"), w.lblTotal.value], ["moved", "35", "-$45.00"]);
 g.set(1, "Class", "North");
 click(w.cmdRecord);
 equal(ledger(3).map(function (row) { return [row.Credit, row.Debit, row.Class]; }), [[35, 0, "North"], [0, 35, "North"]]);
@@ -54,5 +54,5 @@ other("INSERT INTO Transactions (TransNum, Type, Date, Account, Category, Debit,
 click(w.cmdRecord);
 equal(ledger(4).length, 1);
 equal(ledger(5).map(function (row) { return row.Account + row.Amount; }), ["0SS5", "37SS5"]);
-equal([g.rows, w.lblTotal.value], [3, "($33.00)"]);
+equal([g.rows, w.lblTotal.value], [3, "-$33.00"]);
 equal(log(), []);

@@ -74,3 +74,18 @@ menu("mnuChecks");
 key(win("frmCheck"), "Esc");
 ok(!isOpen("frmCheck"), "nothing typed, nothing asked");
 equal(log(), []);
+
+// A list after New stands on what was made; Home and End are its first and last row.
+menu("mnuAccounts");
+const again = win("frmAccounts").grdAccounts;
+modal("frmModAccount", function (d) {
+  type(d.txtName, "Zinc");
+  type(d.cmbType, "Expense");
+  key(d, "Ctrl+Enter");
+});
+key(again, "Insert");
+equal(again.text(again.row(), "Name"), "Zinc");
+key(again, "Home");
+equal(again.row(), 0);
+key(again, "End");
+equal(again.row(), again.rows - 1);

@@ -1,5 +1,6 @@
 #include "shell/widgets/grid/GridDelegate.h"
 
+#include <QApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPainter>
@@ -113,11 +114,22 @@ bool GridDelegate::eventFilter(QObject* watched, QEvent* event) {
   return QStyledItemDelegate::eventFilter(watched, event);
 }
 
+/// The row that is chosen stays to be seen, but not as if the keys went there.
+void GridDelegate::quieten_without_focus(QStyleOptionViewItem& option) const {
+  if (grid_.hasFocus() || grid_.isAncestorOf(QApplication::focusWidget())) return;
+  const QColor accent = theme::accent(), sheet = option.palette.color(QPalette::Base);
+  const auto blend = [](int full, int none) { return (full + 4 * none) / 5; };
+  option.palette.setColor(QPalette::Highlight,
+                          QColor(blend(accent.red(), sheet.red()), blend(accent.green(), sheet.green()),
+                                 blend(accent.blue(), sheet.blue())));
+  option.palette.setColor(QPalette::HighlightedText, option.palette.color(QPalette::Text));
+}
+
 void GridDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const {
   QStyledItemDelegate::initStyleOption(option, index);
   option->state &= ~QStyle::State_HasFocus;
   option->features &= ~QStyleOptionViewItem::HasCheckIndicator;
-  if (grid_.selects_rows()) return;
+  if (grid_.selects_rows()) return quieten_without_focus(*option);
   option->state &= ~QStyle::State_Selected;
   if (index.row() == grid_.currentIndex().row() && option->backgroundBrush.style() == Qt::NoBrush) {
     QColor tint = theme::accent();

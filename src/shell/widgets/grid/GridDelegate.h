@@ -32,6 +32,7 @@ class GridDelegate : public QStyledItemDelegate {
  private:
   SSDBCombo* list_editor(QWidget* parent, const QModelIndex& index) const;
   void paint_rule(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const;
+  void quieten_without_focus(QStyleOptionViewItem& option) const;
   void paint_check(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const;
 
   SSDBGrid& grid_;

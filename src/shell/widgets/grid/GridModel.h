@@ -23,9 +23,8 @@ struct GridColumn {
   bool locked = false;           ///< the user cannot write in it
   SSDBDropDown* list = nullptr;  ///< what its cells choose from; owned elsewhere
   int id_column = -1;            ///< takes the hidden id of what was chosen or typed from the list, "" when not in it
-  std::string mask{};            ///< for the eye only; empty: money as "#,##0.00##", others as they stand
+  std::string mask{};            ///< for the eye only; empty: money with cents, others as they stand
   bool list_only = false;        ///< text that is not in the list is refused
-  int decimals = 0;              ///< of amounts without a mask: room for so many, so that points stand in one line
 };
 
 /// A head above some columns; captions may have several lines.

@@ -15,13 +15,6 @@ bool has_own_look(const std::string& text) { return text.find_first_of("$(%") !=
 
 bool is_figures(Kind kind) { return kind == Kind::money || kind == Kind::number; }
 
-/// Blanks as wide as figures stand for the decimals that others in the column have.
-QString lined_up(const std::string& amount, int decimals) {
-  constexpr QChar figure_space(0x2007);
-  const auto shown = static_cast<int>(amount.size() - amount.find('.')) - 1;
-  return QString::fromStdString(amount) + QString(std::max(decimals - shown, 0), figure_space);
-}
-
 Qt::Alignment alignment_of(Kind kind) {
   if (is_figures(kind)) return Qt::AlignRight | Qt::AlignVCenter;
   return (kind == Kind::check ? Qt::AlignHCenter : Qt::AlignLeft) | Qt::AlignVCenter;
@@ -78,8 +71,7 @@ QString GridModel::for_the_eye(int row, int column) const {
   if (how.kind == Kind::check) return {};
   if (how.kind == Kind::money && !has_own_look(typed))
     if (const store::Value amount = value(row, column); std::holds_alternative<Money>(amount.content()))
-      return how.mask.empty() ? lined_up(Format(amount.money(), "#,##0.00##"), how.decimals)
-                              : QString::fromStdString(Format(amount.money(), how.mask));
+      return QString::fromStdString(Format(amount.money(), how.mask.empty() ? money_mask : how.mask));
   return QString::fromStdString(typed);
 }
 

@@ -9,6 +9,7 @@
 #include "shell/widgets/grid/GridDelegate.h"
 #include "shell/widgets/grid/GridHeader.h"
 #include "shell/widgets/theme.h"
+#include "shell/widgets/window_memory.h"
 
 namespace tallymere {
 
@@ -28,6 +29,14 @@ SSDBGrid::SSDBGrid(QWidget* parent) : QTableView(parent), model_(new GridModel(t
   model_->read_only = true;
   settle_modes();
   changeEvent(nullptr);
+  widening_ = new QTimer(this);
+  widening_->setSingleShot(true);
+  widening_->setInterval(0);
+  connect(widening_, &QTimer::timeout, this, &SSDBGrid::widen_amounts);
+  connect(model_, &QAbstractItemModel::modelReset, widening_, qOverload<>(&QTimer::start));
+  connect(model_, &QAbstractItemModel::dataChanged, widening_, qOverload<>(&QTimer::start));
+  connect(model_, &QAbstractItemModel::rowsInserted, widening_, qOverload<>(&QTimer::start));
+  connect(verticalScrollBar(), &QScrollBar::valueChanged, widening_, qOverload<>(&QTimer::start));
   connect(header_, &QHeaderView::sectionResized, this, &SSDBGrid::dragged);
   connect(header_, &QHeaderView::sectionClicked, this, &SSDBGrid::sort_clicked);
   connect(horizontalScrollBar(), &QScrollBar::valueChanged, this, [this] {
@@ -40,7 +49,10 @@ SSDBGrid::SSDBGrid(QWidget* parent) : QTableView(parent), model_(new GridModel(t
 SSDBGrid::~SSDBGrid() = default;
 
 SSDBGrid::Fill::Fill(SSDBGrid& grid) : grid_(grid) { grid_.model_->begin_fill(); }
-SSDBGrid::Fill::~Fill() { grid_.model_->end_fill(); }
+SSDBGrid::Fill::~Fill() {
+  grid_.model_->end_fill();
+  grid_.sort_again();
+}
 
 // --- columns ---
 
@@ -73,9 +85,6 @@ void SSDBGrid::set_caption(int column, const std::string& caption) {
 }
 
 void SSDBGrid::set_locked(int column, bool locked) { model_->column(column).locked = locked; }
-void SSDBGrid::set_decimals(const std::vector<int>& decimals) {
-  for (size_t at = 0; at < decimals.size(); ++at) model_->column(static_cast<int>(at)).decimals = decimals[at];
-}
 
 void SSDBGrid::set_frozen_columns(int count) {
   header_->set_frozen(count);
@@ -100,7 +109,49 @@ void SSDBGrid::set_widths() {
   for (int column = 0; column < columns(); ++column)
     if (const int width = this->column(column).width; width > 0)
       setColumnWidth(column, std::max(char_width(width), header_->width_for(column)));
+  restore_widths();
   share_widths();
+}
+
+/// Amounts fit their widest figure: of the rows that are to be seen, whenever others are.
+void SSDBGrid::widen_amounts() {
+  if (!natural_.empty() || rows() == 0) return;
+  const QScopedValueRollback code(by_code_, true);
+  const int first = std::max(rowAt(0), 0), last = rowAt(viewport()->height() - 1);
+  bool wider = false;
+  for (int column = 0; column < columns(); ++column) {
+    const Kind kind = this->column(column).kind;
+    const bool figures = kind == Kind::money || kind == Kind::number || kind == Kind::date;
+    if (!figures || isColumnHidden(column) || dragged_[static_cast<size_t>(column)]) continue;
+    int wanted = columnWidth(column);
+    for (int row = first; row <= (last < 0 ? rows() - 1 : std::min(last, rows() - 1)); ++row) {
+      const QModelIndex cell = model_->index(row, column);
+      const QFontMetrics metrics(cell.data(Qt::FontRole).value<QFont>());
+      wanted = std::max(wanted, metrics.horizontalAdvance(cell.data().toString()) + 2 * theme::unit + 2);
+    }
+    wider |= wanted > columnWidth(column);
+    setColumnWidth(column, wanted);
+    if (this->column(column).width == 0) least_[static_cast<size_t>(column)] = wanted;
+  }
+  if (wider) share_widths();
+}
+
+/// A width that the user gave a column is the grid's from then on.
+QString SSDBGrid::width_key(int column) const {
+  const QWidget* owner = this;
+  while (owner && !owner->inherits("tallymere::Form")) owner = owner->parentWidget();
+  if (!owner || objectName().isEmpty()) return {};
+  return owner->objectName() + QLatin1Char('/') + objectName() + QLatin1Char('/') + this->column(column).name;
+}
+
+void SSDBGrid::restore_widths() {
+  const QScopedValueRollback code(by_code_, true);
+  for (int column = 0; column < columns(); ++column) {
+    const int width = isColumnHidden(column) ? 0 : window_memory::column_width(width_key(column));
+    if (width <= 0) continue;
+    dragged_[static_cast<size_t>(column)] = true;
+    setColumnWidth(column, std::max(width, header_->minimumSectionSize()));
+  }
 }
 
 void SSDBGrid::share_widths() {
@@ -175,6 +226,7 @@ int SSDBGrid::last_shown() const {
 void SSDBGrid::dragged(int column, int before, int now) {
   if (by_code_ || isColumnHidden(column)) return;
   dragged_[static_cast<size_t>(column)] = true;
+  window_memory::remember_column(width_key(column), now);
   const int last = last_shown();
   if (!keeps_sum_ || column == last) return;
   const QScopedValueRollback code(by_code_, true);
@@ -355,6 +407,13 @@ void SSDBGrid::sort_clicked(int column) {
   if (const int there = model_->sort_rows(column, descending_, here); there >= 0) set_cell(there, column);
 }
 
+/// Rows that were read again stand in the order the user chose.
+void SSDBGrid::sort_again() {
+  if (sorted_by_ < 0 || !header_->isSortIndicatorShown()) return;
+  const QScopedValueRollback code(by_code_, true);
+  model_->sort_rows(sorted_by_, descending_, -1);
+}
+
 // --- looks ---
 
 void SSDBGrid::define_style(const std::string& name, const GridStyle& style) { model_->define_style(name, style); }
@@ -392,7 +451,9 @@ void SSDBGrid::changeEvent(QEvent* event) {
 
 void SSDBGrid::showEvent(QShowEvent* event) {
   if (qobject_cast<QStackedWidget*>(parentWidget())) setFrameShape(NoFrame);  // a tab's page has an edge already
+  if (natural_.empty()) restore_widths();
   QTableView::showEvent(event);
+  share_widths();
 }
 
 void SSDBGrid::resizeEvent(QResizeEvent* event) {

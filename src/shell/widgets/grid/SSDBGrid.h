@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QTableView>
+#include <QTimer>
 #include <functional>
 #include <string>
 #include <vector>
@@ -31,7 +32,6 @@ class SSDBGrid : public QTableView {
   void set_locked(int column, bool locked);
   void show_column(int column, bool shown);
   void set_frozen_columns(int count);  ///< the first ones stay in view when the grid is scrolled sideways
-  void set_decimals(const std::vector<int>& decimals);  ///< of each column, see GridColumn
   /// Widths as the captions and first rows need; columns of width 0 share what is left beyond that.
   void fit_columns(int rows_looked_at = 200);
   /// Widths in pixels as one knows them who knows the contents. Room beyond the natural ones goes to all in
@@ -94,7 +94,7 @@ class SSDBGrid : public QTableView {
   void set_read_only(bool read_only);  ///< true at first: a list; entry grids say false
   void set_new_line(bool allowed);     ///< typing in it makes a row, Insert goes to it
   void set_delete(bool allowed);       ///< the Delete key (not while typing) and drop rows
-  void set_sorting(bool allowed);      ///< a click on a column's head sorts by value
+  void set_sorting(bool allowed);      ///< a click on a head sorts by value: for all lists whose order is free
   void set_empty_hint(const QString& text);
   void set_may_edit(std::function<bool(int row, int column)> may_edit);
   /// Takes what is being typed and settles the row, as leaving it does: call it before saving. false:
@@ -121,6 +121,7 @@ class SSDBGrid : public QTableView {
   void double_click(int row, int column = 0);
   void request_menu(int row, const QPoint& global);
 
+  QPoint menu_place() const { return menu_place_; }  ///< where MenuRequested was said, on the screen
   GridModel& cells() { return *model_; }
   bool selects_rows() const { return selectionBehavior() == SelectRows; }
   QSize sizeHint() const override;
@@ -168,7 +169,11 @@ class SSDBGrid : public QTableView {
   bool is_stop(int row, int column) const;  ///< a cell that Enter and Tab stop at
   QModelIndex next_cell(const QModelIndex& from, int step) const;
   bool light_row();
-  bool enter_pressed();  ///< on to the next cell; in a list, what a double click does
+  bool go_home(bool end);  ///< Home and End: the rows of a list, the cells of a line
+  void widen_amounts();
+  void restore_widths();
+  QString width_key(int column) const;  ///< under which the user's width is kept; empty: nowhere
+  bool enter_pressed();                 ///< on to the next cell; in a list, what a double click does
   void remove_selected();
   void settle_modes();
   int char_width(int characters) const;
@@ -179,6 +184,7 @@ class SSDBGrid : public QTableView {
   void dragged(int column, int before, int now);
   int last_shown() const;
   void sort_clicked(int column);
+  void sort_again();
   void paint_frozen_columns();
   void paint_frozen(QPainter& painter, int row, int column);
   void go_to(int row, int column);  ///< by code: no RowColChange
@@ -196,6 +202,8 @@ class SSDBGrid : public QTableView {
   bool by_code_ = false;
   int changed_row_ = -1;
   int sorted_by_ = -1;
+  QPoint menu_place_;
+  QTimer* widening_;  ///< amounts came that may need more room
   bool descending_ = false;
 };
 

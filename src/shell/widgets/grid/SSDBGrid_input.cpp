@@ -168,6 +168,20 @@ bool SSDBGrid::light_row() {
   return true;
 }
 
+bool SSDBGrid::go_home(bool end) {
+  if (rows() == 0) return false;
+  if (selects_rows()) {
+    setCurrentIndex(model_->index(end ? rows() - 1 : 0, std::max(Col(), 0)));
+    return true;
+  }
+  const int row = Row(), last = columns() - 1;
+  if (row < 0) return false;
+  for (int at = 0; at <= last; ++at)
+    if (const int column = end ? last - at : at; is_stop(row, column))
+      return setCurrentIndex(model_->index(row, column)), true;
+  return false;
+}
+
 bool SSDBGrid::focusNextPrevChild(bool next) {
   if (!model_->read_only && hasFocus())
     if (const QModelIndex cell = next_cell(currentIndex(), next ? 1 : -1); cell.isValid()) {
@@ -214,6 +228,10 @@ void SSDBGrid::keyPressEvent(QKeyEvent* event) {
       break;
     case Qt::Key_Delete:
       if (delete_) return remove_selected();
+      break;
+    case Qt::Key_Home:
+    case Qt::Key_End:
+      if (plain && go_home(event->key() == Qt::Key_End)) return;
       break;
     case Qt::Key_F4:
       if (open_list(here)) return;
@@ -267,6 +285,7 @@ void SSDBGrid::double_click(int row, int column) {
 void SSDBGrid::request_menu(int row, const QPoint& global) {
   const bool lit = row >= 0 && selects_rows() && selectionModel()->isRowSelected(row, {});
   if (row >= 0 && !lit) setCurrentIndex(model_->index(row, std::max(Col(), 0)));
+  menu_place_ = global;
   Q_EMIT MenuRequested(row, global);
 }
 
