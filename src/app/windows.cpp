@@ -19,6 +19,8 @@
 #include "reports/saved/frmSavedReps.h"
 #include "reports/transactions/frmPrintCustom.h"
 #include "shell/frmMain.h"
+#include "shell/help/frmKeys.h"
+#include "shell/history/frmHistory.h"
 #include "shell/settings/frmColorPicker.h"
 #include "shell/settings/frmColors.h"
 #include "shell/settings/frmCustFields.h"
@@ -61,6 +63,8 @@ const WindowTable& Windows() {
       {"frmPaySalesTax", Make_Window<frmPaySalesTax>},
       {"frmReconcile", Make_Window<frmReconcile>},
       {"frmTimeSheet", Make_Window<frmTimeSheet>},
+      {"frmHistory", Make_Window<frmHistory>},
+      {"frmKeys", Make_Window<frmKeys>},
       {"frmUsers", Make_Window<frmUsers>},
       {"frmModUser", Make_Window<frmModUser>},
       {"frmInfo", Make_Window<frmInfo>},

@@ -24,6 +24,7 @@ ListForm::ListForm(Shell& shell_of_frame, const char* name, const char* grid_nam
 void ListForm::build(std::vector<GridColumn> columns, int id_column, QWidget* beside_buttons) {
   id_column_ = id_column;
   grid_->set_columns(std::move(columns));
+  grid_->setAccessibleName(windowTitle());
   auto* column = column_layout(this);
   column->addWidget(grid_, 1);
   QHBoxLayout* buttons = plain_button_row({cmdAction}, {cmdClose});

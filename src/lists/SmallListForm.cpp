@@ -26,6 +26,7 @@ SmallListForm::SmallListForm(Shell& shell_of_frame, const char* name, const char
 
 void SmallListForm::build() {
   grid_->set_columns({{.name = QStringLiteral("Name")}, {.name = QStringLiteral("Key"), .kind = Kind::hidden}});
+  grid_->setAccessibleName(QStringLiteral("Names"));
   grid_->set_read_only(false);
   grid_->set_new_line(true);
   grid_->set_delete(true);

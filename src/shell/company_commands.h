@@ -12,6 +12,7 @@ class CompanyCommands {
   virtual bool Open_Company_At_Start() = 0;
   virtual void Create_Company_At_Start() = 0;  ///< shows frmCreate
   virtual bool Restore_Company_At_Start() = 0;
+  virtual bool Open_Recent_At_Start(const std::string& path) = 0;
   virtual bool Create_Company(const std::string& name) = 0;
 };
 

@@ -18,6 +18,9 @@
 #include "core/company/company.h"
 #include "core/company/error_box.h"
 #include "core/company/preferences.h"
+#include "core/ledger/at_a_glance.h"
+#include "core/ledger/balances.h"
+#include "core/values/format.h"
 #include "shell/frmMenus.h"
 #include "shell/menus.h"
 #include "shell/start/start_panel.h"
@@ -62,6 +65,11 @@ constexpr std::string_view company_menus[] = {"mnuAction",  "mnuOptions", "mnuWi
 constexpr std::string_view single_user_menus[] = {"mnuRestore", "mnuCompany"};
 
 bool is_single_user_menu(std::string_view name) { return name == single_user_menus[0] || name == single_user_menus[1]; }
+
+/// Windows that need no company.
+bool is_own_window(std::string_view name) { return name == "frmKeys"; }
+
+constexpr int low_screen = 640;  ///< pixels of height below which buttons show no words
 
 const QString geometry_key = QStringLiteral("windows/frmMain/geometry");
 
@@ -123,6 +131,7 @@ void frmMain::build_menus() {
     commands_.emplace(row.name, action);
   }
   connect(menus.at("mnuWindow"), &QMenu::aboutToShow, this, [this] { fill_window_menu(); });
+  connect(menus.at("mnuEditMenu"), &QMenu::aboutToShow, this, [this] { caption_undo(); });
 }
 
 QAction* frmMain::add_to_menu(QMenu& menu, const MenuRow& row) {
@@ -213,19 +222,30 @@ void frmMain::set_visible(std::string_view name, bool visible) {
 
 bool frmMain::exists(const MenuRow& row) const {
   if (row.name == "mnuTaxCheck") return static_cast<bool>(Check_Updates);
-  if (row.name == "mnuHelp") return false;
   return row.window.empty() || has_window(std::string(row.window));
 }
 
 void frmMain::refresh_commands() {
   for (const auto& [name, action] : commands_) refresh_command(name, action);
+  const auto rows = Menu_Table();
+  for (auto row = rows.rbegin(); row != rows.rend(); ++row)  // children before their parents
+    if (is_submenu(row->name) && row->name != "mnuWindow" && !has_usable_child(row->name))
+      command(row->name)->setEnabled(false);
+}
+
+/// A menu all of whose commands are greyed is greyed itself.
+bool frmMain::has_usable_child(std::string_view menu) const {
+  for (const MenuRow& row : Menu_Table())
+    if (row.parent == menu && row.caption != Separator)
+      if (const QAction* action = command(row.name); action->isVisible() && action->isEnabled()) return true;
+  return false;
 }
 
 void frmMain::refresh_command(const std::string& name, QAction* action) {
   bool there = true, wants_company = false;
   if (const MenuRow* row = menu_row(name)) {
     there = exists(*row);
-    wants_company = !row->window.empty();
+    wants_company = (!row->window.empty() && !is_own_window(row->window)) || row->name == "mnuUndo";
   } else if (const ToolRow* tool = tool_row(name)) {
     there = tool->window.empty() || has_window(std::string(tool->window));
     wants_company = true;
@@ -274,7 +294,35 @@ void frmMain::show_background() {
                                  .toString(QDate::fromString(qt(session.today().to_iso()), Qt::ISODate),
                                            QStringLiteral("dddd, MMMM d, yyyy"))
                            : QStringLiteral("No company is open.");
-  panel_->show_company(name, line, usable);
+  panel_->show_company(name, line, figures(), usable);
+}
+
+bool frmMain::may(const std::string& command) const {
+  const auto refused = [&](const auto& marks) {
+    const auto found = marks.find(command);
+    return found != marks.end() && found->second;
+  };
+  return !refused(hidden_) && !refused(disabled_);
+}
+
+/// What a person asks first in the morning, as far as these are his to see.
+std::vector<StartPanel::Figure> frmMain::figures() {
+  constexpr size_t most_banks = 4;
+  std::vector<StartPanel::Figure> shown;
+  if (!session.company_open()) return shown;
+  guard("StartPanel", [&] {
+    if (may("mnuAccounts"))
+      for (const BankBalance& bank : Bank_Balances(session))
+        if (shown.size() < most_banks) shown.push_back({qt(bank.AccountName), qt(Dollar_Text(bank.Balance))});
+    if (may("mnuCustomers"))
+      shown.push_back({QStringLiteral("Customers owe"), qt(Dollar_Text(Customers_Owe(session)))});
+    if (may("mnuBill")) {
+      const Due due = Due_This_Week(session);
+      const QString bills = due.bills == 1 ? QStringLiteral("1 bill") : QStringLiteral("%1 bills").arg(due.bills);
+      shown.push_back({QStringLiteral("Due this week (%1)").arg(bills), qt(Dollar_Text(due.Amount))});
+    }
+  });
+  return shown;
 }
 
 /// Once per company, a moment after it came up; never in the middle of what a box or a progress window is
@@ -284,6 +332,7 @@ void frmMain::Timer1_Timer() {
   Timer1->stop();
   if (!session.sets.Colors) return;
   guard("Timer1_Timer", [this] {
+    if (may("mnuAccounts")) Update_Accounts(session);
     show_background();
     Toolbar1->setVisible(Preference(*session.dbCompany, preference::ToolBarVisible) == "Yes");
     if (Check_Repeats) Check_Repeats();
@@ -293,7 +342,7 @@ void frmMain::Timer1_Timer() {
 void frmMain::changed(const std::string& table) {
   for (Form* form : std::vector<Form*>(forms_)) form->on_changed(table);
   if (!session.dbCompany) return;
-  if (table == "Colors") show_background();
+  if (table == "Colors" || table == "Transactions" || table == "Accounts") show_background();
   if (table == "Users") Apply_User_Rights();
   if (table == "GeneralPrefs")
     Toolbar1->setVisible(Preference(*session.dbCompany, preference::ToolBarVisible) == "Yes");
@@ -304,6 +353,13 @@ void frmMain::say(const std::string& text) { statusBar()->showMessage(qt(text), 
 bool frmMain::eventFilter(QObject* watched, QEvent* event) {
   if (watched == mdi_->viewport() && event->type() == QEvent::Resize) panel_->centre();
   return QMainWindow::eventFilter(watched, event);
+}
+
+/// Where there is little height, it is the windows'.
+void frmMain::resizeEvent(QResizeEvent* event) {
+  QMainWindow::resizeEvent(event);
+  const bool low = height() < low_screen;
+  Toolbar1->setToolButtonStyle(low ? Qt::ToolButtonIconOnly : Qt::ToolButtonTextUnderIcon);
 }
 
 void frmMain::restore_place() {

@@ -9,6 +9,7 @@
 
 #include "shell/company_commands.h"
 #include "shell/shell.h"
+#include "shell/start/start_panel.h"
 #include "shell/window_table.h"
 
 class QAction;
@@ -21,7 +22,6 @@ class QToolBar;
 namespace tallymere {
 
 class frmMenus;
-class StartPanel;
 struct MenuRow;
 
 /// The one top-level window: a frame in which every other window stands, the menus and the toolbar. It holds
@@ -60,6 +60,7 @@ class frmMain : public QMainWindow, public Shell, public CompanyCommands {
   bool Open_Company_At_Start() override;
   void Create_Company_At_Start() override;
   bool Restore_Company_At_Start() override;
+  bool Open_Recent_At_Start(const std::string& path) override;
   bool Create_Company(const std::string& name) override;
 
   QAction* command(std::string_view name) const;   ///< a menu, a command or a button by its name; nullptr: none
@@ -67,6 +68,7 @@ class frmMain : public QMainWindow, public Shell, public CompanyCommands {
 
  protected:
   void closeEvent(QCloseEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
@@ -93,6 +95,9 @@ class frmMain : public QMainWindow, public Shell, public CompanyCommands {
 
   // --- routing
   bool exists(const MenuRow& row) const;
+  bool has_usable_child(std::string_view menu) const;
+  bool may(const std::string& command) const;  ///< the user's rights and the company's state allow it
+  std::vector<StartPanel::Figure> figures();
   void run_command(const std::string& name);
   void route(const MenuRow& row);
   void mnuDepositFunds_Click();
@@ -113,6 +118,9 @@ class frmMain : public QMainWindow, public Shell, public CompanyCommands {
   void mnuRestore_Click();
   void mnuTaxCheck_Click();
   void mnuExit_Click();
+  void mnuUndo_Click();
+  void mnuAbout_Click();
+  void caption_undo();
   bool Open_Company(const std::string& path, bool at_start);
   bool Log_In();
   bool Ask_Password();

@@ -8,6 +8,7 @@
 #include "core/company/company.h"
 #include "core/company/company_name.h"
 #include "core/company/login.h"
+#include "core/company/recent.h"
 #include "core/company/rights.h"
 #include "core/company/users.h"
 #include "core/store/recordset.h"
@@ -47,6 +48,7 @@ bool frmMain::Start_With(const std::string& path) {
 void frmMain::show_start() { Show_Window({.window = "frmStart", .key = {}}); }
 
 void frmMain::company_came_up() {
+  Note_Recent_Company(session.folder, session.CompanyPath);
   show_title();
   Enable_Menus();
   Timer1->start();
@@ -59,6 +61,8 @@ bool frmMain::Open_Company_At_Start() {
   const std::string path = session.prompts.open_file(company_filter, session.folder.string());
   return !path.empty() && Open_Company(path, true);
 }
+
+bool frmMain::Open_Recent_At_Start(const std::string& path) { return Open_Company(path, true); }
 
 void frmMain::mnuOpenCompany_Click() {
   const std::string path = session.prompts.open_file(company_filter, session.folder.string());

@@ -8,7 +8,9 @@
 #include <QToolButton>
 #include <algorithm>
 
+#include "core/ledger/reach.h"
 #include "core/store/error.h"
+#include "core/values/control_characters.h"
 #include "entry/document/document.h"
 #include "shell/frmMain.h"
 #include "shell/frmMenus.h"
@@ -26,6 +28,7 @@ namespace {
 
 /// Windows that belong to the frame itself and need no company.
 bool is_own(const std::string& name) { return name == "frmStart" || name == "frmCreate"; }
+bool needs_no_company(const std::string& name) { return is_own(name) || name == "frmKeys"; }
 
 /// Whole in the room there is.
 void fit_in(QMdiSubWindow& frame, QSize wanted, QSize room) {
@@ -46,6 +49,8 @@ void frmMain::run_command(const std::string& name) {
                                                                {"mnuRestore", &frmMain::mnuRestore_Click},
                                                                {"mnuTaxCheck", &frmMain::mnuTaxCheck_Click},
                                                                {"mnuExit", &frmMain::mnuExit_Click},
+                                                               {"mnuUndo", &frmMain::mnuUndo_Click},
+                                                               {"mnuAbout", &frmMain::mnuAbout_Click},
                                                                {"mnuDepositFunds", &frmMain::mnuDepositFunds_Click},
                                                                {"btnHelp", &frmMain::btnHelp_Click},
                                                                {"frmStart", &frmMain::show_start}};
@@ -87,6 +92,31 @@ void frmMain::btnHelp_Click() {
   session.prompts.box({"Please Contact Quillbrook Software for Help or Tech Support.", "Help", Icon::Information});
 }
 
+void frmMain::mnuAbout_Click() {
+  const std::string version = "Tallymere " + utf8(QCoreApplication::applicationVersion());
+  session.prompts.box({version + "\r\nQuillbrook Software Inc.", "About Tallymere", Icon::Information,
+                       std::string("Built on Qt ") + qVersion() + ", SQLite, libsodium and libxlsxwriter."});
+}
+
+// --- undo ----------------------------------------------------------------------------------------
+
+/// Undo "Check 1042, Acme Supply"
+void frmMain::caption_undo() {
+  std::optional<store::Action> last;
+  if (session.company_open()) guard("mnuUndo", [&] { last = Last_To_Undo(session); });
+  QString what = last ? qt(in_one_plain_line(last->what)) : QString();
+  what.replace(QLatin1Char('&'), QStringLiteral("&&"));
+  command("mnuUndo")->setText(last ? QStringLiteral("&Undo \"%1\"").arg(what) : QStringLiteral("&Undo"));
+  command("mnuUndo")->setEnabled(last.has_value());
+}
+
+void frmMain::mnuUndo_Click() {
+  const auto last = Last_To_Undo(session);
+  if (!last) return say("There is nothing to undo.");
+  if (!session.prompts.ask(Undo_Question(*last))) return;
+  for (const std::string& table : Take_Back(session, last->number)) changed(table);
+}
+
 void frmMain::Go_To_Transaction(const std::string& type, int64_t number) {
   const std::string window(Entry_Window(type));
   if (window.empty()) return say("There is no window to go to for a transaction of type " + type + ".");
@@ -114,7 +144,7 @@ Form* frmMain::Show_Window(const Request& request) {
     say(request.window + " is not part of this version yet.");
     return nullptr;
   }
-  if (!is_own(request.window) && !session.dbCompany)
+  if (!needs_no_company(request.window) && !session.dbCompany)
     throw store::Error(store::errors::file_not_found, "No company is open.");
   Hourglass hourglass(session.prompts);
   Form* form = request.new_instance ? nullptr : find_window(request.window);
@@ -161,10 +191,14 @@ void frmMain::bring_up(Form& form) {
     return form.activateWindow();
   }
   const bool fresh = !frame->isVisible();
+  const QSize least = frame->minimumSizeHint(), room = mdi_->viewport()->size();
   const QSize wanted = frame->sizeHint();  // as large as it wants to be now that it knows what it shows
   form.show();
   frame->isMinimized() ? frame->showNormal() : frame->show();
-  if (fresh && !frame->isMaximized()) fit_in(*frame, wanted, mdi_->viewport()->size());
+  // On a small screen a window whose controls would not all show gets all the room there is.
+  const bool short_of_room = least.width() > room.width() || least.height() > room.height();
+  if (fresh && short_of_room) frame->showMaximized();
+  if (fresh && !frame->isMaximized()) fit_in(*frame, wanted, room);
   mdi_->setActiveSubWindow(frame);
 }
 

@@ -15,12 +15,17 @@ constexpr MenuRow menu_rows[] = {
     {"mnuFile", "mnuCompany", "Company &Info....", "frmInfo"},
     {"mnuFile", "mnuBackup", "&Backup"},
     {"mnuFile", "mnuRestore", "&Restore"},
+    {"mnuFile", "mnuHistory", "&History", "frmHistory"},
     {"mnuFile", "mnuTaxCheck", "&Check For Tax Updates"},
     {"mnuFile", "L99", Separator},
     {"mnuFile", "mnuPrint", "&Print"},
     {"mnuPrint", "mnuPrintChecks", "Print Checks", "frmPrintChecks"},
     {"mnuFile", "linExit", Separator},
     {"mnuFile", "mnuExit", "E&xit", "", "", "Ctrl+Q"},
+
+    {"", "mnuEditMenu", "&Edit"},
+    {"mnuEditMenu", "mnuUndo", "&Undo"},
+    {"mnuEditMenu", "mnuEditHistory", "&History", "frmHistory"},
 
     {"", "mnuAction", "&Action"},
     {"mnuAction", "mnuFind", "&Find Transaction", "frmFind", "", "Ctrl+F"},
@@ -155,6 +160,8 @@ constexpr MenuRow menu_rows[] = {
     {"mnuOptions", "mnuColors", "&Colors.....", "frmColors"},
     {"", "mnuWindow", "&Window"},
     {"", "mnuHelp", "&Help"},
+    {"mnuHelp", "mnuKeys", "&Keys", "frmKeys", "", "F1"},
+    {"mnuHelp", "mnuAbout", "&About Tallymere"},
 };
 
 constexpr ToolRow tool_rows[] = {

@@ -108,8 +108,8 @@ TEST(LayoutFaults, AreSeen) {
   window.show();
   std::string all;
   for (const std::string& fault : Layout_Faults(window)) all += fault + "\n";
-  for (const char* part : {"cmdOk needs", "lbl \"A whole sentence of words\" needs", "overlaps", "cmdAway stands beyond",
-                           "txt has no name for those who listen"})
+  for (const char* part : {"cmdOk needs", "lbl \"A whole sentence of words\" needs", "overlaps",
+                           "cmdAway stands beyond", "txt has no name for those who listen"})
     EXPECT_NE(all.find(part), std::string::npos) << part << " in\n" << all;
   EXPECT_EQ(all.find("txtWell"), std::string::npos) << all;
 }

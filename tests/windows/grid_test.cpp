@@ -47,21 +47,20 @@ TEST(Grid, AmountsFitTheirWidestFigureTextsTakeTheRestAndTheUsersWidthStays) {
   const QFontMetrics metrics(on.grid->model()->index(1, 1).data(Qt::FontRole).value<QFont>());
   EXPECT_GT(on.grid->columnWidth(1), narrow);
   EXPECT_GE(on.grid->columnWidth(1), metrics.horizontalAdvance("123,456,789,012.34"));
-  EXPECT_EQ(on.grid->columnWidth(0) + on.grid->columnWidth(1) + on.grid->columnWidth(2),
-            on.grid->viewport()->width());
+  EXPECT_EQ(on.grid->columnWidth(0) + on.grid->columnWidth(1) + on.grid->columnWidth(2), on.grid->viewport()->width());
 
   on.grid->horizontalHeader()->resizeSection(1, 40);  // as dragged
   on.grid->AddItem("Acme\t923456789012.34");
   on.window.resize(700, 300);
   QCoreApplication::processEvents();
   EXPECT_EQ(on.grid->columnWidth(1), 40);
-  EXPECT_EQ(on.grid->columnWidth(0) + on.grid->columnWidth(1) + on.grid->columnWidth(2),
-            on.grid->viewport()->width());
+  EXPECT_EQ(on.grid->columnWidth(0) + on.grid->columnWidth(1) + on.grid->columnWidth(2), on.grid->viewport()->width());
 }
 
 TEST(Grid, ShowsCentsAndKeepsWhatIsBeneath) {
   OnScreen on;
-  on.grid->set_columns({{.name = "Amount", .kind = Kind::money}, {.name = "Cost", .kind = Kind::money, .mask = "#,##0.00##"}});
+  on.grid->set_columns(
+      {{.name = "Amount", .kind = Kind::money}, {.name = "Cost", .kind = Kind::money, .mask = "#,##0.00##"}});
   on.grid->AddValues({Money::parse("-224667.1499").value(), Money::parse("0.0125").value()});
   const auto shown = [&](int column) { return on.grid->model()->index(0, column).data().toString().toStdString(); };
   EXPECT_EQ(shown(0), "-224,667.15");
@@ -71,7 +70,8 @@ TEST(Grid, ShowsCentsAndKeepsWhatIsBeneath) {
 
 TEST(Grid, HomeAndEndWalkRowsInAListAndCellsInALine) {
   OnScreen on;
-  on.grid->set_columns({{.name = "A", .kind = Kind::hidden}, {.name = "B"}, {.name = "C"}, {.name = "D", .locked = true}});
+  on.grid->set_columns(
+      {{.name = "A", .kind = Kind::hidden}, {.name = "B"}, {.name = "C"}, {.name = "D", .locked = true}});
   for (int row = 0; row < 30; ++row) on.grid->AddItem("\tb\tc\td");
   on.show();
   on.grid->set_Row(3);

@@ -8,6 +8,7 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
+#include <QScrollArea>
 #include <QScrollBar>
 #include <QTabBar>
 #include <QToolButton>
@@ -31,9 +32,22 @@ bool is_inner(const QWidget& widget, const QWidget& window) {
   if (widget.objectName().startsWith(QLatin1String("qt_")) || qobject_cast<const QScrollBar*>(&widget)) return true;
   if (qobject_cast<const QHeaderView*>(&widget)) return true;
   for (const QWidget* outer = widget.parentWidget(); outer && outer != &window; outer = outer->parentWidget())
-    if (qobject_cast<const QAbstractScrollArea*>(outer) || qobject_cast<const QComboBox*>(outer) ||
-        qobject_cast<const QLineEdit*>(outer) || qobject_cast<const QTabBar*>(outer))
+    if ((qobject_cast<const QAbstractScrollArea*>(outer) && !qobject_cast<const QScrollArea*>(outer)) ||
+        qobject_cast<const QComboBox*>(outer) || qobject_cast<const QLineEdit*>(outer) ||
+        qobject_cast<const QTabBar*>(outer))
       return true;
+  return false;
+}
+
+bool is_viewport(const QWidget& widget) {
+  const auto* room = qobject_cast<const QScrollArea*>(widget.parentWidget());
+  return room && room->viewport() == &widget;
+}
+
+/// Stands in a room that scrolls: it may lie beyond what shows just now.
+bool scrolls(const QWidget& widget) {
+  for (const QWidget* outer = &widget; outer; outer = outer->parentWidget())
+    if (is_viewport(*outer)) return true;
   return false;
 }
 
@@ -72,9 +86,11 @@ class Looker {
 
   void look_at_room(const QWidget& widget) {
     const QRect place(widget.mapTo(&window_, QPoint()), widget.size());
-    if (!window_.rect().contains(place) && !place.isEmpty()) fault(widget, "stands beyond the window's edge");
+    if (!scrolls(widget) && !window_.rect().contains(place) && !place.isEmpty())
+      fault(widget, "stands beyond the window's edge");
     const QWidget* parent = widget.parentWidget();
-    if (parent != &window_ && !parent->rect().contains(widget.geometry()) && !widget.size().isEmpty())
+    if (parent != &window_ && !is_viewport(*parent) && !parent->rect().contains(widget.geometry()) &&
+        !widget.size().isEmpty())
       fault(widget, "stands beyond the edge of " + name_of(*parent));
     const QSize wanted = needed(widget);
     if (wanted.width() > widget.width() + 1 || wanted.height() > widget.height() + 1)
@@ -96,7 +112,8 @@ class Looker {
                         qobject_cast<const QComboBox*>(&widget) || qobject_cast<const QAbstractScrollArea*>(&widget);
     if (!worked) return;
     auto* spoken = QAccessible::queryAccessibleInterface(const_cast<QWidget*>(&widget));
-    if (!spoken || spoken->text(QAccessible::Name).trimmed().isEmpty()) fault(widget, "has no name for those who listen");
+    if (!spoken || spoken->text(QAccessible::Name).trimmed().isEmpty())
+      fault(widget, "has no name for those who listen");
   }
 
   const QWidget& window_;

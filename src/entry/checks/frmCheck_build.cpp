@@ -14,6 +14,7 @@
 #include "shell/widgets/AddressEdit.h"
 #include "shell/widgets/MoneyEdit.h"
 #include "shell/widgets/QuillbrookDatePick.h"
+#include "shell/widgets/ScrollRoom.h"
 #include "shell/widgets/company_color.h"
 #include "shell/widgets/grid/SSDBCombo.h"
 #include "shell/widgets/paper.h"
@@ -44,6 +45,7 @@ void frmCheck::build_fields() {
   lblBankID = named("lblBankID", new QLabel(this));
   lblBankID->hide();
   txtIndex = named("txtIndex", new QLineEdit(this));
+  txtIndex->setFocusPolicy(Qt::NoFocus);
   txtIndex->hide();
   lblBalance = named("lblBalance", new QLabel);
   lblBalance->setFont(theme::tabular(lblBalance->font()));
@@ -110,6 +112,7 @@ void frmCheck::build_lines() {
 QGroupBox* frmCheck::build_bill() {
   fraBill = named("fraBill", new QGroupBox(QStringLiteral("Bill Payment Info")));
   grdBills = named("grdBills", new SSDBGrid);
+  grdBills->setAccessibleName(QStringLiteral("Bills paid"));
   grdBills->set_columns({{.name = QStringLiteral("Due Date"), .kind = Kind::date, .width = 12},
                          {.name = QStringLiteral("Number"), .width = 14},
                          {.name = QStringLiteral("Vendor")},
@@ -138,6 +141,7 @@ QGroupBox* frmCheck::build_liability() {
   fraLiability = named("fraLiability", new QGroupBox(QStringLiteral("Liability Payment Summary")));
   lblPaidThrough = named("lblPaidThrough", new QLabel);
   grdLiabilities = named("grdLiabilities", new SSDBGrid);
+  grdLiabilities->setAccessibleName(QStringLiteral("Liabilities paid"));
   grdLiabilities->set_columns(
       {{.name = QStringLiteral("Payroll Item")}, {.name = QStringLiteral("Amount"), .kind = Kind::money, .width = 14}});
   cmdLiaEdit = named("cmdLiaEdit", new QPushButton(QStringLiteral("&Edit Liability Check")));
@@ -169,12 +173,14 @@ void frmCheck::build() {
   cmdPrint = named("cmdPrint", new QPushButton(QStringLiteral("&Print Check")));
   cmdDelete = named("cmdDelete", new QPushButton(QStringLiteral("&Delete Check")));
   cmdRepeat = leads_to(named("cmdRepeat", new QPushButton(QStringLiteral("&Repeat Check"))), "frmModRepeat");
+  auto* sheet = column_layout();
+  sheet->addLayout(bank);
+  sheet->addWidget(build_check());
+  sheet->addWidget(lblLocked);
+  sheet->addWidget(pages_, 1);
   auto* column = column_layout(this);
-  column->addLayout(bank);
-  column->addWidget(build_check());
-  column->addWidget(lblLocked);
-  column->addWidget(pages_, 1);
-  column->addLayout(button_row({cmdPrint, cmdDelete, cmdRepeat}, {cmdPrev, cmdNext, cmdOk}));
+  column->addWidget(new ScrollRoom(sheet), 1);
+  column->addLayout(button_row({cmdPrint, cmdDelete, cmdRepeat}, {cmdPrev, cmdNext, cmdSaveNew, cmdOk}));
   setMinimumWidth(80 * theme::unit);
 }
 
@@ -182,8 +188,8 @@ void frmCheck::build() {
 void frmCheck::order_tabs() {
   QWidget* const order[] = {cmbAccount,      txtNumber,      DTPicker1,       cmbPayee,     txtAmount,
                             txtAddress,      txtMemo,        expenses_->grid, items_->grid, grdBills,
-                            cmdEditPayCheck, grdLiabilities, cmdLiaEdit,      cmdPrev,      cmdNext,
-                            cmdOk,           cmdPrint,       cmdDelete,       cmdRepeat};
+                            cmdEditPayCheck, grdLiabilities, cmdLiaEdit,      cmdSaveNew,   cmdOk,
+                            cmdPrev,         cmdNext,        cmdPrint,        cmdDelete,    cmdRepeat};
   for (size_t i = 1; i < std::size(order); ++i) setTabOrder(order[i - 1], order[i]);
 }
 

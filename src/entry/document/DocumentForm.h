@@ -57,6 +57,8 @@ class DocumentForm : public WalkForm {
     if (next.document) show(std::move(*next.document));
   }
 
+  void show_new() override { show(kind_.blank(session)); }
+
   void load_again() override { show(Open_Document(session, kind_, document_.TransNum)); }
 
   void show_deleted(const Deleted<Document>& result) {

@@ -15,6 +15,7 @@ ExpenseGrid::ExpenseGrid(EntryForm& window, Shell& shell_of_frame, DropDowns& li
       {choice("Category", lists.drpExpenseList, CatID), amount("Amount", 15), text("Memo"),
        choice("Customer", lists.drpCustomers), choice("Class", lists.drpClass), hidden("CatID"), hidden("Kept")},
       hint);
+  grid->setAccessibleName(QStringLiteral("Expenses"));
   on(&SSDBGrid::AfterColUpdate, "grdExpense_AfterColUpdate", [this](int row, int column) {
     if (column == Category || column == Class) form.set_Valid(grid->Valid());
     if (column == Category) offer_remainder(row);

@@ -16,6 +16,7 @@ ItemGrid::ItemGrid(EntryForm& window, Shell& shell_of_frame, DropDowns& lists_of
     columns.push_back(column_of(fields[at], layout));
   }
   grid = form.line_grid(layout.name, std::move(columns), layout.hint);
+  grid->setAccessibleName(QStringLiteral("Items"));
   on(&SSDBGrid::AfterColUpdate, "grdItems_AfterColUpdate", [this](int row, int column) { updated(row, column); });
   on(&SSDBGrid::AfterDelete, "grdItems_AfterDelete", [this] { tell(); });
 }
@@ -29,7 +30,7 @@ GridColumn ItemGrid::column_of(Field field, const Layout& layout) const {
     case Field::Quantity:
       return {.name = QString::fromLatin1(layout.Quantity), .kind = Kind::number, .width = 10};
     case Field::Cost:
-      return amount(layout.Cost, 12);
+      return price(layout.Cost, 12);
     case Field::Amount:
       return amount("Amount", 15);
     case Field::Customer:

@@ -1,5 +1,6 @@
 #include "entry/document/LineGrid.h"
 
+#include "core/values/format.h"
 #include "core/values/text.h"
 #include "lists/small_lists.h"
 
@@ -10,6 +11,12 @@ LineGrid::LineGrid(EntryForm& window, Shell& shell_of_frame, DropDowns& lists_of
 
 GridColumn LineGrid::amount(const char* caption, int width) {
   return {.name = QString::fromLatin1(caption), .kind = Kind::money, .width = width};
+}
+
+GridColumn LineGrid::price(const char* caption, int width) {
+  GridColumn column = amount(caption, width);
+  column.mask = price_mask;
+  return column;
 }
 
 GridColumn LineGrid::choice(const char* caption, SSDBDropDown* list, int id_column) {

@@ -28,6 +28,7 @@ class LineGrid : public QObject {
 
   static GridColumn text(const char* caption) { return {.name = QString::fromLatin1(caption)}; }
   static GridColumn amount(const char* caption, int width);
+  static GridColumn price(const char* caption, int width);  ///< of one piece: parts of a cent show
   static GridColumn choice(const char* caption, SSDBDropDown* list, int id_column = -1);
   static GridColumn hidden(const char* caption);
 

@@ -75,6 +75,7 @@ frmRegister::~frmRegister() = default;
 void frmRegister::build_register() {
   auto* grid = new RegisterGrid;
   grdRegister = named("grdRegister", grid);
+  grdRegister->setAccessibleName(QStringLiteral("Register"));
   GridColumn balance = money("Balance");
   balance.locked = true;
   balance.width = 15;
@@ -107,6 +108,7 @@ void frmRegister::build_break_down() {
   fraBreakDown->setFrameShape(QFrame::StyledPanel);
   fraBreakDown->setAutoFillBackground(true);
   grdBreakDown = named("grdBreakDown", new SSDBGrid);
+  grdBreakDown->setAccessibleName(QStringLiteral("Break Down"));
   grdBreakDown->set_columns({choice("Account", SSDBDropDown1, 0, line::CatID), money("Amount"), text("Memo"),
                              choice("Customer", drpCustomers), choice("Class", lists_->drpClass), hidden("CatID"),
                              hidden("Kept")});

@@ -103,6 +103,7 @@ QWidget* ReportForm::build_sheet() {
   Label5 = named("Label5", heading_label(1.1, false));
   Label4 = named("Label4", heading_label(1, false));
   grdPL = named("grdPL", new SSDBGrid);
+  grdPL->setAccessibleName(QStringLiteral("Report"));
   grdPL->setFrameShape(QFrame::NoFrame);
   grdPL->setShowGrid(false);
   grdPL->set_multi_select(true);

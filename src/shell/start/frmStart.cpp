@@ -3,9 +3,11 @@
 #include <QBoxLayout>
 #include <QButtonGroup>
 #include <QLabel>
+#include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
 
+#include "core/company/recent.h"
 #include "shell/widgets/line_icon.h"
 #include "shell/widgets/theme.h"
 
@@ -44,6 +46,26 @@ frmStart::frmStart(Shell& shell_of_frame, CompanyCommands& commands)
   setWindowTitle(QStringLiteral("Start"));
   build();
   on(cmdOK, "cmdOk_AfterClick", [this] { cmdOk_AfterClick(); });
+  on(lstRecent, &QListWidget::itemActivated, "lstRecent_DblClick", [this] { lstRecent_DblClick(); });
+  fill_recent();
+}
+
+void frmStart::fill_recent() {
+  for (const auto& path : Recent_Companies(session.folder)) {
+    auto* item = new QListWidgetItem(qt(path.stem().string()), lstRecent);
+    item->setToolTip(qt(path.string()));
+    item->setData(Qt::UserRole, qt(path.string()));
+  }
+  const bool any = lstRecent->count() > 0;
+  lstRecent->setVisible(any);
+  if (!any) return;
+  lstRecent->setCurrentRow(0);
+  lstRecent->setFocus();
+}
+
+void frmStart::lstRecent_DblClick() {
+  const QListWidgetItem* chosen = lstRecent->currentItem();
+  if (chosen && commands_.Open_Recent_At_Start(utf8(chosen->data(Qt::UserRole).toString()))) finish(true);
 }
 
 void frmStart::build() {
@@ -52,6 +74,10 @@ void frmStart::build() {
   auto* column = column_layout(this);
   column->addLayout(heading());
   column->addSpacing(theme::gap);
+  lstRecent = named("lstRecent", new QListWidget);
+  lstRecent->setAccessibleName(QStringLiteral("Companies opened last"));
+  lstRecent->setMaximumHeight(6 * (fontMetrics().height() + theme::unit));
+  column->addWidget(lstRecent);
   for (const OptionRow& row : option_rows) {
     auto* option = named(row.name, new QRadioButton(QString::fromLatin1(row.caption)));
     optStart->addButton(option, row.index);

@@ -4,6 +4,7 @@
 #include "shell/widgets/Form.h"
 
 class QButtonGroup;
+class QListWidget;
 class QPushButton;
 
 namespace tallymere {
@@ -19,11 +20,14 @@ class frmStart : public Form {
 
  private:
   void build();
+  void fill_recent();
   void cmdOk_AfterClick();
+  void lstRecent_DblClick();
 
   CompanyCommands& commands_;
   QButtonGroup* optStart;
   QPushButton* cmdOK;
+  QListWidget* lstRecent;  ///< companies opened last; Enter opens
 };
 
 }  // namespace tallymere

@@ -73,11 +73,15 @@ StartPanel::StartPanel(QWidget* parent) : QWidget(parent) {
   name_ = centred_label(1.6, true);
   line_ = centred_label(1.0, false);
   quieten(line_);
+  figures_ = new QGridLayout;
+  figures_->setHorizontalSpacing(4 * theme::gap);
+  figures_->setVerticalSpacing(theme::gap / 2);
   buttons_ = new QGridLayout;
   buttons_->setSpacing(theme::gap);
   column->addWidget(mark);
   column->addWidget(name_);
   column->addWidget(line_);
+  column->addLayout(figures_);
   column->addLayout(buttons_);
 }
 
@@ -90,9 +94,38 @@ void StartPanel::paintEvent(QPaintEvent*) {
   painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), theme::unit, theme::unit);
 }
 
-void StartPanel::show_company(const QString& name, const QString& line, const std::vector<Shortcut>& shortcuts) {
+void StartPanel::show_company(const QString& name, const QString& line, const std::vector<Figure>& figures,
+                              const std::vector<Shortcut>& shortcuts) {
   name_->setText(name_->fontMetrics().elidedText(name, Qt::ElideRight, 320));
   line_->setText(line);
+  show_figures(figures);
+  show_shortcuts(shortcuts);
+  centre();
+}
+
+void StartPanel::show_figures(const std::vector<Figure>& figures) {
+  figures_->setContentsMargins(0, figures.empty() ? 0 : 2 * theme::gap, 0, 0);
+  while (QLayoutItem* item = figures_->takeAt(0)) {
+    delete item->widget();
+    delete item;
+  }
+  int row = 0;
+  for (const Figure& figure : figures) {
+    auto* caption = new QLabel(fontMetrics().elidedText(figure.caption, Qt::ElideRight, 240));
+    auto* amount = new QLabel(figure.amount);
+    caption->setTextFormat(Qt::PlainText);
+    quieten(caption);
+    amount->setFont(theme::tabular(amount->font()));
+    amount->setAlignment(Qt::AlignRight);
+    amount->setObjectName(QStringLiteral("figure_%1").arg(row));
+    figures_->addWidget(caption, row, 0);
+    figures_->addWidget(amount, row++, 1);
+    caption->show();
+    amount->show();
+  }
+}
+
+void StartPanel::show_shortcuts(const std::vector<Shortcut>& shortcuts) {
   buttons_->setContentsMargins(0, shortcuts.empty() ? 0 : 2 * theme::gap, 0, 0);
   for (QToolButton* button : findChildren<QToolButton*>()) {
     buttons_->removeWidget(button);
@@ -110,7 +143,6 @@ void StartPanel::show_company(const QString& name, const QString& line, const st
     button->show();  // a button that is yet to show takes no room when the card is measured
     ++place;
   }
-  centre();
 }
 
 void StartPanel::centre() {

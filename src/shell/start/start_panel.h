@@ -23,8 +23,13 @@ class StartPanel : public QWidget {
 
   explicit StartPanel(QWidget* parent);
 
-  /// Heading, the line below it, and the shortcuts that can be used now.
-  void show_company(const QString& name, const QString& line, const std::vector<Shortcut>& shortcuts);
+  struct Figure {
+    QString caption, amount;
+  };
+
+  /// Heading, the line below it, what a person asks first, and the shortcuts that can be used now.
+  void show_company(const QString& name, const QString& line, const std::vector<Figure>& figures,
+                    const std::vector<Shortcut>& shortcuts);
   void centre();
 
  Q_SIGNALS:
@@ -35,7 +40,10 @@ class StartPanel : public QWidget {
 
  private:
   QLabel *name_, *line_;
-  QGridLayout* buttons_;
+  void show_figures(const std::vector<Figure>& figures);
+  void show_shortcuts(const std::vector<Shortcut>& shortcuts);
+
+  QGridLayout *figures_, *buttons_;
 };
 
 /// The shortcuts of an open company, and those without one.

@@ -19,7 +19,7 @@ constexpr int lines_shown = 5;
 AddressEdit::AddressEdit(QWidget* parent) : QPlainTextEdit(parent) {
   setTabChangesFocus(true);
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
-  setMinimumHeight(QFontMetrics(font()).lineSpacing() * 4 + theme::unit);
+  setMinimumHeight(QFontMetrics(font()).lineSpacing() * 3 + theme::unit);
 }
 
 std::string AddressEdit::text() const { return replace_all(toPlainText().toStdString(), "\n", "\r\n"); }

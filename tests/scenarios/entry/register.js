@@ -100,7 +100,7 @@ box("Save Changes", null, "Yes");
 next.row(0);
 equal(next.row(), 0, "the line that was gone to");
 equal(sides(3), ["Ledger Entry 0SS 29SS 20 0 20", "Ledger Entry 29SS 0SS 0 20 20"]);
-equal(w.lblTotal.value, "-$1305.50");
+equal(w.lblTotal.value, "-$1,305.50");
 
 // A line is written anew under its number; an entry of another year asks for a full balance pass.
 next.set(1, "Payment", "80");

@@ -19,7 +19,7 @@ const main = win("frmMain");
 equal(main.mnuOpenCommpany.caption, "&Open Company");
 equal(main.mnuPrefrences.caption, "&Prefernces.....");
 equal(main.mnnuPrint1099.caption, "Print 109&9s");
-ok(!main.mnuHelp.enabled, "help has no command");
+ok(main.mnuHelp.enabled && main.mnuKeys.enabled, "help is there");
 equal(main.btnAccounts.caption, "Categories");
 
 box("Help", "Please Contact Quillbrook Software for Help or Tech Support.");

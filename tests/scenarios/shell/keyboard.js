@@ -31,6 +31,7 @@ for (const [keys, kept] of [["Ctrl+Enter", 1], ["Esc", 0], ["Ctrl+W", 0]]) {
   modal("frmModAccount", function (d) {
     type(d.cmbType, "Expense");
     type(d.txtName, "with " + keys);
+    if (!kept) box("Save Changes", null, "No");
     key(d.txtName, keys);
   });
   click(list.cmdAction);

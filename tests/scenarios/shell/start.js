@@ -1,5 +1,5 @@
 // From an empty folder to a company, by each option of the start window, and out again.
-const companyMenus = ["mnuAction", "mnuOptions", "mnuWindow", "mnuReports", "mnuBackup", "mnuRestore", "mnuImport",
+const companyMenus = ["mnuAction", "mnuOptions", "mnuWindow", "mnuReports", "mnuBackup", "mnuRestore",
                       "mnuFile"];
 
 function enabledMenus(frame) { return companyMenus.filter(function (name) { return frame[name].enabled; }); }

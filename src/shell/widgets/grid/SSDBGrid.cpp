@@ -25,7 +25,7 @@ SSDBGrid::SSDBGrid(QWidget* parent) : QTableView(parent), model_(new GridModel(t
   setHorizontalScrollMode(ScrollPerPixel);
   setVerticalScrollMode(ScrollPerPixel);
   setTextElideMode(Qt::ElideRight);
-  setMinimumHeight(15 * theme::unit);
+  setMinimumHeight(11 * theme::unit);
   model_->read_only = true;
   settle_modes();
   changeEvent(nullptr);
