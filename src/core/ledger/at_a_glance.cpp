@@ -6,7 +6,9 @@ std::vector<BankBalance> Bank_Balances(Session& session) {
   std::vector<BankBalance> banks;
   session.dbCompany->each(
       "SELECT AccountName, Balance FROM Accounts WHERE AccountType = 'Bank' AND NOT Dormant ORDER BY AccountName", {},
-      [&](const store::Row& row) { banks.push_back({std::string(row.text(0)), row.money(1)}); });
+      [&](const store::Row& row) {
+        banks.push_back({std::string(row.text(0)), row.money(1)});
+      });
   return banks;
 }
 
@@ -19,7 +21,9 @@ Due Due_This_Week(Session& session) {
   session.dbCompany->each(
       "SELECT COUNT(*), SUM(Amount) FROM Transactions WHERE Type = 'Bill' AND Account = 'AP1' AND NOT Paid AND "
       "DueDate < ?",
-      {session.today().plus_days(7)}, [&](const store::Row& row) { due = {row.integer(0), row.money(1)}; });
+      {session.today().plus_days(7)}, [&](const store::Row& row) {
+        due = {row.integer(0), row.money(1)};
+      });
   return due;
 }
 

@@ -19,17 +19,25 @@ struct Row {
 };
 
 constexpr std::array types = {
-    Row{"Check", "mnuChecks"},          Row{"Billcheck", "mnuPayBill"},     Row{"Deposit", "mnuDepositFunds"},
-    Row{"Payment", "mnuPayments"},      Row{"Invoice", "mnuInvoices"},      Row{"Bill", "mnuBill"},
+    Row{"Check", "mnuChecks"},           Row{"Billcheck", "mnuPayBill"},          Row{"Deposit", "mnuDepositFunds"},
+    Row{"Payment", "mnuPayments"},       Row{"Invoice", "mnuInvoices"},           Row{"Bill", "mnuBill"},
     Row{"Item Receipt", "mnuInventory"}, Row{"Inventory Adjust", "mnuInventory"}, Row{"Paycheck", "mnuPayroll"},
     Row{"Liabilitycheck", "mnuPayroll"}, Row{"Ledger Entry", "mnuJournal"}};
 
-constexpr std::array tables = {
-    Row{"Accounts", "mnuAccounts"},  Row{"Customers", "mnuCustomers"}, Row{"CustomerMessages", "mnuCusMes"},
-    Row{"Estimates", "mnuCreateEstimate"}, Row{"EstItems", "mnuCreateEstimate"}, Row{"POs", "mnuPO"},
-    Row{"POItems", "mnuPO"},         Row{"PSlips", "mnuPS"},           Row{"PSlipItems", "mnuPS"},
-    Row{"Vendors", "mnuVendors"},    Row{"Items", "mnuItems"},         Row{"Employees", "mnuEmployee"},
-    Row{"PayrollItems", "mnuPayItems"}, Row{"Class", "mnuClassList"}};
+constexpr std::array tables = {Row{"Accounts", "mnuAccounts"},
+                               Row{"Customers", "mnuCustomers"},
+                               Row{"CustomerMessages", "mnuCusMes"},
+                               Row{"Estimates", "mnuCreateEstimate"},
+                               Row{"EstItems", "mnuCreateEstimate"},
+                               Row{"POs", "mnuPO"},
+                               Row{"POItems", "mnuPO"},
+                               Row{"PSlips", "mnuPS"},
+                               Row{"PSlipItems", "mnuPS"},
+                               Row{"Vendors", "mnuVendors"},
+                               Row{"Items", "mnuItems"},
+                               Row{"Employees", "mnuEmployee"},
+                               Row{"PayrollItems", "mnuPayItems"},
+                               Row{"Class", "mnuClassList"}};
 
 constexpr int looked_back = 200;  ///< actions among which the one to take back is sought
 
@@ -46,7 +54,8 @@ std::string Type_Of(store::Database& db, const store::Change& change) {
 }
 
 bool Granted(const std::vector<CommandRight>& rights, std::string_view command) {
-  return std::ranges::none_of(rights, [&](const CommandRight& right) { return right.name == command && !right.granted; });
+  return std::ranges::none_of(rights,
+                              [&](const CommandRight& right) { return right.name == command && !right.granted; });
 }
 
 bool Is_Undone(store::Database& db, int64_t number) {
@@ -93,7 +102,8 @@ std::optional<store::Action> Last_To_Undo(Session& session) {
     if (!action.undoable || action.undoes != 0 || Is_Undone(db, action.number)) continue;
     if (session.MultiUser && action.user != session.acting_user()) continue;
     const auto changes = store::Changes_Of(db, action.number);
-    const bool in_ledger = std::ranges::any_of(changes, [](const auto& change) { return change.table == "Transactions"; });
+    const bool in_ledger =
+        std::ranges::any_of(changes, [](const auto& change) { return change.table == "Transactions"; });
     if (in_ledger && Reaches(db, rights, changes)) return std::move(action);
   }
   return std::nullopt;

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "core/company/field_captions.h"
+#include "core/ledger/ledger.h"
 #include "core/ledger/reach.h"
 #include "core/values/control_characters.h"
 #include "core/values/format.h"
@@ -32,6 +33,13 @@ std::string shown(const store::Value& value) {
   if (const auto* amount = std::get_if<Money>(&value.content())) return Money_Text(*amount);
   if (const auto* flag = std::get_if<bool>(&value.content())) return *flag ? "Yes" : "No";
   return in_one_plain_line(value.text());
+}
+
+/// Categories stand in the ledger by their id; people know their names.
+std::string shown(Session& session, const store::Change& change, const std::string& field, const store::Value& value) {
+  const bool category = change.table == "Transactions" && (field == "Account" || field == "Category");
+  const std::string name = category && !value.blank() ? Category_Name(session, value.text()) : "";
+  return name.empty() ? shown(value) : in_one_plain_line(name);
 }
 
 }  // namespace
@@ -120,7 +128,8 @@ void frmHistory::show_changes() {
     std::string where = Field_Caption(change.table) + ", " + word_for(change.kind);
     for (const auto& cell : change.cells) {
       if (shown(cell.before) == shown(cell.after)) continue;
-      grdChanges->AddValues({where, Field_Caption(cell.field), shown(cell.before), shown(cell.after)});
+      grdChanges->AddValues({where, Field_Caption(cell.field), shown(session, change, cell.field, cell.before),
+                             shown(session, change, cell.field, cell.after)});
       where.clear();
     }
   }

@@ -15,7 +15,7 @@ TEST(AtAGlance, BanksInUseWhatIsOwedAndWhatIsDueWithinAWeek) {
         "INSERT INTO Transactions (TransNum, Type, Account, DueDate, Paid, Amount) VALUES (?, 'Bill', ?, ?, ?, ?)",
         {number, std::string(account), due, paid, Money::parse(amount).value()});
   };
-  bill(1, Date(2026, 6, 1), false, "AP1", "10");    // overdue
+  bill(1, Date(2026, 6, 1), false, "AP1", "10");     // overdue
   bill(2, Date(2026, 6, 21), false, "AP1", "20.5");  // the last day of the week
   bill(3, Date(2026, 6, 22), false, "AP1", "40");
   bill(4, Date(2026, 6, 16), true, "AP1", "80");
