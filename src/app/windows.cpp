@@ -52,6 +52,7 @@ const WindowTable& Windows() {
       {"frmSavedReps", Make_Window<frmSavedReps>},
       {"frmPrintAging", Make_Window<frmPrintAging>},
       {"frmPrintAgeDetail", Make_Report<"frmPrintAgeDetail">},
+      {"frmPrintBalSheet", Make_Report<"frmPrintBalSheet">},
       {"frmPrintBalances", Make_Report<"frmPrintBalances">},
       {"frmPrintListCat", Make_Report<"frmPrintListCat">},
       {"frmPrintListCus", Make_Report<"frmPrintListCus">},

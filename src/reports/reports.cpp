@@ -2,6 +2,7 @@
 
 #include "core/values/text.h"
 #include "reports/aging/aging_reports.h"
+#include "reports/balance/balance_sheet.h"
 #include "reports/frame/row_groups.h"
 #include "reports/frame/table_parts.h"
 #include "reports/lists/list_reports.h"
@@ -48,6 +49,10 @@ constexpr ReportDef reports[] = {
      report_option::item, "Type,Date,Number,Name,Memo,Qty,Amount,"},
     {"PayItem", "frmPrintCustom", "mnuRPayroll", "Payroll Item Report", Dates::Year, Build_PayItem_Report, no_basis, "",
      "Type,Date,Number,Name,PayrollItem,Amount,"},
+    {"BalStand", "frmPrintBalSheet", "mnuBalance", "Balance Sheet", Dates::As_Of, Build_BalStand, has_basis},
+    {"BalSum", "frmPrintBalSheet", "mnuBalance", "Balance Sheet Summary", Dates::As_Of, Build_BalSum, has_basis},
+    {"BalCmp", "frmPrintBalSheet", "mnuBalance", "Balance Sheet Comparison", Dates::As_Of, Build_BalCmp, has_basis},
+    {"BalDetail", "frmPrintBalSheet", "mnuBalance", "Balance Sheet Detailed", Dates::As_Of, Build_BalDetail, has_basis},
     {"AR", "frmPrintAging", "mnuAR", "Accounts Receivable Aging Summary", Dates::As_Of, Build_Receivable_Aging},
     {"AP", "frmPrintAging", "mnuAP", "Accounts Payable Aging Summary", Dates::As_Of, Build_Payable_Aging},
     {"ARDetail", "frmPrintAgeDetail", "mnuAR", "Accounts Receivable Aging Detail", Dates::As_Of,

@@ -33,6 +33,13 @@ constexpr UpgradeStep upgrade_steps[] = {
            Fill_Applied(db);
            Note_All_Numbers(db);
          }},
+    // the index of items has grown
+    {.to = 5,
+     .run =
+         [](Database& db) {
+           db.connection().execute("DROP INDEX IF EXISTS Transactions_Item");
+           Create_Reading_Indexes(db);
+         }},
 };
 
 std::span<const TableDef> Tables_Of(FileKind kind) {

@@ -20,8 +20,12 @@ constexpr ReadingIndex reading[] = {
     {"Transactions_Unpaid", "Transactions", "Name, Debit", "Type = 'Bill' AND Paid = 0"},
     // find by day, the list of years, reports over all categories of a period; what was paid in it
     {"Transactions_Date", "Transactions", "Date, TransNum", ""},
-    // stock, sales and sales tax of one item; most rows have none
-    {"Transactions_Item", "Transactions", "Item", "Item IS NOT NULL"},
+    // stock, sales and sales tax of one item, summed from the index alone; most rows have none
+    {"Transactions_Item", "Transactions", "Item, Date, Type, Paid, SourceName, Qty, Amount, Debit, Credit",
+     "Item IS NOT NULL"},
+    // bills that nothing has paid yet, which do not count on cash basis
+    {"Transactions_OpenBills", "Transactions", "Account, Date, Debit, Credit",
+     "Type = 'Bill' AND COALESCE(PaidBy, '') = ''"},
     // one employee's sums per payroll item since New Year, asked for each line of a paycheck
     {"Transactions_SSNum", "Transactions", "SSNum, PayrollItem, Date", "SSNum IS NOT NULL"},
     // liabilities and tax forms sum one payroll item over all employees
@@ -32,10 +36,10 @@ constexpr ReadingIndex reading[] = {
     // what an invoice comes to: the first of its rows on AR1, as the rows were written
     {"Transactions_Receivable", "Transactions", "TransNum, RowKey, Amount", "Account = 'AR1'"},
     // income of a period, when the invoice had been paid in part before
+    {"Transactions_PaidByMore", "Transactions", "PaidBy", not_one_payment},
     // what a payment settled, and by whom a document was settled, at every save and deletion
     {"Applied_Payment", "Applied", "Payment, Document", ""},
     {"Applied_Document", "Applied", "Document, RowKey, Payment, Amount", ""},
-    {"Transactions_PaidByMore", "Transactions", "PaidBy", not_one_payment},
 };
 
 constexpr StoredQuery queries[] = {

@@ -4,6 +4,7 @@
 #include "reports/aging/open_documents.h"
 #include "reports/frame/listing.h"
 #include "reports/frame/names.h"
+#include "reports/frame/table_parts.h"
 
 // What a period moved on the control category, name by name.
 namespace tallymere {
@@ -78,8 +79,7 @@ class Movements {
   void add_to(ReportTable& table, Listing& listing, const std::vector<int>& rows) const {
     for (const int row : rows) {
       listing.sum(values_[static_cast<size_t>(row)]);
-      auto line = table.add_row(Role::Detail, lines_.key(row));
-      for (int column = 0; column <= amount_column; ++column) line.value(lines_.value(row, column));
+      Add_Rows(lines_, row, 1, table);
     }
   }
   const std::vector<int>* rows_of(const std::string& name) const {

@@ -42,8 +42,23 @@ void Statement::Load_SubAccounts(const std::string& parent, const Place& place, 
   for (const Category* child : tree_.children(parent)) add_family(*child, place, false, total);
 }
 
+void Statement::add_line(std::string_view label, const Amounts& amounts, const std::string& CatID,
+                         const Statement_Rows* rows) {
+  if (rows) {
+    table_.add_row(Role::Group).skip(label_column).text(label);
+    rows->add_to(table_, CatID);
+  }
+  const RowKey key = rows_ || CatID.empty() ? RowKey() : To_Report(go_to_, CatID);
+  add_amounts(table_.add_row(rows ? Role::Subtotal : Role::Detail, key), label, amounts);
+}
+
 void Statement::add_total(std::string_view label, const Amounts& amounts, Role role) {
-  add_amounts(table_.add_row(role), label, amounts);
+  if (!columns_.totals_apart) return add_amounts(table_.add_row(role), label, amounts);
+  table_.add_row(role)
+      .skip(label_column)
+      .text(label)
+      .skip()
+      .money(amounts.columns.empty() ? Money() : amounts.columns[0]);
 }
 
 void Statement::add_amounts(ReportTable::Line line, std::string_view label, const Amounts& amounts) {
@@ -60,6 +75,7 @@ void Statement::add_gap() {
 std::vector<ReportColumn> Statement_Table_Columns(const Statement_Columns& columns) {
   std::vector<ReportColumn> all = {{.kind = ReportColumn::Kind::Margin}, {}};
   all.insert(all.end(), columns.columns.begin(), columns.columns.end());
+  if (columns.totals_apart) all.push_back({.kind = ReportColumn::Kind::Money, .name = "Total"});
   return all;
 }
 

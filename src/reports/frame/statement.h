@@ -14,7 +14,8 @@ struct Statement_Columns {
   /// Whether a section's total takes in the sub-categories' figures although their parents' hold them already.
   /// Columns of comparison do; a statement's own amount does not.
   std::vector<bool> counts_twice;
-  ColumnFigures own;  ///< as income has them: credits add
+  ColumnFigures own;          ///< as income has them: credits add
+  bool totals_apart = false;  ///< totals stand in a column of their own, right of the categories' one
 };
 
 /// Walks the categories of a statement: section by section, each category followed by those below it, figures
@@ -34,6 +35,9 @@ class Statement {
   Amounts add_section(std::string_view AccountType, Side side, int level = 1, int level_below = 2);
   /// One category with those below it; what it adds to its section.
   Amounts add_category(const Category& category, Side side, int level, int level_below);
+  /// A row that is no category of the walk: of `CatID` where it stands for one, with these rows before it.
+  void add_line(std::string_view label, const Amounts& amounts, const std::string& CatID = {},
+                const Statement_Rows* rows = nullptr);
   void add_total(std::string_view label, const Amounts& amounts, Role role = Role::Total);
   void add_spacer() { table_.add_spacer(); }
   void add_gap();  ///< a detailed statement keeps its totals apart from its rows

@@ -41,6 +41,11 @@ ReportTable Part_Of(const ReportTable& table, const std::vector<bool>& columns, 
   return part;
 }
 
+void Add_Rows(const ReportTable& from, int first, int count, ReportTable& to) {
+  const std::vector<bool> all(to.columns.size(), true);
+  for (int row = first; row < first + count; ++row) Copy_Row(from, row, all, to);
+}
+
 std::vector<std::string> Column_Names(std::string_view list) {
   std::vector<std::string> names(1);
   for (size_t at = 0; at < list.size(); ++at) {

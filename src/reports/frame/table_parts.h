@@ -12,6 +12,9 @@ namespace tallymere {
 /// The table with only these of its columns and rows; without `rows`, all of them.
 ReportTable Part_Of(const ReportTable& table, const std::vector<bool>& columns, const std::vector<bool>& rows = {});
 
+/// Adds some rows of another table of the same columns.
+void Add_Rows(const ReportTable& from, int first, int count, ReportTable& to);
+
 /// The names of a comma-list, as options and saved reports keep columns; blanks and empty entries are left out.
 /// A comma inside a name stands there after a backslash, a backslash after another.
 std::vector<std::string> Column_Names(std::string_view list);

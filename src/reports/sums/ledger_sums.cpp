@@ -29,13 +29,6 @@ std::string Category_Rows(std::string_view columns, std::string_view condition) 
          std::string(condition);
 }
 
-/// A bill that was paid after the period ended.
-struct LateBill {
-  std::string_view Account, Name, Class;
-  std::string_view date;
-  Money value;
-};
-
 /// When transactions happened, asked one by one and kept.
 class TransactionDates {
  public:
@@ -53,11 +46,10 @@ class TransactionDates {
 };
 
 constexpr std::string_view bill_columns = "Account, Name, Class, Debit, Credit, PaidBy, Date";
-constexpr std::string_view is_paid_bill = " AND Transactions.Type = 'Bill' AND Paid <> 0";
-
 /// The period's paid bills, reached by their own dates, or by those of the transactions after the period,
 /// which is the shorter way when few days have passed since.
-std::string Paid_Bills(DateRange days, Date newest) {
+std::string Paid_Bills(DateRange days, Date newest, std::string_view paid) {
+  const std::string is_paid_bill = " AND Transactions.Type = 'Bill' AND " + std::string(paid);
   if (days_between(days.start, days.end) < days_between(days.end, newest))
     return Category_Rows(bill_columns, is_paid_bill);
   return "SELECT " + std::string(bill_columns) +
@@ -66,22 +58,13 @@ std::string Paid_Bills(DateRange days, Date newest) {
          " CROSS JOIN Transactions INDEXED BY Transactions_PaidBy"
          " WHERE PaidBy >= payment || ';' AND PaidBy < payment || '<' AND Date >= ?1 AND Date <= ?2"
          " AND Account IN (SELECT value FROM json_each(?3))" +
-         std::string(is_paid_bill);
+         is_paid_bill;
 }
 
-/// Tells of the period's paid bills that were paid after its end: what Sum_Category must not count.
+/// What Sum_Category must not count on cash basis.
 template <typename Fn>
 void Bills_Paid_Later(store::Database& db, const CatIDs& categories, const SumRange& range, Fn&& tell) {
-  if (range.basis == Basis::Accrual) return;
-  auto newest = db.value("SELECT MAX(Date) FROM Transactions").maybe_date();
-  if (!newest || *newest <= range.days.end) return;
-  TransactionDates date_of(db);
-  db.each(Paid_Bills(range.days, *newest), Params_Of(categories, range.days), [&](const store::Row& row) {
-    auto payments = Payments_Of(row.text(5));
-    auto paid = payments.empty() ? std::nullopt : date_of(payments.front());
-    if (!paid || *paid <= range.days.end) return;
-    tell(LateBill{row.text(0), row.text(1), row.text(2), row.text(6), Row_Value(row.money(3), row.money(4))});
-  });
+  if (range.basis == Basis::Cash) Bills_Paid_Later(db, categories, range.days, "Paid <> 0", std::forward<Fn>(tell));
 }
 
 /// Where each name stands among a report's columns; a name that stands twice has two.
@@ -100,6 +83,19 @@ void Add(ColumnFigures& figures, const CaselessMap<std::vector<size_t>>& columns
 }
 
 }  // namespace
+
+void Bills_Paid_Later(store::Database& db, const CatIDs& categories, DateRange days, std::string_view paid,
+                      const std::function<void(const LateBill&)>& tell) {
+  auto newest = db.value("SELECT MAX(Date) FROM Transactions").maybe_date();
+  if (!newest || *newest <= days.end) return;
+  TransactionDates date_of(db);
+  db.each(Paid_Bills(days, *newest, paid), Params_Of(categories, days), [&](const store::Row& row) {
+    auto payments = Payments_Of(row.text(5));
+    auto paid_on = payments.empty() ? std::nullopt : date_of(payments.front());
+    if (!paid_on || *paid_on <= days.end) return;
+    tell({row.text(0), row.text(1), row.text(2), row.text(6), Row_Value(row.money(3), row.money(4))});
+  });
+}
 
 Amounts& Amounts::operator+=(const Amounts& more) {
   for (size_t column = 0; column < more.columns.size(); ++column) (*this)[column] += more.columns[column];

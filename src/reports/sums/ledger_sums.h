@@ -74,6 +74,16 @@ ColumnFigures Sum_Category_By_Name(store::Database& db, const CatIDs& categories
 ColumnFigures Sum_Category_By_Class(store::Database& db, const CatIDs& categories, const SumRange& range,
                                     const std::vector<std::string>& classes);
 
+/// A bill that was paid after a period ended. The texts hold until the next one is told.
+struct LateBill {
+  std::string_view Account, Name, Class;
+  std::string_view date;
+  Money value;
+};
+/// Tells of the period's bills, as far as they meet `paid` (in SQL), whose first payment came after its end.
+void Bills_Paid_Later(store::Database& db, const CatIDs& categories, DateRange days, std::string_view paid,
+                      const std::function<void(const LateBill&)>& tell);
+
 /// Part of a category's figure, and the day it counts on.
 struct DatedAmount {
   size_t category;  ///< its place in the list of categories asked for

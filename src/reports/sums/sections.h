@@ -17,6 +17,8 @@ inline constexpr std::array<std::string_view, 5> PL_Sections = {"Income", "Other
                                                                 "Expense", "Other Expense"};
 bool Is_Expense_Side(std::string_view AccountType);
 
+/// Whether a category stands at the top: it has no parent, or one that is gone.
+bool Is_Top_Level(const CategoryTree& tree, const Category& category);
 /// The top-level categories, by name, as every statement walks them.
 std::vector<const Category*> Top_Level_By_Name(const CategoryTree& tree);
 

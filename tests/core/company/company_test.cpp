@@ -143,6 +143,7 @@ TEST(Company, AnOlderFileIsBroughtUpToDateOnOpening) {
     acme.db().connection().execute(
         "DROP VIEW Transactions_decimal; DROP TABLE SavedReports; DROP INDEX Transactions_Account; DROP VIEW VENandCustList;"
         "DROP VIEW Applied_decimal; DROP TABLE Applied; DROP TABLE Marks;"
+        "DROP INDEX Transactions_Item; CREATE INDEX Transactions_Item ON Transactions (Item) WHERE Item IS NOT NULL;"
         "ALTER TABLE Transactions DROP COLUMN Rep; PRAGMA user_version = 0;"
         "INSERT INTO Transactions (TransNum, Amount, Debit, PaidBy) VALUES (7, -70000, -70000, '31;')");
     tx.commit();
@@ -156,6 +157,7 @@ TEST(Company, AnOlderFileIsBroughtUpToDateOnOpening) {
     EXPECT_EQ(acme.db().value("SELECT " + std::string(field) + " FROM Transactions").money(), Money::dollars(7));
   EXPECT_EQ(Next_TransNum(acme.db()), 32) << "31 is named, so it was given";
   EXPECT_EQ(acme.db().value("SELECT COUNT(*) FROM pragma_index_info('Transactions_Account')").integer(), 7);
+  EXPECT_EQ(acme.db().value("SELECT COUNT(*) FROM pragma_index_info('Transactions_Item')").integer(), 9);
   EXPECT_EQ(acme.db().value("SELECT At FROM History ORDER BY RowKey DESC").text().substr(0, 10), "2026-06-15");
 }
 
