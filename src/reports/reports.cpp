@@ -5,6 +5,7 @@
 #include "reports/balance/balance_sheet.h"
 #include "reports/frame/row_groups.h"
 #include "reports/frame/table_parts.h"
+#include "reports/inventory/inventory_reports.h"
 #include "reports/lists/list_reports.h"
 #include "reports/profit/pl_by_name.h"
 #include "reports/profit/profit_and_loss.h"
@@ -66,6 +67,16 @@ constexpr ReportDef reports[] = {
     {"APVenSum", "frmPrintBalances", "mnuAP", "Vendor Balance Summary", Dates::Year, Build_Vendor_Balances},
     {"ARCusDetail", "frmPrintBalances", "mnuAR", "Customer Balance Detail", Dates::Year, Build_Customer_Balance_Detail},
     {"APVenDetail", "frmPrintBalances", "mnuAP", "Vendor Balance Detail", Dates::Year, Build_Vendor_Balance_Detail},
+    {"InvItem", "frmPrintInvItem", "mnuReportsInventory", "Inventory Status by Item", Dates::As_Of, Build_Stock_By_Item,
+     no_basis, "", "", "Item"},
+    {"InvVendor", "frmPrintInvItem", "mnuReportsInventory", "Inventory Status by Item", Dates::As_Of,
+     Build_Stock_By_Vendor, no_basis, "", "", "Vendor"},
+    {"InvValSum", "frmPrintInvValue", "mnuReportsInventory", "Inventory Stock Value Summary", Dates::As_Of,
+     Build_Stock_Value, no_basis, "", "", "Sum"},
+    {"InvValDetail", "frmPrintInvValue", "mnuReportsInventory", "Inventory Stock Value Detail", Dates::As_Of,
+     Build_Stock_Value_Detail, no_basis, "", "", "Detail"},
+    {"InvCount", "frmPrintInvCount", "mnuReportsInventory", "Inventory Count Worksheet", Dates::All,
+     Build_Count_Worksheet},
     {"ListCus", "frmPrintListCus", "mnuReportLists", "Customer Contact Phone List", Dates::Today, Build_Customer_List},
     {"ListVen", "frmPrintListVen", "mnuReportLists", "Vendor Contact Phone List", Dates::Today, Build_Vendor_List},
     {"ListEmp", "frmPrintListEmp", "mnuReportLists", "Employee Info List", Dates::Today, Build_Employee_List},
