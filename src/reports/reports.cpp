@@ -9,6 +9,7 @@
 #include "reports/lists/list_reports.h"
 #include "reports/profit/pl_by_name.h"
 #include "reports/profit/profit_and_loss.h"
+#include "reports/sales/sales_reports.h"
 #include "reports/transactions/transaction_reports.h"
 
 namespace tallymere {
@@ -67,6 +68,15 @@ constexpr ReportDef reports[] = {
     {"APVenSum", "frmPrintBalances", "mnuAP", "Vendor Balance Summary", Dates::Year, Build_Vendor_Balances},
     {"ARCusDetail", "frmPrintBalances", "mnuAR", "Customer Balance Detail", Dates::Year, Build_Customer_Balance_Detail},
     {"APVenDetail", "frmPrintBalances", "mnuAP", "Vendor Balance Detail", Dates::Year, Build_Vendor_Balance_Detail},
+    {"SaleSum", "frmPrintSales", "mnuSales", "Sales Item Summary", Dates::Month, Build_Item_Sales, has_basis},
+    {"SaleDetail", "frmPrintSales", "mnuSales", "Sales Item Detail", Dates::Month, Build_Item_Sales_Detail, has_basis},
+    {"SaleCusSum", "frmPrintSaleCus", "mnuSales", "Sales Customer Summary", Dates::Month, Build_Customer_Sales,
+     has_basis, "", "", "SaleSum"},
+    {"SaleCusDetail", "frmPrintSaleCus", "mnuSales", "Sales Customer Detail", Dates::Month, Build_Customer_Sales_Detail,
+     has_basis, "", "", "SaleDetail"},
+    {"RepSum", "frmPrintSaleCus", "mnuSales", "Sales Rep Summary", Dates::Month, Build_Rep_Sales, has_basis},
+    {"RepDetail", "frmPrintSaleCus", "mnuSales", "Sales Rep Detail", Dates::Month, Build_Rep_Sales_Detail, has_basis},
+    {"SalesTax", "frmPrintSalesTax", "mnuSalesReport", "Sales Tax Report", Dates::Month, Build_Sales_Tax},
     {"InvItem", "frmPrintInvItem", "mnuReportsInventory", "Inventory Status by Item", Dates::As_Of, Build_Stock_By_Item,
      no_basis, "", "", "Item"},
     {"InvVendor", "frmPrintInvItem", "mnuReportsInventory", "Inventory Status by Item", Dates::As_Of,
