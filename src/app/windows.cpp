@@ -15,6 +15,7 @@
 #include "lists/frmOtherNames.h"
 #include "payroll/frmTimeSheet.h"
 #include "reports/aging/frmPrintAging.h"
+#include "reports/budget/frmBudget.h"
 #include "reports/profit/frmPrintPL2.h"
 #include "reports/saved/frmSavedReps.h"
 #include "reports/transactions/frmPrintCustom.h"
@@ -53,6 +54,9 @@ const WindowTable& Windows() {
       {"frmPrintAging", Make_Window<frmPrintAging>},
       {"frmPrintAgeDetail", Make_Report<"frmPrintAgeDetail">},
       {"frmPrintBalSheet", Make_Report<"frmPrintBalSheet">},
+      {"frmBudget", Make_Window<frmBudget>},
+      {"frmPrintBudCompare", Make_Report<"frmPrintBudCompare">},
+      {"frmPrintBudList", Make_Report<"frmPrintBudList">},
       {"frmPrintInvCount", Make_Report<"frmPrintInvCount">},
       {"frmPrintInvItem", Make_Report<"frmPrintInvItem">},
       {"frmPrintInvValue", Make_Report<"frmPrintInvValue">},

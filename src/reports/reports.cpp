@@ -3,6 +3,7 @@
 #include "core/values/text.h"
 #include "reports/aging/aging_reports.h"
 #include "reports/balance/balance_sheet.h"
+#include "reports/budget/budget_reports.h"
 #include "reports/frame/row_groups.h"
 #include "reports/frame/table_parts.h"
 #include "reports/inventory/inventory_reports.h"
@@ -87,6 +88,8 @@ constexpr ReportDef reports[] = {
      Build_Stock_Value_Detail, no_basis, "", "", "Detail"},
     {"InvCount", "frmPrintInvCount", "mnuReportsInventory", "Inventory Count Worksheet", Dates::All,
      Build_Count_Worksheet},
+    {"BudList", "frmPrintBudList", "mnuBudget", "Complete Budget Listing", Dates::Budget_Year, Build_Budget_List},
+    {"BudCompare", "frmPrintBudCompare", "mnuBudget", "Budget vs. Actual", Dates::Budget_Year, Build_Budget_Compare},
     {"ListCus", "frmPrintListCus", "mnuReportLists", "Customer Contact Phone List", Dates::Today, Build_Customer_List},
     {"ListVen", "frmPrintListVen", "mnuReportLists", "Vendor Contact Phone List", Dates::Today, Build_Vendor_List},
     {"ListEmp", "frmPrintListEmp", "mnuReportLists", "Employee Info List", Dates::Today, Build_Employee_List},
