@@ -7,12 +7,14 @@
 #include "entry/register/frmRegister.h"
 #include "lists/frmAccounts.h"
 #include "lists/frmClass.h"
-#include "lists/frmCusMessage.h"
-#include "lists/frmCustomers.h"
 #include "lists/frmModAccount.h"
-#include "lists/frmModCustomer.h"
 #include "lists/frmNewPayee.h"
 #include "lists/frmOtherNames.h"
+#include "lists/parties/frmCusMessage.h"
+#include "lists/parties/frmCustomers.h"
+#include "lists/parties/frmModCustomer.h"
+#include "lists/parties/frmModVendor.h"
+#include "lists/parties/frmVendors.h"
 #include "payroll/frmTimeSheet.h"
 #include "reports/aging/frmPrintAging.h"
 #include "reports/budget/frmBudget.h"
@@ -42,6 +44,8 @@ const WindowTable& Windows() {
       {"frmCusMessage", Make_Window<frmCusMessage>},
       {"frmCustomers", Make_Window<frmCustomers>},
       {"frmModCustomer", Make_Window<frmModCustomer>},
+      {"frmModVendor", Make_Window<frmModVendor>},
+      {"frmVendors", Make_Window<frmVendors>},
       {"frmModAccount", Make_Window<frmModAccount>},
       {"frmNewPayee", Make_Window<frmNewPayee>},
       {"frmOtherNames", Make_Window<frmOtherNames>},

@@ -154,7 +154,7 @@ RowSave Save_Category(Session& session, ListRow& row, CategoryForm& form) {
     fields.set_text("AccountNum", form.txtAcctNum);
     fields.set_text("Description", form.txtDescripiton);
     fields.set_text("ParentAccount", form.Check1 ? form.lblParentID : "");
-    fields["Dormant"] = form.chkDormant;
+    fields.set_flag("Dormant", form.chkDormant);
     return std::optional<Fault>();
   });
 }

@@ -31,6 +31,10 @@ void ListRow::set_text(std::string_view field, const std::string& text) {
   if (fields_[field].text() != text) fields_[field] = text;
 }
 
+void ListRow::set_flag(std::string_view field, bool flag) {
+  if (is_new() || fields_[field].flag() != flag) fields_[field] = flag;
+}
+
 bool Row_Exists(Session& session, const RowList& list, const std::string& key) {
   return !session.dbCompany
               ->value("SELECT RowKey FROM " + store::Quoted(list.table) + " WHERE " + store::Quoted(list.key) + " = ?",

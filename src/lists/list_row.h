@@ -36,6 +36,7 @@ class ListRow {
   store::FieldRef operator[](std::string_view field) { return fields_[field]; }
   /// Sets a text; an empty one leaves a field without any as it is.
   void set_text(std::string_view field, const std::string& text);
+  void set_flag(std::string_view field, bool flag);  ///< likewise: unset is off
 
  private:
   friend struct RowSaving;

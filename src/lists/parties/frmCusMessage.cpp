@@ -1,4 +1,4 @@
-#include "lists/frmCusMessage.h"
+#include "lists/parties/frmCusMessage.h"
 
 #include "core/values/text.h"
 #include "lists/small_lists.h"

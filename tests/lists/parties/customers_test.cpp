@@ -1,4 +1,4 @@
-#include "lists/customers.h"
+#include "lists/parties/customers.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "lists/customers.h"
+#include "lists/parties/customers.h"
 
 #include "core/ledger/tree_list.h"
 #include "core/values/caseless.h"
@@ -38,7 +38,7 @@ std::optional<Fault> Write_Customer(Session& session, ListRow& row, const Custom
                  "cmbCustomers"};
   for (const auto& [field, text] : texts) row.set_text(field, form.*text);
   row.set_text("ParentName", parent);
-  row["Dormant"] = form.Dormant;
+  row.set_flag("Dormant", form.Dormant);
   if (row.is_new()) row["Balance"] = Money();
   return std::nullopt;
 }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "lists/NamedRowForm.h"
-#include "lists/customers.h"
+#include "lists/parties/customers.h"
 
 class QPlainTextEdit;
 

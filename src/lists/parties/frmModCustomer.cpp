@@ -1,4 +1,4 @@
-#include "lists/frmModCustomer.h"
+#include "lists/parties/frmModCustomer.h"
 
 #include <QCheckBox>
 #include <QFormLayout>

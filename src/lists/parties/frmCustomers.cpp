@@ -1,11 +1,11 @@
-#include "lists/frmCustomers.h"
+#include "lists/parties/frmCustomers.h"
 
 #include <QCheckBox>
 
 #include "core/ledger/balances.h"
 #include "core/ledger/tree_list.h"
-#include "lists/customers.h"
 #include "lists/named_rows.h"
+#include "lists/parties/customers.h"
 
 namespace tallymere {
 
