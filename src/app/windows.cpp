@@ -15,6 +15,8 @@
 #include "lists/parties/frmModCustomer.h"
 #include "lists/parties/frmModVendor.h"
 #include "lists/parties/frmVendors.h"
+#include "payroll/frmEmployees.h"
+#include "payroll/frmModEmployee.h"
 #include "payroll/frmTimeSheet.h"
 #include "reports/aging/frmPrintAging.h"
 #include "reports/budget/frmBudget.h"
@@ -77,6 +79,8 @@ const WindowTable& Windows() {
       {"frmPrintListVen", Make_Report<"frmPrintListVen">},
       {"frmPaySalesTax", Make_Window<frmPaySalesTax>},
       {"frmReconcile", Make_Window<frmReconcile>},
+      {"frmEmployees", Make_Window<frmEmployees>},
+      {"frmModEmployee", Make_Window<frmModEmployee>},
       {"frmTimeSheet", Make_Window<frmTimeSheet>},
       {"frmHistory", Make_Window<frmHistory>},
       {"frmKeys", Make_Window<frmKeys>},

@@ -147,8 +147,18 @@ void frmTimeSheet::fill_lists() {
 
 void frmTimeSheet::on_changed(const std::string& table) {
   lists_->changed(table);
-  if (table == "Employees") fill_lists();
+  if (table == "Employees") follow_employee();
   if (table == "GeneralPrefs" && grdTimeSheet->commit()) go_to_week(first_);
+}
+
+/// Somebody on show may have got another name or number; one who is no longer there is nobody.
+void frmTimeSheet::follow_employee() {
+  const std::string name = cmbEmployee->text(), SSNum = utf8(lblSSNum->text());
+  fill_lists();
+  if (SSNum == nobody || cmbEmployee->set_id(SSNum)) return;
+  cmbEmployee->set_text(name);
+  choose_employee(cmbEmployee->Valid() ? cmbEmployee->id() : nobody);
+  read_sheet();
 }
 
 void frmTimeSheet::go_to_week(Date day) {

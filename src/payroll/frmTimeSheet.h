@@ -33,6 +33,7 @@ class frmTimeSheet : public Form {
   QLayout* build_totals();
   void connect_controls();
   void fill_lists();
+  void follow_employee();
   void go_to_week(Date day);
   void Set_Captions();
   void choose_employee(const std::string& SSNum);

@@ -1,6 +1,6 @@
 #include "reports/lists/list_reports.h"
 
-#include "core/company/rights.h"
+#include "core/company/ss_number.h"
 #include "reports/frame/field_columns.h"
 
 namespace tallymere {
@@ -12,15 +12,6 @@ ReportTable List_Of(Session& session, const ReportRequest& request, std::string_
   table.heading = Make_Heading(session, request);
   Add_Records(*session.dbCompany, table, table_name, fields);
   return table;
-}
-
-/// "***-**-6789".
-std::string Hidden_SSNum(std::string_view number) {
-  constexpr size_t shown = 4;
-  std::string hidden(number);
-  for (size_t at = 0; at + shown < hidden.size() || (hidden.size() <= shown && at < hidden.size()); ++at)
-    if (hidden[at] >= '0' && hidden[at] <= '9') hidden[at] = '*';
-  return hidden;
 }
 
 }  // namespace
@@ -35,7 +26,7 @@ ReportTable Build_Vendor_List(Session& session, const ReportRequest& request) {
 
 ReportTable Build_Employee_List(Session& session, const ReportRequest& request) {
   Record_Column SSNum{"SSNum"};
-  if (session.MultiUser && session.CurrentUser != Administrator) SSNum.shown = Hidden_SSNum;
+  SSNum.shown = [&session](std::string_view number) { return Shown_SSNum(session, number); };
   return List_Of(session, request, "Employees",
                  {{"Name"},
                   {"Phone"},
