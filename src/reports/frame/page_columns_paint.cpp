@@ -41,9 +41,17 @@ class Measure {
     }
   }
 
+  /// Labels that ran on over columns which go then need room of their own.
   void leave_out_empty() {
-    for (size_t column = 0; column < texts_.size(); ++column)
-      if (texts_[column].empty()) natural[column] = least[column] = 0;
+    const qreal labels = labels_width();
+    for (size_t column = 0; column < texts_.size(); ++column) {
+      if (is_label(column) && labels > 0) {
+        natural[column] = std::max(natural[column], std::min(labels + around, widest_text));
+        least[column] = std::min(std::max(least[column], narrowest_text), natural[column]);
+      } else if (texts_[column].empty()) {
+        natural[column] = least[column] = 0;
+      }
+    }
   }
 
   /// The natural widths as far as they are no long texts.
@@ -71,6 +79,15 @@ class Measure {
   bool is_text(size_t column) const { return table_.columns[column].kind == Kind::Text; }
   bool is_label(size_t column) const { return static_cast<int>(column) == table_.label_column(); }
   int step() const { return std::max(table_.rows() / rows_measured, 1); }
+
+  qreal labels_width() const {
+    const int label = table_.label_column();
+    qreal width = 0;
+    for (int row = 0; label >= 0 && row < table_.rows(); row += step())
+      width =
+          std::max(width, fonts_.of(table_.style(row, label)).metrics.horizontalAdvance(qt(table_.text(row, label))));
+    return width;
+  }
 
   std::vector<double> texts_of(size_t column) const {
     std::vector<double> widths;
