@@ -73,16 +73,11 @@ Balance_Steps Steps_To_Balance(store::Database& db, Party party, const std::vect
       " FROM json_each(?1) AS wanted CROSS JOIN Transactions INDEXED BY Transactions_Account"
       " WHERE Account = wanted.value";
   const std::string value(words.value);
-  Money balance, open, other, receipts;
-  db.each("SELECT SUM(" + value + "), SUM(CASE WHEN Account = ?2 AND Transactions.Type = ?3 AND " +
-              std::string(unpaid) + " THEN " + value + " ELSE 0 END), SUM(CASE WHEN Transactions.Type = ?4 AND " +
-              std::string(unpaid) + " THEN " + value +
-              " ELSE 0 END), SUM(CASE WHEN Transactions.Type ="
-              " 'Item Receipt' THEN " +
-              value + " ELSE 0 END)" + from,
-          {Id_List(family), words.control, words.document, other_kind}, [&](const store::Row& row) {
-            balance = row.money(0), open = row.money(1), other = row.money(2), receipts = row.money(3);
-          });
+  Money balance, other, receipts;
+  db.each("SELECT SUM(" + value + "), SUM(CASE WHEN Transactions.Type = ?2 AND " + std::string(unpaid) + " THEN " +
+              value + " END), SUM(CASE WHEN Transactions.Type = 'Item Receipt' THEN " + value + " END)" + from,
+          {Id_List(family), other_kind},
+          [&](const store::Row& row) { balance = row.money(0), other = row.money(1), receipts = row.money(2); });
   Money total, received, memos;
   for (const OpenDocument& document : documents) {
     total += document.Amount;

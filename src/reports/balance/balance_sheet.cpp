@@ -153,11 +153,10 @@ std::string Why_Different(store::Database& db, Basis basis, Money difference) {
   std::string why = "Total Assets are " + Money_Text(difference.abs()) +
                     (difference.is_negative() ? " less" : " more") + " than Total Liabilities & Equity.";
   if (Sells_Stock_At_Sale_Amounts(db))
-    why += " Invoices post a sold inventory part with its sale amount to stock, cost and income alike, not its cost.";
+    why += " Sold inventory parts are posted at sale amounts to stock, cost and income alike.";
   if (basis == Basis::Cash)
     why +=
-        " On cash basis invoices count by their payments and bills once they are paid, but banks count all that came "
-        "in and went out, sales tax and what is not applied yet too.";
+        " Banks hold all that was paid, sales tax and what pays no document yet too; the rest only what was settled.";
   return why;
 }
 
@@ -165,8 +164,7 @@ std::string Note_On(store::Database& db, const CategoryTree& tree, Variant varia
   std::string note = Why_Different(db, basis, difference);
   const auto has_parent = [&](const Category& category) { return tree.parent(category) != nullptr; };
   if (variant == Variant::Comparison && std::any_of(tree.all().begin(), tree.all().end(), has_parent))
-    note += std::string(note.empty() ? "" : " ") +
-            "Totals of the other day's column hold sub-categories twice: in their parents' figures too.";
+    note += std::string(note.empty() ? "" : " ") + "Totals of the second column hold sub-categories twice.";
   return note;
 }
 
@@ -174,9 +172,10 @@ Sheet_Figures Load_Figures(store::Database& db, const CategoryTree& tree, const 
                            Variant variant) {
   Sheet_Figures figures;
   const bool compares = variant == Variant::Comparison;
-  figures.add(Position_At(db, tree, request.basis, request.to), compares ? request.to.to_text() : "", false);
+  Positions positions(db, tree, request.basis);
+  figures.add(positions.at(request.to), compares ? request.to.to_text() : "", false);
   const Date year_ago = request.to.add_months(-12);
-  if (compares) figures.add(Position_At(db, tree, request.basis, year_ago), year_ago.to_text(), true);
+  if (compares) figures.add(positions.at(year_ago), year_ago.to_text(), true);
   figures.columns.totals_apart = variant == Variant::Standard;
   return figures;
 }

@@ -90,16 +90,26 @@ Money Net_Income(store::Database& db, const CategoryTree& tree, DateRange days, 
   return earned + Total(Sum_Category(db, costs, {days, basis}));
 }
 
-Position Position_At(store::Database& db, const CategoryTree& tree, Basis basis, Date as_of) {
-  Position position{.own = Sum_Balance(db, Shown_Categories(tree), basis, Counted_As::Other, as_of)};
-  const Figures receivable =
-      Sum_Balance(db, Family_Of(tree, accounts_receivable), basis, Counted_As::Receivable, as_of);
-  const Date new_year(as_of.year(), 1, 1);
-  position.receivable = -tree.sum_family(accounts_receivable, receivable);
-  position.payable = tree.sum_family(accounts_payable, position.own);
-  position.net_income = Net_Income(db, tree, {new_year, as_of}, basis);
-  position.retained = Net_Income(db, tree, {Date(1900, 1, 1), new_year.plus_days(-1)}, basis) +
-                      tree.sum_family(retained_earnings, position.own);
+Positions::Positions(store::Database& db, const CategoryTree& tree, Basis basis)
+    : db_(db),
+      tree_(tree),
+      basis_(basis),
+      shown_(Shown_Categories(tree)),
+      receivable_(Family_Of(tree, accounts_receivable)) {}
+
+Money Positions::earned_before(int year) {
+  const auto known = earned_before_.find(year);
+  if (known != earned_before_.end()) return known->second;
+  return earned_before_[year] = Net_Income(db_, tree_, {Date(1900, 1, 1), Date(year, 1, 1).plus_days(-1)}, basis_);
+}
+
+Position Positions::at(Date as_of) {
+  Position position{.own = Sum_Balance(db_, shown_, basis_, Counted_As::Other, as_of)};
+  const Figures receivable = Sum_Balance(db_, receivable_, basis_, Counted_As::Receivable, as_of);
+  position.receivable = -tree_.sum_family(accounts_receivable, receivable);
+  position.payable = tree_.sum_family(accounts_payable, position.own);
+  position.net_income = Net_Income(db_, tree_, {Date(as_of.year(), 1, 1), as_of}, basis_);
+  position.retained = earned_before(as_of.year()) + tree_.sum_family(retained_earnings, position.own);
   return position;
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <map>
+
 #include "reports/sums/ledger_sums.h"
 
 /// What a balance sheet is made of: what categories stand at when a day ends, and what the years came to.
@@ -22,7 +24,22 @@ struct Position {
   Figures own;  ///< of all categories but those of the profit and loss
   Money receivable = {}, payable = {}, net_income = {}, retained = {};
 };
-Position Position_At(store::Database& db, const CategoryTree& tree, Basis basis, Date as_of);
+
+/// The positions of several days; what earlier years earned is reckoned once for each year.
+class Positions {
+ public:
+  Positions(store::Database& db, const CategoryTree& tree, Basis basis);
+  Position at(Date as_of);
+
+ private:
+  Money earned_before(int year);
+
+  store::Database& db_;
+  const CategoryTree& tree_;
+  Basis basis_;
+  CatIDs shown_, receivable_;
+  std::map<int, Money> earned_before_;
+};
 
 /// The types of a balance sheet's sections.
 inline constexpr std::array<std::string_view, 7> Position_Sections = {

@@ -18,9 +18,7 @@ double Of(const CaselessMap<double>& stock, const Part& part) {
   return found == stock.end() ? part.InitialQty : found->second;
 }
 
-ReportColumn Quantity(std::string caption) {
-  return {.caption = std::move(caption), .kind = Kind::Number, .mask = "#,##0.####"};
-}
+ReportColumn Quantity(std::string caption) { return {.caption = std::move(caption), .kind = Kind::Number}; }
 ReportColumn Amount(std::string caption) { return {.caption = std::move(caption), .kind = Kind::Money}; }
 ReportColumn Price(std::string caption) {
   return {.caption = std::move(caption), .kind = Kind::Money, .mask = std::string(price_mask)};

@@ -21,26 +21,25 @@ std::string Rows_Of_Period(bool cash) {
 
 constexpr std::string_view signed_amount = "CASE WHEN Debit <> 0 THEN -Amount ELSE Amount END";
 
-struct Sales {
+struct Period_Sales {
   Money taxable, other;
+  Figures collected;  ///< of each tax
 };
 
-Sales Sales_Of_Period(store::Database& db, DateRange days, bool cash) {
-  Sales sales;
-  db.each("SELECT Taxable <> 0, SUM(" + std::string(signed_amount) + ")" + Rows_Of_Period(cash) +
-              " AND (ItemType IN ('Service', 'Non-Inventory Part', 'Other Charge') OR"
-              " (ItemType = 'Inventory Part' AND Account = ItemCat)) GROUP BY 1",
-          {days.start, days.end},
-          [&](const store::Row& row) { (row.flag(0) ? sales.taxable : sales.other) += row.money(1); });
+/// One pass: rows are read from the ledger, the index does not have their categories.
+Period_Sales Sales_Of_Period(store::Database& db, DateRange days, bool cash) {
+  Period_Sales sales;
+  db.each("SELECT CASE WHEN ItemType = 'Sales Tax' THEN ItemName END AS tax, Taxable <> 0, SUM(" +
+              std::string(signed_amount) + ")" + Rows_Of_Period(cash) +
+              " AND (ItemType IN ('Service', 'Non-Inventory Part', 'Other Charge', 'Sales Tax') OR"
+              " (ItemType = 'Inventory Part' AND Account = ItemCat)) GROUP BY 1, 2",
+          {days.start, days.end}, [&](const store::Row& row) {
+            if (!row.is_null(0))
+              sales.collected[std::string(row.text(0))] += row.money(2);
+            else
+              (row.flag(1) ? sales.taxable : sales.other) += row.money(2);
+          });
   return sales;
-}
-
-Figures Collected(store::Database& db, DateRange days, bool cash) {
-  Figures collected;
-  db.each("SELECT ItemName, SUM(" + std::string(signed_amount) + ")" + Rows_Of_Period(cash) +
-              " AND ItemType = 'Sales Tax' GROUP BY 1",
-          {days.start, days.end}, [&](const store::Row& row) { collected[std::string(row.text(0))] = row.money(1); });
-  return collected;
 }
 
 }  // namespace
@@ -48,8 +47,7 @@ Figures Collected(store::Database& db, DateRange days, bool cash) {
 ReportTable Build_Sales_Tax(Session& session, const ReportRequest& request) {
   store::Database& db = *session.dbCompany;
   const bool cash = Sales_Tax_On_Cash(db);
-  const Sales sales = Sales_Of_Period(db, request.days(), cash);
-  Figures collected = Collected(db, request.days(), cash);
+  Period_Sales sales = Sales_Of_Period(db, request.days(), cash);
   ReportTable table;
   table.heading = Make_Heading(session, request);
   table.heading.basis = cash ? "Cash basis" : "Accrual basis";
@@ -67,7 +65,7 @@ ReportTable Build_Sales_Tax(Session& session, const ReportRequest& request) {
       " Date <= ?1 AND (Transactions.Type IS NULL OR Transactions.Type <> 'Payment'))"
       " FROM Items WHERE ItemType = 'Sales Tax' ORDER BY RowKey",
       {request.to, !cash}, [&](const store::Row& row) {
-        const Money tax = collected[std::string(row.text(0))];
+        const Money tax = sales.collected[std::string(row.text(0))];
         auto line = table.add_row(Role::Detail, To_Report("ItemRep", row.text(0)));
         line.skip().text("     " + std::string(row.text(0))).money(sales.taxable + sales.other);
         line.money(sales.other).money(sales.taxable).value(row.money(1).to_double()).money(tax).money(row.money(2));
