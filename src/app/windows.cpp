@@ -20,7 +20,7 @@
 #include "payroll/frmTimeSheet.h"
 #include "reports/aging/frmPrintAging.h"
 #include "reports/budget/frmBudget.h"
-#include "reports/profit/frmPrintPL2.h"
+#include "reports/frame/AheadForm.h"
 #include "reports/saved/frmSavedReps.h"
 #include "reports/transactions/frmPrintCustom.h"
 #include "shell/frmMain.h"
@@ -53,13 +53,13 @@ const WindowTable& Windows() {
       {"frmOtherNames", Make_Window<frmOtherNames>},
       {"frmRegister", Make_Window<frmRegister>},
       {"frmPrintCustom", Make_Window<frmPrintCustom>},
-      {"frmPrintPL2", Make_Window<frmPrintPL2>},
+      {"frmPrintPL2", Make_Ahead<"frmPrintPL2">},
       {"frmPrintPLName", Make_Report<"frmPrintPLName">},
       {"frmFind", Make_Window<frmFind>},
       {"frmSavedReps", Make_Window<frmSavedReps>},
       {"frmPrintAging", Make_Window<frmPrintAging>},
       {"frmPrintAgeDetail", Make_Report<"frmPrintAgeDetail">},
-      {"frmPrintBalSheet", Make_Report<"frmPrintBalSheet">},
+      {"frmPrintBalSheet", Make_Ahead<"frmPrintBalSheet">},
       {"frmBudget", Make_Window<frmBudget>},
       {"frmPrintBudCompare", Make_Report<"frmPrintBudCompare">},
       {"frmPrintBudList", Make_Report<"frmPrintBudList">},

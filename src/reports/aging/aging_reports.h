@@ -1,6 +1,6 @@
 #pragma once
 
-#include "reports/reports.h"
+#include "reports/graph/graph.h"
 
 /// What customers owe and what is owed to vendors.
 namespace tallymere {
@@ -8,6 +8,9 @@ namespace tallymere {
 // A line of age buckets for each name: frmPrintAging. Documents age by Date and their terms.
 ReportTable Build_Receivable_Aging(Session& session, const ReportRequest& request);
 ReportTable Build_Payable_Aging(Session& session, const ReportRequest& request);
+
+/// Of either summary.
+Graph Build_Aging_Graph(Session& session, const ReportRequest& request);
 
 // The open documents one by one: frmPrintAgeDetail. They age by DueDate where they have one.
 ReportTable Build_Receivable_Aging_Detail(Session& session, const ReportRequest& request);

@@ -15,7 +15,7 @@
 #include "shell/widgets/window_memory.h"
 
 /// The window itself. ReportForm_request.cpp has what it is asked for, ReportForm_table.cpp how the report comes
-/// on show, ReportForm_output.cpp what becomes of it then.
+/// on show, ReportForm_graph.cpp how as a picture, ReportForm_output.cpp what becomes of it then.
 namespace tallymere {
 
 namespace {
@@ -60,6 +60,7 @@ ReportForm::ReportForm(Shell& shell_of_frame, const char* name)
   all->addSpacing(theme::gap);
   all->addLayout(build_buttons());
   column_layout(this)->addLayout(all);
+  build_graph();
   connect_controls();
 }
 
@@ -192,16 +193,6 @@ QSize ReportForm::sizeHint() const {
   if (const auto left = window_memory::size_of(objectName())) return *left;
   const int wanted = grdPL->natural_width() + buttons_->sizeHint().width() + 7 * theme::unit;
   return Form::sizeHint().expandedTo({std::clamp(wanted, 120 * theme::unit, 180 * theme::unit), 76 * theme::unit});
-}
-
-void ReportForm::show_instead_of_grid(QWidget* other) {
-  if (other && shown_->indexOf(other) < 0) shown_->addWidget(other);
-  shown_->setCurrentWidget(other ? other : grdPL);
-  cmdGoto->setEnabled(!other);
-  cmdPick->setEnabled(!other);
-  chkEmpty->setEnabled(!other);
-  show_note();
-  fit_sheet();
 }
 
 /// Light paper turns dark with the desktop.

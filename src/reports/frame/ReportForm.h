@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <memory>
 
+#include "reports/graph/graph.h"
 #include "reports/reports.h"
 #include "shell/widgets/Form.h"
 #include "shell/widgets/printed_pages.h"
@@ -17,6 +18,7 @@ class QVBoxLayout;
 
 namespace tallymere {
 
+class GraphSheet;
 class QuillbrookDatePick;
 class SSDBGrid;
 
@@ -38,14 +40,10 @@ class ReportForm : public Form {
   void Load_Standard();
 
   // --- what a report with more to it adds
-  /// Something other than the grid is on show: it paints its own pages.
-  virtual Lay_Out pages_to_print();
-  virtual QPageLayout page_to_print();
   virtual void after_load() {}
   void changeEvent(QEvent* event) override;
-  void add_button(QPushButton* button);       ///< above "E&xport"
-  void add_to_bar(QWidget* choice);           ///< beside the dates
-  void show_instead_of_grid(QWidget* other);  ///< nullptr: the grid again
+  void add_button(QPushButton* button);  ///< above "E&xport"
+  void add_to_bar(QWidget* choice);      ///< beside the dates
 
   const ReportTable& table() const { return table_; }
   ReportRequest& report_request() { return request_; }
@@ -85,7 +83,16 @@ class ReportForm : public Form {
   void show_note();
   std::string row_text(int row) const;
 
+  // --- the graph: ReportForm_graph.cpp
+  void build_graph();
+  void begin_graph(bool another_report);
+  void cmdGraph_AfterClick();
+  void draw_graph();
+  void show_instead_of_grid(QWidget* other);  ///< nullptr: the grid again
+
   // --- what becomes of it: ReportForm_output.cpp
+  Lay_Out pages_to_print();
+  QPageLayout page_to_print();
   void cmdGoto_AfterClick();
   void cmdPrint_AfterClick();
   void cmdExport_AfterClick();
@@ -99,6 +106,7 @@ class ReportForm : public Form {
   const ReportDef* report_ = nullptr;
   ReportRequest request_;
   ReportTable table_;
+  Graph graph_;
   bool building_ = false;
 
   QLabel *Label4, *Label5, *Label6, *lblStart, *lblEnd, *lblBasis, *lblNote;
@@ -109,7 +117,8 @@ class ReportForm : public Form {
   QStackedLayout* shown_;
   QVBoxLayout* buttons_;
   int extra_button_at_ = 0;
-  QPushButton *cmdRefresh, *cmdPrint, *cmdLabel, *cmdGoto, *cmdPick, *cmdExport, *cmdClose;
+  QPushButton *cmdRefresh, *cmdPrint, *cmdLabel, *cmdGoto, *cmdPick, *cmdExport, *cmdGraph, *cmdClose;
+  GraphSheet* grfPL;
 };
 
 /// A window's name as a template's argument.

@@ -6,6 +6,7 @@
 #include "reports/frame/ReportForm.h"
 #include "reports/frame/renderers.h"
 #include "reports/frame/report_paint.h"
+#include "reports/graph/graph_paint.h"
 #include "shell/widgets/frmPreview.h"
 #include "shell/widgets/grid/SSDBGrid.h"
 
@@ -28,11 +29,16 @@ void ReportForm::cmdGoto_AfterClick() {
 
 // --- paper
 
+/// What is on show: the graph or the rows.
 Lay_Out ReportForm::pages_to_print() {
+  if (cmdGraph->isChecked())
+    return [this](const QPageLayout& page) { return std::make_unique<Graph_Pages>(graph_, page); };
   return [this](const QPageLayout& page) { return std::make_unique<Report_Pages>(table_, page); };
 }
 
-QPageLayout ReportForm::page_to_print() { return Page_For(table_); }
+QPageLayout ReportForm::page_to_print() {
+  return cmdGraph->isChecked() ? Letter_Page(QPageLayout::Landscape) : Page_For(table_);
+}
 
 void ReportForm::cmdPrint_AfterClick() {
   frmPreview preview(shell, qt(table_.heading.title), pages_to_print(), page_to_print());

@@ -34,7 +34,9 @@ void ReportForm::load() {
 }
 
 void ReportForm::take(const Request& asked) {
+  const ReportDef* before = report_;
   begin_report(asked);
+  begin_graph(report_ != before);
   show_request();
   Load_Standard();
   grdPL->setFocus();
@@ -147,7 +149,7 @@ void ReportForm::cmdLabel_AfterClick() {
   const bool builds = std::find(std::begin(built_with_title), std::end(built_with_title), utf8(objectName())) !=
                       std::end(built_with_title);
   if (builds || request_.title.empty()) return Load_Standard();
-  table_.heading.title = request_.title;
+  table_.heading.title = graph_.heading.title = request_.title;
   show_heading();
 }
 

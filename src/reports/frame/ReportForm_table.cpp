@@ -42,6 +42,7 @@ void ReportForm::build() {
   const Hourglass hourglass(session.prompts);
   table_ = Build_Report(session, request_);
   show_table();
+  if (cmdGraph->isChecked()) draw_graph();  // only one that is on show is reckoned
   after_load();
   if (!table_.notice.empty()) session.prompts.box({table_.notice, table_.heading.title, Icon::Information});
 }

@@ -1,24 +1,26 @@
-#include <algorithm>
-
 #include "reports/profit/profit_and_loss.h"
 #include "reports/sums/ledger_sums.h"
 
 namespace tallymere {
 namespace {
 
-size_t Month_At(const PL_Graph& graph, Date day) {
-  return static_cast<size_t>(months_between(graph.months.front().first_day, day));
-}
+constexpr size_t largest_expenses = 8;
+enum Series : size_t { Income, Expense };
 
-void Add_Months(PL_Graph& graph, const ReportRequest& request) {
-  const Date first = request.from.first_of_month();
-  for (int month = 0; month <= months_between(first, request.to); ++month)  // up to the last there is
-    graph.months.push_back({first.add_months(month), {}, {}});
-}
+/// Income and expense over the months, and what the money went for.
+struct Parts {
+  Graph_Months months{.title = "Income and expense", .series = {"Income", "Expense"}, .difference = "Net"};
+  Graph_Bars expenses{.title = "Largest expenses", .none = "No expenses in this period."};
 
-void Add_Income(PL_Graph& graph, store::Database& db, const CategoryTree& tree, const ReportRequest& request) {
-  const SumRange range{{request.from, request.to}, request.basis};
-  auto receive = [&](const DatedAmount& share) { graph.months[Month_At(graph, share.date)].income += share.amount; };
+  void add(Date day, Series series, Money amount) {
+    const int month = months_between(months.months.front().first_day, day);
+    months.months[static_cast<size_t>(month)].amounts[series] += amount;
+  }
+};
+
+void Add_Income(Parts& parts, store::Database& db, const CategoryTree& tree, const ReportRequest& request) {
+  const SumRange range{request.days(), request.basis};
+  auto receive = [&](const DatedAmount& share) { parts.add(share.date, Income, share.amount); };
   CatIDs ordinary = Section_Categories(tree, "Other Income");
   CatIDs income = Section_Categories(tree, "Income");
   if (request.basis == Basis::Cash)
@@ -28,46 +30,35 @@ void Add_Income(PL_Graph& graph, store::Database& db, const CategoryTree& tree, 
   Sum_Category_By_Day(db, ordinary, range, receive);
 }
 
-void Add_Expenses(PL_Graph& graph, store::Database& db, const CategoryTree& tree, const ReportRequest& request) {
+void Add_Expenses(Parts& parts, store::Database& db, const CategoryTree& tree, const ReportRequest& request) {
   CatIDs all;
   for (std::string_view section : PL_Sections)
     if (Is_Expense_Side(section))
       for (std::string& id : Section_Categories(tree, section)) all.push_back(std::move(id));
   std::vector<Money> sums(all.size());
-  Sum_Category_By_Day(db, all, {{request.from, request.to}, request.basis}, [&](const DatedAmount& share) {
-    graph.months[Month_At(graph, share.date)].expense -= share.amount;
+  Sum_Category_By_Day(db, all, {request.days(), request.basis}, [&](const DatedAmount& share) {
+    parts.add(share.date, Expense, -share.amount);
     sums[share.category] -= share.amount;
   });
   const Figures own = By_Category(all, sums);
   for (const Category* category : Top_Level_By_Name(tree)) {
     if (!Is_Expense_Side(category->AccountType)) continue;
     Money amount = tree.sum_family(category->CatID, own);
-    if (amount > Money()) graph.expenses.push_back({category->AccountName, amount});
+    if (amount > Money()) parts.expenses.bars.push_back({category->AccountName, amount});
   }
-}
-
-void Keep_Largest(std::vector<PL_Graph::Slice>& slices, size_t largest) {
-  std::stable_sort(slices.begin(), slices.end(), [](auto& a, auto& b) { return a.amount > b.amount; });
-  if (slices.size() <= largest) return;
-  Money rest;
-  for (size_t at = largest; at < slices.size(); ++at) rest += slices[at].amount;
-  slices.resize(largest);
-  slices.push_back({"Other", rest});
 }
 
 }  // namespace
 
-PL_Graph Build_PL_Graph(Session& session, const ReportRequest& request, size_t largest) {
+Graph Build_PL_Graph(Session& session, const ReportRequest& request) {
   store::Database& db = *session.dbCompany;
-  const store::Snapshot moment(db);
   const CategoryTree tree = CategoryTree::Load(db);
-  PL_Graph graph;
-  graph.heading = Make_Heading(session, request);
-  Add_Months(graph, request);
-  Add_Income(graph, db, tree, request);
-  Add_Expenses(graph, db, tree, request);
-  Keep_Largest(graph.expenses, largest);
-  return graph;
+  Parts parts;
+  parts.months.months = Months_Of(request.days(), parts.months.series.size());
+  Add_Income(parts, db, tree, request);
+  Add_Expenses(parts, db, tree, request);
+  Keep_Largest(parts.expenses.bars, largest_expenses);
+  return {Make_Heading(session, request), {std::move(parts.months), std::move(parts.expenses)}};
 }
 
 }  // namespace tallymere

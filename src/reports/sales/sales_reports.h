@@ -1,6 +1,6 @@
 #pragma once
 
-#include "reports/reports.h"
+#include "reports/graph/graph.h"
 
 /// What was invoiced. On cash basis only what has been paid whole. Amounts are as the ledger has them: what lowers an
 /// invoice lowers sales, so that items, customers and representatives come to the same total.
@@ -9,6 +9,7 @@ namespace tallymere {
 // By item: frmPrintSales.
 ReportTable Build_Item_Sales(Session& session, const ReportRequest& request);
 ReportTable Build_Item_Sales_Detail(Session& session, const ReportRequest& request);
+Graph Build_Item_Sales_Graph(Session& session, const ReportRequest& request);
 
 // By customer or representative: frmPrintSaleCus.
 ReportTable Build_Customer_Sales(Session& session, const ReportRequest& request);

@@ -1,4 +1,5 @@
 #include "reports/aging/open_documents.h"
+#include "reports/graph/graph.h"
 #include "support/random_books.h"
 
 namespace tallymere {
@@ -306,6 +307,29 @@ TEST(Aging, AnEmptyCompanyShowsHeadsAndZeroFeetAndCollectionsHowToReachPeople) {
   books.post(Invoice(1, today, "Ann", D(7)));
   const Strings lines = testing::Lines(books.report("CR", today, today));
   EXPECT_EQ(Strings(lines.begin(), lines.begin() + 3), (Strings{"Ann", "     Mrs. Ann", "     555-1"}));
+}
+
+Money Sum_Of_Bars(const Graph& graph, size_t part) {
+  Money sum;
+  for (const auto& bar : std::get<Graph_Bars>(graph.parts.at(part)).bars) sum += bar.amount;
+  return sum;
+}
+
+TEST(Aging, BothPartsOfTheGraphComeToTheTotalOfTheSummary) {
+  Books books;
+  for (unsigned seed = 1; seed <= 12; ++seed) {
+    RandomBooks random(seed);
+    random.write(books);
+    for (const char* key : {"AR", "AP"}) {
+      const Graph graph = Build_Graph(*books.session, books.request(key, today, today));
+      const auto& ages = std::get<Graph_Bars>(graph.parts.at(0)).bars;
+      ASSERT_EQ(ages.size(), Bucket_Names.size());
+      const std::string total = testing::Line_Of(books.report(key, today, today), "Total");
+      std::string line = "Total";
+      for (const auto& bar : ages) line += "|" + bar.amount.to_text();
+      EXPECT_EQ(line + "|" + Sum_Of_Bars(graph, 1).to_text(), total) << key << ", seed " << seed;
+    }
+  }
 }
 
 }  // namespace

@@ -1,3 +1,4 @@
+#include "reports/graph/graph.h"
 #include "support/random_books.h"
 
 namespace tallymere {
@@ -316,7 +317,7 @@ TEST(BalanceSheet, ItsFootSaysByHowMuchAndWhyItDoesNotBalance) {
   const ReportTable table = books.report("BalSum", day, day, Basis::Accrual);
   EXPECT_EQ(Figure(table, "Total Assets"), D(0));
   EXPECT_EQ(Figure(table, "Total Liabilities & Equity"), D(40));
-  EXPECT_TRUE(table.heading.note.starts_with("Total Assets are 40.00 less than Total Liabilities & Equity. Invoices"))
+  EXPECT_TRUE(table.heading.note.starts_with("Total Assets are 40.00 less than Total Liabilities & Equity. Sold inv"))
       << table.heading.note;
   EXPECT_EQ(testing::Lines(table).size(), 10u) << "no row makes up for it";
 }
@@ -360,6 +361,27 @@ TEST(BalanceSheet, CashWaitsForThePaymentAndGoToLeadsToTheYear) {
       EXPECT_EQ(opened->option(report_option::category), "Sub");
     }
   EXPECT_FALSE(books.report("BalDetail", june, june, Basis::Cash).leads_on());
+}
+
+TEST(BalanceSheet, EachMonthOfItsGraphIsTheSheetOfThatDay) {
+  Books books;
+  for (unsigned seed = 1; seed <= 12; ++seed) {
+    RandomBooks random(seed);
+    random.write(books);
+    const Date as_of = random.day();
+    const Basis basis = seed % 2 ? Basis::Cash : Basis::Accrual;
+    const Graph graph = Build_Graph(*books.session, books.request("BalStand", as_of, as_of, basis));
+    const auto& months = std::get<Graph_Months>(graph.parts.at(0)).months;
+    ASSERT_EQ(months.size(), 12u);
+    for (const size_t at : {0, 5, 11}) {
+      const Date day = std::min(months[at].first_day.end_of_month(), as_of);
+      const ReportTable table = books.report("BalStand", day, day, basis);
+      const std::vector<Money>& amounts = months[at].amounts;
+      EXPECT_EQ(amounts[0], Figure(table, "Total Assets")) << "seed " << seed;
+      EXPECT_EQ(amounts[1] + amounts[2], Figure(table, "Total Liabilities & Equity")) << "seed " << seed;
+      EXPECT_EQ(amounts[2], Figure(table, "     Total Equity")) << "seed " << seed;
+    }
+  }
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 #include "reports/budget/budget.h"
 
 #include "core/store/error.h"
+#include "reports/graph/graph.h"
 #include "support/random_books.h"
 
 namespace tallymere {
@@ -137,6 +138,16 @@ TEST(Budget, MonthsStandInGroupsAndADeletedCategoryStaysInTheListing) {
   EXPECT_EQ(table.groups[0].caption, "Mar 2026");
   EXPECT_EQ(table.columns[4].caption, "$ Over Budget");
   EXPECT_EQ(testing::Line_Of(table, "Rent"), "Rent|0|5|-5");
+  books.post({.TransNum = 1, .Type = "Check", .day = Date(2026, 4, 30), .Account = "Rent", .Debit = D(7)});
+  books.add("Sales", "Income");  // nothing planned, nothing compared
+  books.post({.TransNum = 2, .Type = "Deposit", .day = Date(2026, 4, 30), .Account = "Sales", .Credit = D(9)});
+  const Graph graph = Build_Graph(*books.session, books.request("BudCompare", Date(2026, 3, 5), Date(2026, 4, 1)));
+  const auto amounts = [&](size_t part, size_t month) {
+    return std::get<Graph_Months>(graph.parts.at(part)).months.at(month).amounts;
+  };
+  EXPECT_EQ(amounts(0, 1), (std::vector{D(0), D(0)}));
+  EXPECT_EQ(amounts(1, 0), (std::vector{D(0), D(5)}));
+  EXPECT_EQ(amounts(1, 1), (std::vector{D(7), D(5)}));
   const std::string twelve_ones = "|1|1|1|1|1|1|1|1|1|1|1|1|12", fives = "|5|5|5|5|5|5|5|5|5|5|5|5|60";
   EXPECT_EQ(testing::Lines(books.report("BudList", Date(2026, 1, 1), Date(2026, 12, 31))),
             (Strings{"9SS" + twelve_ones, "Rent" + fives}));

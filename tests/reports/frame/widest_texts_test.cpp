@@ -2,7 +2,7 @@
 
 #include "reports/frame/table_parts.h"
 
-#include "reports/profit/graph_spans.h"
+#include "reports/graph/graph_spans.h"
 #include "support/report_books.h"
 
 namespace tallymere {
@@ -71,19 +71,22 @@ TEST(WidestTexts, PickingColumnsKeepsRowsKeysAndGroups) {
 }
 
 TEST(GraphSpans, MonthsGoTogetherByTheCalendar) {
-  PL_Graph graph;
+  Graph_Months graph;
   for (int month = 0; month < 14; ++month)  // from November 2024
-    graph.months.push_back({Date(2024, 11, 1).add_months(month), D(10), D(1)});
+    graph.months.push_back({Date(2024, 11, 1).add_months(month), {D(10), D(month)}});
   const auto shown = [&](int months) {
     std::string text;
     for (const Graph_Span& span : Graph_Spans(graph, months))
-      text += span.label + "/" + std::to_string(span.year) + "=" + Graph_Text(span.income, Graph_Scale::Full) + " ";
+      text += span.label + "/" + std::to_string(span.year) + "=" +
+              Graph_Text(span.amounts[graph.stands], Graph_Scale::Full) + " ";
     return text;
   };
   EXPECT_TRUE(shown(1).starts_with("Nov/2024=10 Dec/2024=10 Jan/2025=10 "));
   EXPECT_EQ(shown(3), "Q4/2024=20 Q1/2025=30 Q2/2025=30 Q3/2025=30 Q4/2025=30 ");
   EXPECT_EQ(shown(12), "2024/0=20 2025/0=120 ");
   EXPECT_EQ(shown(60), "2020-24/0=20 2025-29/0=120 ");
+  graph.stands = true;
+  EXPECT_EQ(shown(3), "Q4/2024=1 Q1/2025=4 Q2/2025=7 Q3/2025=10 Q4/2025=13 ") << "balances do not add up";
 }
 
 TEST(GraphSpans, AxisStepsAndAmountsReadEasily) {
@@ -93,19 +96,25 @@ TEST(GraphSpans, AxisStepsAndAmountsReadEasily) {
   EXPECT_EQ(Graph_Text(D(-12345), Graph_Scale::Full), "-12,345");
   EXPECT_EQ(Graph_Text(D(-12345), Graph_Scale::Thousands), "-12.3k");
   EXPECT_EQ(Graph_Text(D(12345678), Graph_Scale::Millions), "12.3M");
-  const std::vector<Graph_Span> small = {{"Jan", 2026, D(61000), D(0)}};
+  const std::vector<Graph_Span> small = {{"Jan", 2026, {D(61000), D(0)}}};
   EXPECT_TRUE(Suits(small, Graph_Scale::Thousands));
   EXPECT_FALSE(Suits(small, Graph_Scale::Millions)) << "that would be 0.1M";
 }
 
-TEST(GraphSpans, SmallExpensesGoTogetherWithoutLoss) {
-  const std::vector<PL_Graph::Slice> slices = {{"Rent", D(50)}, {"Fuel", D(20)}, {"Post", D(5)}, {"Other", D(3)}};
-  const auto kept = Largest_Slices(slices, 2);
+TEST(GraphSpans, SmallBarsGoTogetherWithoutLoss) {
+  const std::vector<Graph_Bars::Bar> bars = {{"Rent", D(50)}, {"Fuel", D(20)}, {"Post", D(5)}, {"Other", D(3)}};
+  const auto kept = Largest_Bars(bars, 2);
   ASSERT_EQ(kept.size(), 2u);
-  EXPECT_EQ(kept[1].AccountName, "Other");
+  EXPECT_EQ(kept[1].label, "Other");
   EXPECT_EQ(kept[1].amount, D(28));
-  EXPECT_EQ(Largest_Slices(slices, 4).size(), 4u);
-  EXPECT_TRUE(Largest_Slices(slices, 0).empty());
+  EXPECT_EQ(Largest_Bars(bars, 4).size(), 4u);
+  EXPECT_TRUE(Largest_Bars(bars, 0).empty());
+  auto sorted = bars;
+  std::reverse(sorted.begin(), sorted.end());
+  Keep_Largest(sorted, 3);
+  ASSERT_EQ(sorted.size(), 4u);
+  EXPECT_EQ(sorted[0].label + sorted[2].label + sorted[3].label, "RentPostOther");
+  EXPECT_EQ(sorted[3].amount, D(3));
 }
 
 }  // namespace

@@ -166,20 +166,21 @@ TEST(ProfitAndLoss, GraphAgreesWithTheReport) {
   books.post_all(Date(2026, 2, 2));
   books.post_all(may, 2);
   books.post_all(last_may, 1000);
-  PL_Graph graph = Build_PL_Graph(*books.session, books.request("PL", new_year, may_end), 2);
-  ASSERT_EQ(graph.months.size(), 5u);
-  EXPECT_EQ(graph.months[1].income, D(130));
-  EXPECT_EQ(graph.months[1].expense, D(91));
-  EXPECT_EQ(graph.months[2].income, D(0));
-  EXPECT_EQ(graph.months[4].first_day, may);
-  EXPECT_EQ(graph.months[4].income - graph.months[4].expense, D(78));
-  ASSERT_EQ(graph.expenses.size(), 3u);
-  EXPECT_EQ(graph.expenses[0].AccountName + graph.expenses[1].AccountName + graph.expenses[2].AccountName,
-            "RentGoodsOther");
-  EXPECT_EQ(graph.expenses[2].amount, D(3));
+  const auto graph_of = [&](Date from, Date to) { return Build_Graph(*books.session, books.request("PL", from, to)); };
   const auto months_of = [&](Date from, Date to) {
-    return Build_PL_Graph(*books.session, books.request("PL", from, to)).months.size();
+    return std::get<Graph_Months>(graph_of(from, to).parts[0]).months.size();
   };
+  const Graph graph = graph_of(new_year, may_end);
+  const auto& months = std::get<Graph_Months>(graph.parts[0]).months;
+  ASSERT_EQ(months.size(), 5u);
+  EXPECT_EQ(months[1].amounts, (std::vector{D(130), D(91)}));
+  EXPECT_EQ(months[2].amounts, (std::vector{D(0), D(0)}));
+  EXPECT_EQ(months[4].first_day, may);
+  EXPECT_EQ(months[4].amounts[0] - months[4].amounts[1], D(78));
+  const auto& expenses = std::get<Graph_Bars>(graph.parts[1]).bars;
+  ASSERT_EQ(expenses.size(), 3u);
+  EXPECT_EQ(expenses[0].label + expenses[1].label + expenses[2].label, "RentGoodsFines");
+  EXPECT_EQ(expenses[2].amount, D(3));
   EXPECT_EQ(months_of(Date(9999, 11, 30), Date(9999, 12, 31)), 2u) << "no month follows the last";
   EXPECT_EQ(months_of(may, new_year), 0u) << "dates the wrong way round";
 }

@@ -1,5 +1,6 @@
 #include "core/company/preferences.h"
 #include "entry/bank/sales_tax.h"
+#include "reports/graph/graph.h"
 #include "support/random_books.h"
 
 namespace tallymere {
@@ -300,6 +301,22 @@ TEST(SalesReports, TheTaxOwedIsWhatAPaymentWouldPay) {
             "     Tax|70|30|40|0.065|2.6|1.6");
   EXPECT_EQ(testing::Lines(books.report("SalesTax", Date(2030, 1, 1), Date(2030, 1, 31))),
             (Strings{"     Tax|0|0|0|0.065|0|1.6", "Total|||||0|1.6"}));
+}
+
+TEST(SalesReports, BothPartsOfTheGraphComeToTheTotalOfTheSummary) {
+  Books books;
+  for (unsigned seed = 1; seed <= 12; ++seed) {
+    RandomBooks random(seed);
+    random.write(books);
+    const ReportRequest request = books.request("SaleSum", Date(2025, 1, 1), Date(2026, 1, 1));
+    const ReportTable table = Build_Report(*books.session, request);
+    const Graph graph = Build_Graph(*books.session, request);
+    for (const Graph::Part& part : graph.parts) {
+      Money sum;
+      for (const auto& bar : std::get<Graph_Bars>(part).bars) sum += bar.amount;
+      EXPECT_EQ(sum, table.value(table.rows() - 1, 3).money()) << "seed " << seed;
+    }
+  }
 }
 
 }  // namespace

@@ -134,3 +134,27 @@ menu("mnuBudCompare");
 w = win("frmPrintBudCompare");
 const rent = rowOf(w.grdPL, "Rent");
 equal([w.grdPL.text(rent, 17), w.grdPL.text(rent, 18), w.grdPL.text(rent, 19)], ["40", "0", "40"], "June");
+
+// --- graphs
+
+for (const [command, window] of [["mnuBalStandard", "frmPrintBalSheet"], ["mnuAgeSum", "frmPrintAging"],
+                                 ["mnuSalesItemSum", "frmPrintSales"], ["mnuBudCompare", "frmPrintBudCompare"]]) {
+  menu(command);
+  w = win(window);
+  click(w.cmdGraph);
+  equal([w.grfPL.visible, w.grdPL.visible], [true, false], command);
+  shot("graph_" + window + ".png");
+  modal("frmPreview", function (d) {
+    equal(d.lblPage.value, "Page 1 of 1");
+    click(d.cmdClose);
+  });
+  click(w.cmdPrint);
+  click(w.cmdGraph);
+  equal([w.grfPL.visible, w.grdPL.visible], [false, true], command);
+}
+menu("mnuSalesItemDetail");
+click(win("frmPrintSales").cmdGraph);
+menu("mnuSalesItemSum");
+ok(win("frmPrintSales").grdPL.visible, "another report begins with its figures");
+menu("mnuSalesReport");
+ok(!win("frmPrintSalesTax").cmdGraph.visible, "it has no graph");

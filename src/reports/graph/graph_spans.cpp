@@ -1,4 +1,4 @@
-#include "reports/profit/graph_spans.h"
+#include "reports/graph/graph_spans.h"
 
 #include <algorithm>
 #include <cmath>
@@ -24,15 +24,18 @@ double Unit_Of(Graph_Scale scale) { return scale == Graph_Scale::Thousands ? 1e3
 
 }  // namespace
 
-std::vector<Graph_Span> Graph_Spans(const PL_Graph& graph, int months) {
+std::vector<Graph_Span> Graph_Spans(const Graph_Months& graph, int months) {
   std::vector<Graph_Span> spans;
   int here = -1;
-  for (const PL_Graph::Month& month : graph.months) {
+  for (const Graph_Months::Month& month : graph.months) {
     const int first = Month_Number(month.first_day) / months * months;
-    if (first != here) spans.push_back({Label_Of(first, months), months < 12 ? first / 12 : 0, {}, {}});
+    if (first != here)
+      spans.push_back(
+          {Label_Of(first, months), months < 12 ? first / 12 : 0, std::vector<Money>(month.amounts.size())});
     here = first;
-    spans.back().income += month.income;
-    spans.back().expense += month.expense;
+    std::vector<Money>& amounts = spans.back().amounts;
+    for (size_t at = 0; at < amounts.size(); ++at)
+      amounts[at] = graph.stands ? month.amounts[at] : amounts[at] + month.amounts[at];
   }
   return spans;
 }
@@ -46,7 +49,8 @@ std::string Graph_Text(Money amount, Graph_Scale scale) {
 bool Suits(const std::vector<Graph_Span>& spans, Graph_Scale scale) {
   if (scale == Graph_Scale::Full) return true;
   return std::any_of(spans.begin(), spans.end(), [&](const Graph_Span& span) {
-    return std::max(std::abs(span.income.to_double()), std::abs(span.expense.to_double())) >= Unit_Of(scale);
+    return std::any_of(span.amounts.begin(), span.amounts.end(),
+                       [&](Money amount) { return std::abs(amount.to_double()) >= Unit_Of(scale); });
   });
 }
 
@@ -56,15 +60,6 @@ double Graph_Step(double low, double high, int steps) {
   for (const double times : {1.0, 2.0, 5.0})
     if (raw <= times * power) return times * power;
   return 10 * power;
-}
-
-std::vector<PL_Graph::Slice> Largest_Slices(const std::vector<PL_Graph::Slice>& slices, size_t most) {
-  if (slices.size() <= most || most == 0) return most == 0 ? std::vector<PL_Graph::Slice>{} : slices;
-  std::vector<PL_Graph::Slice> kept(slices.begin(), slices.begin() + static_cast<std::ptrdiff_t>(most) - 1);
-  Money rest;
-  for (size_t at = most - 1; at < slices.size(); ++at) rest += slices[at].amount;
-  kept.push_back({"Other", rest});
-  return kept;
 }
 
 }  // namespace tallymere
