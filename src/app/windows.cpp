@@ -17,6 +17,12 @@
 #include "lists/parties/frmVendors.h"
 #include "payroll/frmEmployees.h"
 #include "payroll/frmModEmployee.h"
+#include "payroll/frmPayAdjust.h"
+#include "payroll/frmPayCheck.h"
+#include "payroll/frmPayLiabilites.h"
+#include "payroll/frmPayRefund.h"
+#include "payroll/frmPayRoll.h"
+#include "payroll/frmSetupYTD.h"
 #include "payroll/frmTimeSheet.h"
 #include "reports/aging/frmPrintAging.h"
 #include "reports/budget/frmBudget.h"
@@ -77,6 +83,12 @@ const WindowTable& Windows() {
       {"frmPrintListMem", Make_Report<"frmPrintListMem">},
       {"frmPrintListPay", Make_Report<"frmPrintListPay">},
       {"frmPrintListVen", Make_Report<"frmPrintListVen">},
+      {"frmPayAdjust", Make_Window<frmPayAdjust>},
+      {"frmPayCheck", Make_Window<frmPayCheck>},
+      {"frmPayLiabilites", Make_Window<frmPayLiabilites>},
+      {"frmPayRefund", Make_Window<frmPayRefund>},
+      {"frmPayRoll", Make_Window<frmPayRoll>},
+      {"frmSetupYTD", Make_Window<frmSetupYTD>},
       {"frmPaySalesTax", Make_Window<frmPaySalesTax>},
       {"frmReconcile", Make_Window<frmReconcile>},
       {"frmEmployees", Make_Window<frmEmployees>},

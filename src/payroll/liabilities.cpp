@@ -127,8 +127,17 @@ void Add_Correction(Transaction_Writer& writer, store::Database& db, const Liabi
   if (const std::string other = Adjustment_Other_Side(Posting_Rule(db)); !other.empty()) add(other, -row.Amount, false);
 }
 
-std::optional<Fault> Refund_Fault(const LiabilityRefund& refund) {
+/// What has no liability category cannot be posted; nothing when it has one.
+std::optional<Fault> Category_Fault(store::Database& db, const std::string& item, const char* control) {
+  if (item.empty()) return Mistaken("Please choose a payroll item.", "No Item", control);
+  if (!PayItems::Of(db)->item(item).LiabilityAcct.empty()) return {};
+  return Fault{{"The payroll item " + item + " has no liability category.", "No Category"}, control};
+}
+
+std::optional<Fault> Refund_Fault(store::Database& db, const LiabilityRefund& refund) {
   if (refund.lines.empty()) return Mistaken("Please Select a Payrollitem to refund to.", "No Items", "grdItems");
+  for (const RefundLine& line : refund.lines)
+    if (auto fault = Category_Fault(db, line.PayrollItem, "grdItems")) return fault;
   if (refund.Vendor.empty()) return Mistaken("Please Select a Vendor to refund form.", "No Vendor", "cmbVendor");
   if (refund.CatID.empty()) return Mistaken("Please Select a Category to refund to.", "No Category", "cmbDeposit");
   return {};
@@ -194,6 +203,7 @@ LiabilityResult Pay_Liabilities(Session& session, const LiabilityPayment& paymen
 }
 
 std::optional<Fault> Correction_Fault(store::Database& company, const LiabilityCorrection& row) {
+  if (auto fault = Category_Fault(company, row.PayrollItem, "grdAdjustments")) return fault;
   const bool employer = PayItems::Of(company)->item(row.PayrollItem).paid_by_employer();
   if (!employer && row.Employee.empty())
     return Mistaken("Item is Employee Paid, Employee Name is Necessary", "No Employee", "grdAdjustments");
@@ -214,8 +224,18 @@ LiabilityResult Adjust_Liabilities(Session& session, Date date, const std::vecto
   });
 }
 
+std::vector<RefundPlace> Refund_Places(store::Database& company) {
+  std::vector<RefundPlace> places;
+  company.each(
+      "SELECT AccountName, CatID FROM Accounts WHERE AccountType = 'Bank' OR AccountName = 'Undeposited Funds'", {},
+      [&places](const store::Row& row) {
+        places.push_back({std::string(row.text(0)), std::string(row.text(1))});
+      });
+  return places;
+}
+
 LiabilityResult Refund_Liabilities(Session& session, const LiabilityRefund& refund) {
-  if (auto fault = Refund_Fault(refund)) return {.fault = std::move(fault)};
+  if (auto fault = Refund_Fault(*session.dbCompany, refund)) return {.fault = std::move(fault)};
   return Written(session, "Payroll liabilities refunded", [&] {
     const auto items = PayItems::Of(*session.dbCompany);
     Money total;

@@ -55,10 +55,16 @@ struct LiabilityCorrection {
   Money Amount = {};
   std::string Employee = {};  ///< name; of items that the employee pays
 };
-/// Whether the employee stands where he must and not where he must not.
+/// Whether the item can be posted, and the employee stands where he must and not where he must not.
 std::optional<Fault> Correction_Fault(store::Database& company, const LiabilityCorrection& row);
 /// One transaction for all rows. What an employee pays gets its other side by the posting rule.
 LiabilityResult Adjust_Liabilities(Session& session, Date date, const std::vector<LiabilityCorrection>& rows);
+
+/// Where a refund can go: banks and "Undeposited Funds".
+struct RefundPlace {
+  std::string AccountName, CatID;
+};
+std::vector<RefundPlace> Refund_Places(store::Database& company);
 
 struct RefundLine {
   std::string PayrollItem = {};

@@ -1,5 +1,7 @@
 #include "payroll/ytd_setup.h"
 
+#include <algorithm>
+
 #include "core/ledger/ledger.h"
 #include "core/ledger/transaction_writer.h"
 #include "payroll/pay_items.h"
@@ -27,15 +29,21 @@ LedgerRow Row_Of(const std::string& account, const std::string& category, Money 
   return row;
 }
 
+std::optional<Fault> Setup_Fault(const YtdSetup& setup) {
+  const auto incomplete = [](const YtdSetup::Line& line) { return line.Item.empty() || !line.Amount; };
+  if (setup.lines.empty() || std::ranges::any_of(setup.lines, incomplete))
+    return Fault{{"Please have a payroll item and an amount for each row.", "Invalid Data"}, "grdIncome"};
+  if (setup.SSNum.empty()) return Fault{{"Please select an Employee.", "No Employee"}, "cmbEmployee"};
+  if (setup.to_bank && setup.BankID.empty()) return Fault{{"Please select a Bank.", "No Bank"}, "cmbBank"};
+  return {};
+}
+
 }  // namespace
 
 std::optional<Fault> Set_Up_Year_To_Date(Session& session, const YtdSetup& setup) {
-  const Fault invalid{{"Please have a payroll item and an amount for each row.", "Invalid Data"}, "grdIncome"};
-  if (setup.lines.empty()) return invalid;
-  for (const YtdSetup::Line& line : setup.lines)
-    if (line.Item.empty() || !line.Amount) return invalid;
+  if (auto fault = Setup_Fault(setup)) return fault;
   const auto items = PayItems::Of(*session.dbCompany);
-  const std::string& against = setup.BankID.empty() ? opening_balance : setup.BankID;
+  const std::string against = setup.to_bank ? setup.BankID : opening_balance;
   Transaction_Writer writer(session, {.Type = "YTD Adjust", .Date = setup.date, .Name = setup.Employee});
   Money total;
   auto add = [&](LedgerRow row, const std::string& item) {

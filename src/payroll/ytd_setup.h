@@ -16,11 +16,12 @@ struct YtdSetup {
   };
   std::string SSNum = {}, Employee = {};
   Date date;
-  std::string BankID = {};  ///< "": to liability and expense categories only, against "Opening Balance Equity"
+  bool to_bank = false;  ///< against the bank; else against "Opening Balance Equity", and no bank changes
+  std::string BankID = {};
   std::vector<Line> lines = {};
 };
 
-/// Writes it as one transaction of type "YTD Adjust"; the fault, when a line is not complete or nobody is chosen.
+/// Writes it as one transaction of type "YTD Adjust"; the fault, when a line is not complete, nobody is chosen or the bank is missing.
 std::optional<Fault> Set_Up_Year_To_Date(Session& session, const YtdSetup& setup);
 
 }  // namespace tallymere

@@ -96,6 +96,14 @@ TEST(Liabilities, WhatIsWrongIsSaidAndNothingWritten) {
   EXPECT_EQ(
       Refund_Liabilities(*acme.session, {Date(2026, 6, 1), Date(2026, 3, 31), "Fund", "0SS", {}}).fault->box.title,
       "No Items");
+  acme.run("UPDATE PayrollItems SET LiabilityAcct = '' WHERE Name = 'Plan'");
+  EXPECT_EQ(Adjust_Liabilities(*acme.session, Date(2026, 6, 1), {{"Plan", Dollars(1), "Ann"}}).fault->box.title,
+            "No Category")
+      << "there is nothing to post it to";
+  EXPECT_EQ(
+      Refund_Liabilities(*acme.session, {Date(2026, 6, 1), Date(2026, 3, 31), "Fund", "0SS", {{"Plan", Dollars(1)}}})
+          .fault->box.title,
+      "No Category");
   EXPECT_EQ(acme.db().value("SELECT MAX(TransNum) FROM Transactions").integer(), 4);
 }
 
@@ -138,6 +146,8 @@ TEST(YearToDateSetup, WritesTotalsAgainstOpeningEquityOrTheBank) {
             "17SS|OE1|0|14.5|14.5|Medicare Company|9\n"
             "21SS|OE1|10|0|10|Plan|9\n"
             "OE1|<-Break Down->|0|920|920||9\n");
+  setup.to_bank = true;
+  EXPECT_EQ(Set_Up_Year_To_Date(*acme.session, setup)->control, "cmbBank");
   setup.BankID = "0SS";
   EXPECT_FALSE(Set_Up_Year_To_Date(*acme.session, setup));
   EXPECT_EQ(acme.db().value("SELECT SUM(Debit) - SUM(Credit) + 0 FROM Transactions").integer(), 0);

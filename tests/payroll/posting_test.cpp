@@ -3,6 +3,7 @@
 #include "core/ledger/undo.h"
 #include "core/ledger/verify.h"
 #include "core/store/history.h"
+#include "payroll/chosen_items.h"
 #include "support/entry_company.h"
 
 namespace tallymere {
@@ -246,6 +247,24 @@ TEST(PayRun, ListsTheEmployedAndAsksBeforePayingTwice) {
   EXPECT_EQ(New_Paycheck(*acme.session, {Date(2026, 6, 7), Date(2026, 6, 12), "0SS"}, twice_a_year).box->text,
             "Please Select a Pay Period for this Employee.");
   EXPECT_EQ(Run_Fault({Date(2026, 6, 7), Date(2026, 6, 12), ""})->box.title, "No Bank");
+}
+
+TEST(ChosenItems, BringTheirRateAndGoOnUpcomingChecksOnce) {
+  PayrollCompany acme;
+  acme.run("UPDATE PayrollItems SET DefaultRate = '6%', DefaultLimit = 100000 WHERE Name = 'Plan'");
+  PayFacts facts = acme.opened("Bob").facts;
+  EXPECT_EQ(Chosen_Wage(facts, "hourly"), (EarningRow{"Hourly", "18.5", "0.0"}));
+  EXPECT_EQ(Chosen_Wage(facts, "Salary"), (EarningRow{"Salary", "", ""}));
+  EXPECT_EQ(Chosen_Item(facts, "Plan"), (OtherItemRow{"Plan", "6%", "", "Deduction"}));
+  EXPECT_TRUE(Is_Missing_From_Upcoming(acme.db(), facts.employee, "Plan"));
+  Add_To_Upcoming(*acme.session, facts, "Plan");
+  EXPECT_FALSE(Is_Missing_From_Upcoming(acme.db(), facts.employee, "plan"));
+  EXPECT_FALSE(Is_Missing_From_Upcoming(acme.db(), acme.opened("Bob").facts.employee, "Plan"));
+  const std::string where = " FROM EmployeeAdjustments WHERE SSNum = '2'";
+  EXPECT_EQ(acme.db().value("SELECT AmountRate" + where).text(), "6%");
+  EXPECT_EQ(acme.db().value("SELECT \"Limit\"" + where).text(), "10");
+  acme.run("DELETE FROM Employees WHERE Name = 'Ann'");
+  EXPECT_FALSE(Is_Missing_From_Upcoming(acme.db(), {.SSNum = "1", .Name = "Ann"}, "Bonus")) << "who is gone has none";
 }
 
 TEST(FirstCalculation, ComesUpWithThePercentageUndivided) {

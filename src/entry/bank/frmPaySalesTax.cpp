@@ -80,6 +80,7 @@ void frmPaySalesTax::take(const Request& request) {
   auto payment = Edit_Sales_Tax_Payment(session, request.number);
   if (!payment) return shell.say("There is no sales tax check " + std::to_string(request.number) + " any more.");
   payment_ = std::move(*payment);
+  if (request.start) payment_.Number = request.key, payment_.PayDate = *request.start;
   show_payment();
 }
 

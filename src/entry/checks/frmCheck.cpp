@@ -7,6 +7,7 @@
 #include <QStackedWidget>
 #include <QTabWidget>
 
+#include "core/company/users.h"
 #include "core/ledger/balances.h"
 #include "core/values/format.h"
 #include "core/values/text.h"
@@ -108,9 +109,18 @@ void frmCheck::set_editable(const Check& check) {
   lblLocked->setText(qt(Locked_Why(check)));
   lblLocked->setVisible(check.is_narrow());
   show_assigned();
-  const bool there = shell.has_window(check.has_payroll_items ? "frmPayLiabilites" : "frmPaySalesTax");
-  cmdLiaEdit->setEnabled(there);
-  cmdLiaEdit->setToolTip(there ? QString() : QStringLiteral("Its window is not part of this version yet."));
+  allow(cmdEditPayCheck, "frmPayCheck", "mnuPayroll");
+  check.has_payroll_items ? allow(cmdLiaEdit, "frmPayLiabilites", "mnuPayroll")
+                          : allow(cmdLiaEdit, "frmPaySalesTax", "mnuPaySalesTax");
+}
+
+/// A button to a window that is there, for those who may use the command that opens it.
+void frmCheck::allow(QPushButton* button, const char* window, const char* command) {
+  const bool there = shell.has_window(window), granted = May_Use(session, command);
+  button->setEnabled(there && granted);
+  button->setToolTip(!there     ? QStringLiteral("Its window is not part of this version yet.")
+                     : !granted ? QStringLiteral("This is not among your rights.")
+                                : QString());
 }
 
 // --- screen to document --------------------------------------------------------------------------
@@ -227,13 +237,19 @@ void frmCheck::cmdRepeat_Click() {
       {.window = "frmModRepeat", .key = "Check", .number = document_.TransNum, .parent = document_.BankID});
 }
 
-void frmCheck::cmdEditPayCheck_Click() {
-  shell.Show_Window({.window = "frmPayCheck", .key = {}, .number = document_.TransNum});
+/// The window that wrote this check, with the number, bank and date as they stand here.
+void frmCheck::edit_in(const char* window) {
+  const Check check = read();
+  if (shell.Ask_Window({.window = window,
+                        .key = check.Number,
+                        .number = check.TransNum,
+                        .parent = check.BankID,
+                        .start = check.Date}))
+    load_again();
 }
 
-void frmCheck::cmdLiaEdit_Click() {
-  const char* window = document_.has_payroll_items ? "frmPayLiabilites" : "frmPaySalesTax";
-  shell.Show_Window({.window = window, .key = {}, .number = document_.TransNum});
-}
+void frmCheck::cmdEditPayCheck_Click() { edit_in("frmPayCheck"); }
+
+void frmCheck::cmdLiaEdit_Click() { edit_in(document_.has_payroll_items ? "frmPayLiabilites" : "frmPaySalesTax"); }
 
 }  // namespace tallymere

@@ -54,6 +54,7 @@ class frmCheck : public DocumentForm<Check> {
   void show_head(const Check& check);
   void show_other_kinds(const Check& check);
   void set_editable(const Check& check);
+  void allow(QPushButton* button, const char* window, const char* command);
 
   // --- what happens while it is filled in
   void set_bank(const std::string& CatID);
@@ -70,6 +71,7 @@ class frmCheck : public DocumentForm<Check> {
   void cmdDelete_Click();
   void cmdPrint_Click();
   void cmdRepeat_Click();
+  void edit_in(const char* window);
   void cmdEditPayCheck_Click();
   void cmdLiaEdit_Click();
 

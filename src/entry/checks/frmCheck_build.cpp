@@ -127,8 +127,7 @@ QGroupBox* frmCheck::build_paycheck() {
   fraPaycheck = named("fraPaycheck", new QGroupBox(QStringLiteral("Pay Check Summary")));
   lblPayPeriod = named("lblPayPeriod", new QLabel);
   lblHours = named("lblHours", new QLabel);
-  cmdEditPayCheck =
-      leads_to(named("cmdEditPayCheck", new QPushButton(QStringLiteral("&Edit Paycheck"))), "frmPayCheck");
+  cmdEditPayCheck = named("cmdEditPayCheck", new QPushButton(QStringLiteral("&Edit Paycheck")));
   auto* column = column_layout(fraPaycheck);
   column->addLayout(figure_row("Pay Period:", lblPayPeriod));
   column->addLayout(figure_row("Hours:", lblHours));

@@ -31,9 +31,12 @@ menu("mnuChecks");
 const c = win("frmCheck");
 click(c.cmdPrev);
 equal(c.grdLiabilities.text(0, 0), "State");
+type(c.txtNumber, "77");
+modal("frmPaySalesTax", function (m) {
+  equal([m.cmdOk.caption, m.dtePayDate.enabled, m.dteQtrDate.value, m.SSDBGrid1.rows], ["&Save", false, "5/31/2026", 1]);
+  click(m.cmdOk);
+});
 click(c.cmdLiaEdit);
-w = win("frmPaySalesTax");
-equal([w.cmdOk.caption, w.dtePayDate.enabled, w.dteQtrDate.value, w.SSDBGrid1.rows], ["&Save", false, "5/31/2026", 1]);
-click(w.cmdOk);
+equal([c.txtNumber.value, ledger(2)[1].Number], ["77", "77"], "with the number of the check window, which shows what is stored");
 equal(ledger(2).length, 2);
 equal(log(), []);
