@@ -83,6 +83,7 @@ const WindowTable& Windows() {
       {"frmPrintListMem", Make_Report<"frmPrintListMem">},
       {"frmPrintListPay", Make_Report<"frmPrintListPay">},
       {"frmPrintListVen", Make_Report<"frmPrintListVen">},
+      {"frmPrintPayCheckup", Make_Report<"frmPrintPayCheckup">},
       {"frmPayAdjust", Make_Window<frmPayAdjust>},
       {"frmPayCheck", Make_Window<frmPayCheck>},
       {"frmPayLiabilites", Make_Window<frmPayLiabilites>},

@@ -8,6 +8,7 @@
 #include "reports/frame/table_parts.h"
 #include "reports/inventory/inventory_reports.h"
 #include "reports/lists/list_reports.h"
+#include "reports/payroll/payroll_checkup.h"
 #include "reports/profit/pl_by_name.h"
 #include "reports/profit/profit_and_loss.h"
 #include "reports/sales/sales_reports.h"
@@ -56,6 +57,7 @@ constexpr ReportDef reports[] = {
     {"BalSum", "frmPrintBalSheet", "mnuBalance", "Balance Sheet Summary", Dates::As_Of, Build_BalSum, has_basis},
     {"BalCmp", "frmPrintBalSheet", "mnuBalance", "Balance Sheet Comparison", Dates::As_Of, Build_BalCmp, has_basis},
     {"BalDetail", "frmPrintBalSheet", "mnuBalance", "Balance Sheet Detailed", Dates::As_Of, Build_BalDetail, has_basis},
+    {"PayCheckup", "frmPrintPayCheckup", "mnuRPayroll", "Payroll Check-up", Dates::As_Of, Build_Payroll_Checkup},
     {"AR", "frmPrintAging", "mnuAR", "Accounts Receivable Aging Summary", Dates::As_Of, Build_Receivable_Aging},
     {"AP", "frmPrintAging", "mnuAP", "Accounts Payable Aging Summary", Dates::As_Of, Build_Payable_Aging},
     {"ARDetail", "frmPrintAgeDetail", "mnuAR", "Accounts Receivable Aging Detail", Dates::As_Of,

@@ -144,6 +144,7 @@ constexpr MenuRow menu_rows[] = {
     {"mnuRPayroll", "mnuPayLiaRpt", "&Liability Report", "frmPrintPayrollEarnings", "PayLia"},
     {"mnuRPayroll", "mnuPayItemDet", "&Item Detail", "frmPrintCustom", "PayItem"},
     {"mnuRPayroll", "mnuPayTransDetail", "&Transaction Detail", "frmPrintPayDetail"},
+    {"mnuRPayroll", "mnuPayCheckup", "Payroll &Check-up", "frmPrintPayCheckup"},
     {"mnuReports", "mnuReportLists", "&Company Lists"},
     {"mnuReportLists", "mnuListCus", "&Customer Contact Phone List", "frmPrintListCus"},
     {"mnuReportLists", "mnuListVen", "&Vendor Contact Phone List", "frmPrintListVen"},
