@@ -5,6 +5,7 @@
 #include "entry/checks/frmCheck.h"
 #include "entry/find/frmFind.h"
 #include "entry/register/frmRegister.h"
+#include "entry/sales/frmInvoice.h"
 #include "lists/frmAccounts.h"
 #include "lists/frmClass.h"
 #include "lists/frmModAccount.h"
@@ -48,6 +49,7 @@ const WindowTable& Windows() {
   static const WindowTable windows = {
       {"frmAccounts", Make_Window<frmAccounts>},
       {"frmCheck", Make_Window<frmCheck>},
+      {"frmInvoice", Make_Window<frmInvoice>},
       {"frmClass", Make_Window<frmClass>},
       {"frmCusMessage", Make_Window<frmCusMessage>},
       {"frmCustomers", Make_Window<frmCustomers>},

@@ -35,8 +35,9 @@ struct Posting {
   std::optional<double> hours = {};
   std::optional<Money> sale_price = {};
   bool taxable = false;
+  std::optional<Money> sale = {};  ///< of a sold part: its rows tell this as their Amount, whatever they post
 
-  Money amount() const { return debit.is_zero() ? credit.abs() : debit.abs(); }
+  Money amount() const { return sale ? *sale : debit.is_zero() ? credit.abs() : debit.abs(); }
 };
 
 /// A transaction on its way to the ledger: what all its rows share, and the rows. It waits for a while, so

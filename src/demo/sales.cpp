@@ -94,13 +94,23 @@ void Sales::Write_Line(Document& invoice, const Line& line) {
   row.qty = -line.qty.value_or(0) + 0.0;  // never a negative zero
   row.sale_price = item.price;
   row.taxable = line.taxable;
+  if (!item.is_part()) {
+    invoice.add(row);
+    return;
+  }
+  // Stock goes out to cost of goods at what it cost, income takes the sale.
+  Posting sale = row;
+  sale.account = item.category;
+  sale.source_name = "Inventory Part";
+  row.sale = amount.abs();
+  row.debit = {};
+  row.credit = item.cost.times(line.qty.value_or(0));
   invoice.add(row);
-  if (!item.is_part()) return;
   row.source_name = "Inventory Part";
   row.account = item.cost_category;
+  std::swap(row.debit, row.credit);
   invoice.add(row);
-  row.account = item.category;
-  invoice.add(row);
+  invoice.add(sale);
 }
 
 Document& Sales::Write_Invoice(Customer& customer, const std::vector<Line>& lines) {

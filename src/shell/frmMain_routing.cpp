@@ -8,6 +8,7 @@
 #include <QToolButton>
 #include <algorithm>
 
+#include "core/company/users.h"
 #include "core/ledger/reach.h"
 #include "core/store/error.h"
 #include "core/values/control_characters.h"
@@ -120,6 +121,7 @@ void frmMain::mnuUndo_Click() {
 void frmMain::Go_To_Transaction(const std::string& type, int64_t number) {
   const std::string window(Entry_Window(type));
   if (window.empty()) return say("There is no window to go to for a transaction of type " + type + ".");
+  if (!May_Use(session, Command_For("Transactions", type))) return say("You have no right to open a transaction of type " + type + ".");
   Show_Window({.window = window, .key = {}, .number = number});
 }
 

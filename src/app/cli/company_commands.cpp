@@ -38,6 +38,7 @@ int Verify(Arguments& arguments) {
   arguments.finish();
   auto findings = Verify_Company(*cli.session.dbCompany);
   for (const Finding& finding : findings) std::cout << in_one_plain_line(finding.check + ": " + finding.what) << "\n";
+  if (const std::string note = Sold_Parts_Note(*cli.session.dbCompany); !note.empty()) std::cout << note << "\n";
   if (findings.empty()) std::cout << "All is well.\n";
   return findings.empty() ? 0 : 1;
 }

@@ -18,4 +18,7 @@ struct Finding {
 /// to, the rows of one number are one document, every link resolves. No findings: all is well.
 std::vector<Finding> Verify_Company(store::Database& company);
 
+/// What does not balance by the rule "Sale" of inventory (docs/bookkeeping.md), in one sentence; "" where nothing does.
+std::string Sold_Parts_Note(store::Database& company);
+
 }  // namespace tallymere

@@ -82,8 +82,9 @@ struct ItemFacts {
   bool InvTaxable = false;
 
   bool is_stock() const { return ItemType == "Inventory Part"; }
-  /// What a line of it posts to: InvAsset of an "Inventory Part", else ItemCat; "" for an item nobody knows.
-  const std::string& posts_to() const { return is_stock() ? InvAsset : ItemCat; }
+  /// What a line of it posts to: InvAsset of an "Inventory Part", PayTo of a "Payment", else ItemCat; "" for an item
+  /// nobody knows.
+  const std::string& posts_to() const { return is_stock() ? InvAsset : ItemType == "Payment" ? PayTo : ItemCat; }
 };
 ItemFacts Item_Facts(Session& session, const std::string& ItemName);
 
