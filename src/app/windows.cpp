@@ -4,6 +4,9 @@
 #include "entry/bank/frmReconcile.h"
 #include "entry/checks/frmCheck.h"
 #include "entry/find/frmFind.h"
+#include "entry/receipts/frmDeposits.h"
+#include "entry/receipts/frmOpenPayments.h"
+#include "entry/receipts/frmPayments.h"
 #include "entry/register/frmRegister.h"
 #include "entry/sales/frmInvoice.h"
 #include "lists/frmAccounts.h"
@@ -50,6 +53,9 @@ const WindowTable& Windows() {
       {"frmAccounts", Make_Window<frmAccounts>},
       {"frmCheck", Make_Window<frmCheck>},
       {"frmInvoice", Make_Window<frmInvoice>},
+      {"frmPayments", Make_Window<frmPayments>},
+      {"frmOpenPayments", Make_Window<frmOpenPayments>},
+      {"frmDeposits", Make_Window<frmDeposits>},
       {"frmClass", Make_Window<frmClass>},
       {"frmCusMessage", Make_Window<frmCusMessage>},
       {"frmCustomers", Make_Window<frmCustomers>},

@@ -78,7 +78,7 @@ void frmMain::route(const MenuRow& row) {
   });
 }
 
-/// Payments that wait in the customers' accounts are offered first.
+/// Payments that wait in the customers' accounts are offered first; those picked go into the deposit.
 void frmMain::mnuDepositFunds_Click() {
   if (!session.dbCompany) throw store::Error(store::errors::file_not_found, "No company is open.");
   const bool waiting = !session.dbCompany
@@ -86,7 +86,8 @@ void frmMain::mnuDepositFunds_Click() {
                                 "SELECT * FROM Transactions WHERE Type = 'Payment' AND  Paid = 0 AND "
                                 "Account = 'AR1'")
                             .empty();
-  Show_Window({.window = waiting ? "frmOpenPayments" : "frmDeposits", .key = {}});
+  const auto picked = waiting ? Ask_Window({.window = "frmOpenPayments", .key = {}}) : std::string();
+  if (picked) Show_Window({.window = "frmDeposits", .key = *picked});
 }
 
 void frmMain::btnHelp_Click() {

@@ -43,13 +43,16 @@ void PickForm::cmdOk_AfterClick() {
   if (!numbers.empty()) finish(true, numbers);
 }
 
+std::vector<int64_t> Numbers_In(const std::string& answer) {
+  std::vector<int64_t> numbers;
+  for (size_t at = 0; at < answer.size(); at = answer.find(';', at) + 1)
+    numbers.push_back(std::stoll(answer.substr(at)));
+  return numbers;
+}
+
 std::optional<std::vector<int64_t>> Ask_Numbers(Shell& shell, const Request& request) {
   const auto answer = shell.Ask_Window(request);
-  if (!answer) return std::nullopt;
-  std::vector<int64_t> numbers;
-  for (size_t at = 0; at < answer->size(); at = answer->find(';', at) + 1)
-    numbers.push_back(std::stoll(answer->substr(at)));
-  return numbers;
+  return answer ? std::optional(Numbers_In(*answer)) : std::nullopt;
 }
 
 }  // namespace tallymere

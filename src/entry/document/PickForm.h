@@ -36,6 +36,8 @@ class PickForm : public Form {
   int number_column_;
 };
 
+/// The numbers in its answer, "7;12;".
+std::vector<int64_t> Numbers_In(const std::string& answer);
 /// Asks a window of the table for numbers; nothing when it was not accepted.
 std::optional<std::vector<int64_t>> Ask_Numbers(Shell& shell, const Request& request);
 
