@@ -2,6 +2,7 @@
 
 #include "core/company/preferences.h"
 #include "core/company/schema.h"
+#include "core/ledger/settlement.h"
 #include "core/names/name_faults.h"
 #include "core/store/sql.h"
 #include "core/values/text.h"
@@ -185,6 +186,58 @@ Findings Payments_Exist(Database& db) {
   return found;
 }
 
+/// A customer's payment settles documents of that customer, for its own amount and no other. Less is no fault while
+/// documents name payments that were never recorded.
+Findings Payments_Come_To_What_They_Settle(Database& db) {
+  const std::string less = Unrecorded_Documents(db).empty() ? " OR settled < total" : "";
+  Findings found = Examples(
+      db,
+      "SELECT Payment, settled, total FROM (SELECT a.Payment AS Payment, SUM(a.Amount) AS settled,"
+      " (SELECT t.Amount FROM Transactions AS t WHERE t.TransNum = a.Payment AND t.Account = 'AR1'"
+      " AND t.Type = 'Payment' LIMIT 1) AS total FROM Applied AS a GROUP BY a.Payment)"
+      " WHERE total IS NOT NULL AND (settled > total" +
+          less + ")",
+      [](const Row& row) {
+        return "Payment " + Text(row, 0) + " of " + row.money(2).to_text() + " settles " + row.money(1).to_text();
+      });
+  for (std::string& fault :
+       Examples(db,
+                "SELECT DISTINCT a.Payment, p.Name, a.Document, d.Name FROM Applied AS a JOIN Transactions AS p ON"
+                " p.TransNum = a.Payment AND p.Account = 'AR1' AND p.Type = 'Payment' JOIN Transactions AS d ON"
+                " d.TransNum = a.Document AND d.Account = 'AR1' WHERE p.Name <> d.Name",
+                [](const Row& row) {
+                  return "Payment " + Text(row, 0) + " of " + Text(row, 1) + " settles " + Text(row, 2) + " of " +
+                         Text(row, 3);
+                }))
+    found.push_back(std::move(fault));
+  return found;
+}
+
+/// A held payment lies in one deposit at most and is Paid if it lies in one; what a deposit takes out of Undeposited
+/// Funds is what its payments come to.
+Findings Deposits_Come_To_What_They_Hold(Database& db) {
+  Findings found = Examples(db,
+                            "SELECT t.TransNum, MIN(t.Paid), COUNT(DISTINCT a.Payment) FROM Transactions AS t JOIN"
+                            " Applied AS a ON a.Document = t.TransNum WHERE t.Type = 'Payment' AND t.Account = 'UF1'"
+                            " GROUP BY t.TransNum HAVING MAX(t.Paid) = 0 OR COUNT(DISTINCT a.Payment) > 1",
+                            [](const Row& row) {
+                              return "Payment " + Text(row, 0) + " lies in " + Text(row, 2) + " deposits and is " +
+                                     (row.flag(1) ? "Paid" : "not Paid");
+                            });
+  for (std::string& fault : Examples(
+           db,
+           "SELECT Deposit, held, (SELECT SUM(IFNULL(Credit, 0) - IFNULL(Debit, 0)) FROM Transactions WHERE"
+           " TransNum = Deposit AND Account = 'UF1') AS taken FROM (SELECT a.Payment AS Deposit, SUM(a.Amount) AS"
+           " held FROM Applied AS a WHERE EXISTS (SELECT 1 FROM Transactions AS t WHERE t.TransNum = a.Document AND"
+           " t.Type = 'Payment') GROUP BY a.Payment) WHERE taken IS NULL OR taken <> held",
+           [](const Row& row) {
+             return "Deposit " + Text(row, 0) + " takes " + row.money(2).to_text() +
+                    " out of Undeposited Funds for payments of " + row.money(1).to_text();
+           }))
+    found.push_back(std::move(fault));
+  return found;
+}
+
 struct Check {
   const char* name;
   Findings (*run)(Database&);
@@ -195,6 +248,8 @@ constexpr Check checks[] = {{"file", File_Is_Sound},
                             {"categories", Fixed_Categories_Stand},
                             {"links", All_Links_Resolve},
                             {"payments", Payments_Exist},
+                            {"payments", Payments_Come_To_What_They_Settle},
+                            {"held", Deposits_Come_To_What_They_Hold},
                             {"names", Name_Faults}};
 
 }  // namespace
