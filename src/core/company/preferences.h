@@ -22,9 +22,8 @@ inline constexpr std::string_view PrintInvoice =
     "PrintInvoice";                                       ///< "BlankBox", "PrePrinted", "BlankNoBox", "Letterhead"
 inline constexpr std::string_view FirstDay = "FirstDay";  ///< "Sunday" to "Saturday"
 inline constexpr std::string_view LogoPath = "LogoPath";
-inline constexpr std::string_view Style = "Style";                        ///< of printed checks: "Original", "Custom"
-inline constexpr std::string_view ItemSort = "ItemSort";                  ///< a column's name: "Name"
-inline constexpr std::string_view InventoryPosting = "InventoryPosting";  ///< of sold parts: "Sale", "Cost"
+inline constexpr std::string_view Style = "Style";        ///< of printed checks: "Original", "Custom"
+inline constexpr std::string_view ItemSort = "ItemSort";  ///< a column's name: "Name"
 }  // namespace preference
 
 /// The State of a preference; "" when there is none.

@@ -6,7 +6,7 @@
 namespace tallymere {
 
 InventoryPosting Inventory_Rule(store::Database& company) {
-  const bool cost = Preference(company, preference::InventoryPosting) == "Cost";
+  const bool cost = Preference(company, "InventoryPosting") == "Cost";
   return cost ? InventoryPosting::Cost : InventoryPosting::Sale;
 }
 
