@@ -73,7 +73,8 @@ Form::Form(Shell& shell_of_frame, const char* name, Place place)
   setObjectName(QString::fromLatin1(name));
 }
 
-Form::~Form() = default;
+/// Children that go with the window may still lose the focus; nothing of it is for a window half gone.
+Form::~Form() { disconnect(qApp, nullptr, this, nullptr); }
 
 QSize Form::sizeHint() const { return window_memory::size_of(objectName()).value_or(QWidget::sizeHint()); }
 
