@@ -9,6 +9,7 @@
 #include "entry/receipts/frmOpenPayments.h"
 #include "entry/receipts/frmPayments.h"
 #include "entry/register/frmRegister.h"
+#include "forms/frmCreate941.h"
 #include "lists/frmAccounts.h"
 #include "lists/frmClass.h"
 #include "lists/frmModAccount.h"
@@ -102,6 +103,7 @@ const WindowTable& Windows() {
       {"frmReconcile", Make_Window<frmReconcile>},
       {"frmEmployees", Make_Window<frmEmployees>},
       {"frmModEmployee", Make_Window<frmModEmployee>},
+      {"frmCreate941", Make_Window<frmCreate941>},
       {"frmTimeSheet", Make_Window<frmTimeSheet>},
       {"frmHistory", Make_Window<frmHistory>},
       {"frmKeys", Make_Window<frmKeys>},

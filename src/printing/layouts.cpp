@@ -34,6 +34,15 @@ constexpr LayoutDef defs[] = {
      "Logo PartyCaption Memo Page"},
     {"crpPSlip", "Package slips", "Name Address Party PartyAddress Number Date Detail Detail.room Item Description Qty",
      "Logo Memo Page"},
+    {"crp941", "Form 941",
+     "LegalName FedID dteEnd txtWages txtWithheld txtAsjustPreced txtTotalWithheld txtSocWage lblTotSocTaxWage txtSocTip "
+     "lblTotSocTaxTip txtMedWT lblMedTax lblTotalTax txtAdjustTaxes txtTotalAdjust txtTax txtEIC txtNetTaxes "
+     "txtDeposits txtBalance txtOverpay txtFirst txtSecond txtThird lblTotalLia",
+     "LegalAddress CityLine State1 State2 txtEmpCount AddDif Season FutReturn FinalWage NotSubject Refund Apply "
+     "Semiweekly Monthly SocRate TipRate MedRate"},
+    {"crpSchedB", "Schedule B of Form 941",
+     "LegalName FedID Text122..Text152 Text155..Text185 Text187..Text217 Text219..Text222",
+     "LegalAddress CityLine dteEnd Month1 Month2 Month3 NetTaxes Difference"},
 };
 
 }  // namespace

@@ -44,6 +44,8 @@ constexpr Command commands[] = {
      "report [KEY --company FILE [--range NAME] [--from m/d/yyyy] [--to m/d/yyyy] [--basis cash|accrual] [--title TEXT]"
      " [--fields LIST] [--empty hide] [--category ID] [--name NAME] [--item NAME] [--format text|csv|xlsx|pdf] [--out FILE]]",
      "a report of the company's books; without a key, the keys there are", Report},
+    {"form", "form [KEY --company FILE --year Y [--quarter N] [--out FILE.pdf|FILE.csv]]",
+     "a tax form as the company's books make it; without a key, the forms there are", Form},
     {"layout", "layout [NAME]",
      "puts the drawing of a printed layout into the program folder's layouts, to be changed with any drawing program;"
      " without a name, the layouts there are",

@@ -45,6 +45,7 @@ int Enter(Arguments& arguments);
 int History(Arguments& arguments);
 int Undo(Arguments& arguments);
 int Report(Arguments& arguments);
+int Form(Arguments& arguments);
 int Write_Out(Arguments& arguments);
 int Paycheck_Cases(Arguments& arguments);
 int Tax_Tables(Arguments& arguments);
