@@ -15,6 +15,8 @@
 #include "lists/frmModAccount.h"
 #include "lists/frmNewPayee.h"
 #include "lists/frmOtherNames.h"
+#include "lists/items/frmItems.h"
+#include "lists/items/frmModItems.h"
 #include "lists/parties/frmCusMessage.h"
 #include "lists/parties/frmCustomers.h"
 #include "lists/parties/frmModCustomer.h"
@@ -63,6 +65,8 @@ const WindowTable& Windows() {
       {"frmModCustomer", Make_Window<frmModCustomer>},
       {"frmModVendor", Make_Window<frmModVendor>},
       {"frmVendors", Make_Window<frmVendors>},
+      {"frmItems", Make_Window<frmItems>},
+      {"frmModItems", Make_Window<frmModItems>},
       {"frmModAccount", Make_Window<frmModAccount>},
       {"frmNewPayee", Make_Window<frmNewPayee>},
       {"frmOtherNames", Make_Window<frmOtherNames>},

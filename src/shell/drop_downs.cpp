@@ -56,7 +56,8 @@ void DropDowns::fill_items() {
   std::vector<SSDBDropDown::Item> items;
   for (const ItemRow& row : Make_Item_List(*session_.dbCompany))
     items.push_back(
-        {Indented(row.ItemName, row.level) + "\t" + row.Description + "\t" + Format(row.PriceRate, "#,##0.00"), {}});
+        {Indented(row.ItemName, row.level) + "\t" + row.Description + "\t" + Rate_Text(row.PriceRate, row.ItemType),
+         {}});
   drpItems->set_items(items);
 }
 

@@ -21,6 +21,14 @@ void Take_Signs_Off(Database& db) {
   db.Execute("UPDATE Transactions SET Amount = -Amount WHERE Amount < 0");
 }
 
+/// Sub-items of before name their parent without its full stops.
+void Find_Parents_With_Stops(Database& db) {
+  const std::string above = "FROM Items AS Above WHERE REPLACE(Above.ItemName, '.', '') = Items.ParentItem";
+  db.Execute("UPDATE Items SET ParentItem = (SELECT Above.ItemName " + above + " ORDER BY Above.RowKey)" +
+             " WHERE ParentItem <> '' AND ParentItem NOT IN (SELECT ItemName FROM Items) AND EXISTS (SELECT 1 " +
+             above + ")");
+}
+
 /// What has to be done to files written before a change of the schema that new tables, fields and indexes alone don't
 /// bring. The next change adds a row here and raises schema_version.
 constexpr UpgradeStep upgrade_steps[] = {
@@ -40,6 +48,7 @@ constexpr UpgradeStep upgrade_steps[] = {
            db.connection().execute("DROP INDEX IF EXISTS Transactions_Item");
            Create_Reading_Indexes(db);
          }},
+    {.to = 6, .run = Find_Parents_With_Stops},
 };
 
 std::span<const TableDef> Tables_Of(FileKind kind) {

@@ -21,13 +21,15 @@ std::vector<ItemRow> Read_Items(store::Database& company) {
   std::vector<ItemRow> rows;
   company.each(
       "SELECT ItemName, ItemType, ParentItem, Description, InvPurchaseDesc, ItemCat, PayMethod, PayTo, "
-      "PriceRate, Cost,"
-      " Dormant FROM Items ORDER BY ItemName",
+      "PriceRate, ExactRate, Cost, Dormant FROM Items ORDER BY ItemName",
       {}, [&](const store::Row& row) {
         const auto text = [&](int column) { return std::string(row.text(column)); };
-        rows.push_back({text(0), text(1), text(2), text(3), text(4), text(5), text(6), text(7), row.money(8),
-                        row.money(9), row.flag(10)});
+        rows.push_back(
+            {text(0), text(1), text(2), text(3), text(4), text(5), text(6), text(7),
+             Rate_Of(row.is_null(8) ? store::Value() : row.money(8), row.is_null(9) ? store::Value() : row.number(9)),
+             row.money(10), row.flag(11)});
       });
+  Raise_Lost_Rows(rows, &ItemRow::ParentItem);
   return rows;
 }
 

@@ -5,6 +5,7 @@
 #include <string_view>
 #include <vector>
 
+#include "core/ledger/item_rate.h"
 #include "core/ledger/tree_list.h"
 #include "core/store/database.h"
 
@@ -47,7 +48,8 @@ std::vector<CategoryRow> Make_Expense_List(store::Database& company);
 
 struct ItemRow {
   std::string ItemName, ItemType, ParentItem, Description, InvPurchaseDesc, ItemCat, PayMethod, PayTo;
-  Money PriceRate, Cost;
+  ItemRate PriceRate;
+  Money Cost;
   bool Dormant = false;
   int level = 0;
 
@@ -57,7 +59,8 @@ struct ItemRow {
 
 enum class ItemOrder { Name, TypeThenName };  ///< of the top rows; sub-items are always by name
 
-/// Items and below each its sub-items. Without `show_dormant` a dormant item and all below it are left out.
+/// Items and below each its sub-items; one whose parent is gone stands at the top. Without `show_dormant` a dormant item
+/// and all below it are left out.
 std::vector<ItemRow> Make_Item_List(store::Database& company, ItemOrder order = ItemOrder::Name,
                                     bool show_dormant = true);
 

@@ -26,6 +26,7 @@ LedgerRow Stored_Row(store::RowSet& row) {
           .ItemDescription = row["ItemDescription"].text(),
           .Qty = Number(row["Qty"].value()),
           .SalePrice = Amount(row["SalePrice"].value()),
+          .ExactRate = Number(row["ExactRate"].value()),
           .Taxable = row["Taxable"].flag(),
           .Cleared = row["Cleared"].flag(),
           .Paid = row["Paid"].flag(),

@@ -55,6 +55,7 @@ constexpr Column columns[] = {
     {"ItemDescription", [](Head, Row row) { return Text(row.ItemDescription); }},
     {"Qty", [](Head, Row row) { return Value(row.Qty); }},
     {"SalePrice", [](Head, Row row) { return Value(row.SalePrice); }},
+    {"ExactRate", [](Head, Row row) { return Value(row.ExactRate); }},
     {"Taxable", [](Head, Row row) { return Value(row.Taxable); }},
     {"Terms", [](Head, Row row) { return Text(row.Terms); }},
     {"DueDate", [](Head, Row row) { return Value(row.DueDate); }},

@@ -42,6 +42,7 @@ struct LedgerRow {
   std::string ItemDescription = {};
   std::optional<double> Qty = {};
   std::optional<Money> SalePrice = {};
+  std::optional<double> ExactRate = {};  ///< of a tax, where SalePrice does not hold it
   bool Taxable = false;
   bool Cleared = false;  ///< or the head's
   bool Paid = false;

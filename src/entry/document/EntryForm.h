@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "entry/document/document.h"
+#include "shell/amount_cells.h"
 #include "shell/widgets/Form.h"
 #include "shell/widgets/grid/SSDBGrid.h"
 
@@ -64,12 +65,5 @@ class EntryForm : public Form {
   std::string kept_;
   bool valid_ = true;
 };
-
-/// Words typed into the grid's columns of amounts and numbers are refused; the status bar says so.
-void Take_Only_Amounts(Shell& shell, SSDBGrid& grid);
-
-/// Cells of a line as documents hold them; a cell that is blank or does not read as a number is nothing.
-std::optional<Money> Money_At(const SSDBGrid& grid, int row, int column);
-std::optional<double> Number_At(const SSDBGrid& grid, int row, int column);
 
 }  // namespace tallymere

@@ -27,8 +27,14 @@ ItemFacts Item_Facts(Session& session, const std::string& ItemName) {
           .PayMethod = item["PayMethod"].text(),
           .PayTo = item["PayTo"].text(),
           .PriceRate = amount("PriceRate"),
+          .ExactRate = item["ExactRate"].blank() ? std::nullopt : std::optional(item["ExactRate"].number()),
           .Cost = amount("Cost"),
           .InvTaxable = item["InvTaxable"].flag()};
+}
+
+ItemRate Line_Rate(const ItemLine& line, const ItemFacts& item) {
+  const ItemRate kept = Rate_Of(line.Cost, line.kept ? line.kept->ExactRate : std::nullopt);
+  return kept.ExactRate ? kept : Rate_Of(line.Cost, item.ExactRate);
 }
 
 std::optional<Money> Item_Amount(const ItemLine& line, std::string_view ItemType) {
@@ -129,6 +135,7 @@ LedgerRow Item_Row(const ItemLine& line, const std::string& Category, LineSide s
   row.ItemDescription = line.Description;
   row.Qty = line.Quantity;
   row.SalePrice = line.Cost;
+  row.ExactRate = Rate_Of(line.Cost, row.ExactRate).ExactRate;  // unless another rate was typed
   row.Taxable = line.Tax;
   return row;
 }

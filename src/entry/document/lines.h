@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "core/company/session.h"
+#include "core/ledger/item_rate.h"
 #include "core/ledger/transaction_writer.h"
 
 /// Lines of a document: expenses that name a category, items that are bought or sold. Amounts are as the screen shows
@@ -78,6 +79,7 @@ struct ItemFacts {
   std::string PayMethod = {};
   std::string PayTo = {};
   std::optional<Money> PriceRate = {};
+  std::optional<double> ExactRate = {};
   std::optional<Money> Cost = {};
   bool InvTaxable = false;
 
@@ -87,6 +89,9 @@ struct ItemFacts {
   const std::string& posts_to() const { return is_stock() ? InvAsset : ItemType == "Payment" ? PayTo : ItemCat; }
 };
 ItemFacts Item_Facts(Session& session, const std::string& ItemName);
+
+/// What a tax line takes of the amounts above it: exactly what its row or its item says, while that is what Cost shows.
+ItemRate Line_Rate(const ItemLine& line, const ItemFacts& item);
 
 /// The Amount cell of an item line after its Quantity or Cost was typed: Quantity x Cost, the Cost alone, or
 /// nothing. A "Subtotal" and a "Sales Tax" line keep the amount they have.

@@ -73,6 +73,7 @@ TEST(TransactionWriter, EveryFieldOfALedgerRowReachesItsColumn) {
             .ItemDescription = "k",
             .Qty = 4.5,
             .SalePrice = Money::dollars(5),
+            .ExactRate = 0.06875,
             .Taxable = true,
             .Cleared = true,
             .Paid = true,
@@ -97,13 +98,14 @@ TEST(TransactionWriter, EveryFieldOfALedgerRowReachesItsColumn) {
   auto row = company.db().OpenRecordset("SELECT * FROM Transactions WHERE TransNum = 3");
   std::string all;
   for (const auto& field : row.Fields()) all += field.name + "=" + row[field.name].text() + " ";
-  EXPECT_EQ(all,
-            "TransNum=3 Type=a Date=6/15/2026 Number=b Name=m Address=d ShippingAddress=n Memo=g Account=e "
-            "Category=f "
-            "Debit=1 Credit=2 Amount=3 Class=i Cleared=True Paid=True PaidBy=l AmountReceived=6 SourceName=h "
-            "Item=j "
-            "ItemDescription=k Qty=4.5 SalePrice=5 Taxable=True Terms=o DueDate=1/2/2026 PONum=p ShipDate=1/3/2026 "
-            "FOB=q Via=r Rep=s PayMethod=t PaidThrough=1/4/2026 SSNum=u PayrollItem=v PayPeriod=w Hours=7.5 ");
+  EXPECT_EQ(
+      all,
+      "TransNum=3 Type=a Date=6/15/2026 Number=b Name=m Address=d ShippingAddress=n Memo=g Account=e "
+      "Category=f "
+      "Debit=1 Credit=2 Amount=3 Class=i Cleared=True Paid=True PaidBy=l AmountReceived=6 SourceName=h "
+      "Item=j "
+      "ItemDescription=k Qty=4.5 SalePrice=5 ExactRate=0.06875 Taxable=True Terms=o DueDate=1/2/2026 PONum=p ShipDate=1/3/2026 "
+      "FOB=q Via=r Rep=s PayMethod=t PaidThrough=1/4/2026 SSNum=u PayrollItem=v PayPeriod=w Hours=7.5 ");
 }
 
 TEST(TransactionWriter, ReplacesAllRowsAndKeepsThemCleared) {
