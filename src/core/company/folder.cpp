@@ -42,7 +42,7 @@ constexpr UpgradeStep upgrade_steps[] = {
            Note_All_Numbers(db);
          }},
     // the index of items has grown
-    {.to = 5,
+    {.to = 6,
      .run =
          [](Database& db) {
            db.connection().execute("DROP INDEX IF EXISTS Transactions_Item");

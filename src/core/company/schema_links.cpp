@@ -21,8 +21,8 @@ constexpr ReadingIndex reading[] = {
     // find by day, the list of years, reports over all categories of a period; what was paid in it
     {"Transactions_Date", "Transactions", "Date, TransNum", ""},
     // stock, sales and sales tax of one item, summed from the index alone; most rows have none
-    {"Transactions_Item", "Transactions", "Item, Date, Type, Paid, SourceName, Qty, Amount, Debit, Credit",
-     "Item IS NOT NULL"},
+    {"Transactions_Item", "Transactions",
+     "Item, Date, Type, Paid, SourceName, Qty, Amount, Debit, Credit, Category, Account, Taxable", "Item IS NOT NULL"},
     // bills that nothing has paid yet, which do not count on cash basis
     {"Transactions_OpenBills", "Transactions", "Account, Date, Debit, Credit",
      "Type = 'Bill' AND COALESCE(PaidBy, '') = ''"},

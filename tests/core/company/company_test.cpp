@@ -157,7 +157,7 @@ TEST(Company, AnOlderFileIsBroughtUpToDateOnOpening) {
     EXPECT_EQ(acme.db().value("SELECT " + std::string(field) + " FROM Transactions").money(), Money::dollars(7));
   EXPECT_EQ(Next_TransNum(acme.db()), 32) << "31 is named, so it was given";
   EXPECT_EQ(acme.db().value("SELECT COUNT(*) FROM pragma_index_info('Transactions_Account')").integer(), 7);
-  EXPECT_EQ(acme.db().value("SELECT COUNT(*) FROM pragma_index_info('Transactions_Item')").integer(), 9);
+  EXPECT_EQ(acme.db().value("SELECT COUNT(*) FROM pragma_index_info('Transactions_Item')").integer(), 12);
   EXPECT_EQ(acme.db().value("SELECT At FROM History ORDER BY RowKey DESC").text().substr(0, 10), "2026-06-15");
 }
 
