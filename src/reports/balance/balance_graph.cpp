@@ -38,7 +38,7 @@ Graph Build_Balance_Graph(Session& session, const ReportRequest& request) {
                       .stands = true};
   const Date first = request.to.first_of_month().add_months(1 - months_shown);
   months.months = Months_Of({first, request.to}, months.series.size());
-  Positions positions(db, tree, request.basis);
+  Positions positions(db, tree, request.basis, request.to);
   for (Graph_Months::Month& month : months.months)
     month.amounts = Totals(tree, positions.at(std::min(month.first_day.end_of_month(), request.to)));
   return {Make_Heading(session, request), {std::move(months)}};

@@ -172,7 +172,7 @@ Sheet_Figures Load_Figures(store::Database& db, const CategoryTree& tree, const 
                            Variant variant) {
   Sheet_Figures figures;
   const bool compares = variant == Variant::Comparison;
-  Positions positions(db, tree, request.basis);
+  Positions positions(db, tree, request.basis, request.to);
   figures.add(positions.at(request.to), compares ? request.to.to_text() : "", false);
   const Date year_ago = request.to.add_months(-12);
   if (compares) figures.add(positions.at(year_ago), year_ago.to_text(), true);

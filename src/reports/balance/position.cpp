@@ -1,5 +1,7 @@
 #include "reports/balance/position.h"
 
+#include <span>
+
 #include "core/ledger/ledger.h"
 
 namespace tallymere {
@@ -25,7 +27,10 @@ void Leave_Out_Bills(store::Database& db, Figures& figures, const CatIDs& catego
                    [&](const LateBill& bill) { figures[std::string(bill.Account)] -= bill.value; });
 }
 
-CatIDs Of_Types(const CategoryTree& tree, std::initializer_list<std::string_view> types) {
+constexpr std::string_view income_types[] = {"Income", "Other Income"};
+constexpr std::string_view cost_types[] = {"Cost of Goods Sold", "Expense", "Other Expense"};
+
+CatIDs Of_Types(const CategoryTree& tree, std::span<const std::string_view> types) {
   CatIDs ids;
   for (const Category& category : tree.all())
     if (std::find(types.begin(), types.end(), category.AccountType) != types.end()) ids.push_back(category.CatID);
@@ -38,17 +43,24 @@ Money Total(const Figures& figures) {
   return total;
 }
 
-/// The cash income of these categories, each with all below it.
-Money Cash_Income(store::Database& db, const CategoryTree& tree, const CatIDs& income, DateRange days) {
-  CaselessMap<bool> seen;
+/// What all income categories took in day by day on cash basis, each with all below it: a sub-category's income comes
+/// in at each income category above it as well as at itself.
+std::map<Date, Money> Cash_Income_By_Day(store::Database& db, const CategoryTree& tree, Date last) {
+  CaselessMap<int> times;
+  for (const std::string& id : Of_Types(tree, income_types))
+    for (const std::string& below : Family_Of(tree, id)) ++times[below];
   CatIDs all;
-  for (const std::string& id : income)
-    for (std::string& below : Family_Of(tree, id))
-      if (seen.try_emplace(below, true).second) all.push_back(std::move(below));
-  const Figures own = Sum_CashIncome(db, all, days);
-  Money total;
-  for (const std::string& id : income) total += tree.sum_family(id, own);
-  return total;
+  std::vector<int> times_of;
+  for (const auto& [id, count] : times) {
+    all.push_back(id);
+    times_of.push_back(count);
+  }
+  std::map<Date, Money> by_day;
+  Sum_CashIncome(db, all, {First_Day, last}, [&](const DatedAmount& share) {
+    Money& day = by_day[share.date];
+    for (int time = 0; time < times_of[share.category]; ++time) day += share.amount;
+  });
+  return by_day;
 }
 
 CatIDs Shown_Categories(const CategoryTree& tree) {
@@ -82,25 +94,29 @@ Figures Sum_Balance(store::Database& db, const CatIDs& categories, Basis basis, 
   return figures;
 }
 
-Money Net_Income(store::Database& db, const CategoryTree& tree, DateRange days, Basis basis) {
-  const CatIDs income = Of_Types(tree, {"Income", "Other Income"});
-  const CatIDs costs = Of_Types(tree, {"Cost of Goods Sold", "Expense", "Other Expense"});
-  const Money earned =
-      basis == Basis::Cash ? Cash_Income(db, tree, income, days) : Total(Sum_Category(db, income, {days, basis}));
-  return earned + Total(Sum_Category(db, costs, {days, basis}));
-}
-
-Positions::Positions(store::Database& db, const CategoryTree& tree, Basis basis)
+Positions::Positions(store::Database& db, const CategoryTree& tree, Basis basis, Date last)
     : db_(db),
       tree_(tree),
       basis_(basis),
       shown_(Shown_Categories(tree)),
-      receivable_(Family_Of(tree, accounts_receivable)) {}
+      receivable_(Family_Of(tree, accounts_receivable)),
+      income_(Of_Types(tree, income_types)),
+      costs_(Of_Types(tree, cost_types)) {
+  if (basis == Basis::Cash) cash_income_ = Cash_Income_By_Day(db, tree, last);
+}
+
+Money Positions::net_income(DateRange days) {
+  Money net = Total(Sum_Category(db_, costs_, {days, basis_}));
+  if (basis_ == Basis::Accrual) return net + Total(Sum_Category(db_, income_, {days, basis_}));
+  for (auto day = cash_income_.lower_bound(days.start); day != cash_income_.end() && day->first <= days.end; ++day)
+    net += day->second;
+  return net;
+}
 
 Money Positions::earned_before(int year) {
   const auto known = earned_before_.find(year);
   if (known != earned_before_.end()) return known->second;
-  return earned_before_[year] = Net_Income(db_, tree_, {Date(1900, 1, 1), Date(year, 1, 1).plus_days(-1)}, basis_);
+  return earned_before_[year] = net_income({Date(1900, 1, 1), Date(year, 1, 1).plus_days(-1)});
 }
 
 Position Positions::at(Date as_of) {
@@ -108,7 +124,7 @@ Position Positions::at(Date as_of) {
   const Figures receivable = Sum_Balance(db_, receivable_, basis_, Counted_As::Receivable, as_of);
   position.receivable = -tree_.sum_family(accounts_receivable, receivable);
   position.payable = tree_.sum_family(accounts_payable, position.own);
-  position.net_income = Net_Income(db_, tree_, {Date(as_of.year(), 1, 1), as_of}, basis_);
+  position.net_income = net_income({Date(as_of.year(), 1, 1), as_of});
   position.retained = earned_before(as_of.year()) + tree_.sum_family(retained_earnings, position.own);
   return position;
 }

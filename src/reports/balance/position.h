@@ -15,29 +15,28 @@ std::string Counted_By(Basis basis, Counted_As counted, Date as_of);
 /// The categories' own counted rows from the first to that day, as income has them: credits add.
 Figures Sum_Balance(store::Database& db, const CatIDs& categories, Basis basis, Counted_As counted, Date as_of);
 
-/// What a period earned. On cash basis a sub-category's income comes in at each income category above it as well as at
-/// itself; so it is in every figure made of this.
-Money Net_Income(store::Database& db, const CategoryTree& tree, DateRange days, Basis basis);
-
 /// What stands at the end of a day.
 struct Position {
   Figures own;  ///< of all categories but those of the profit and loss
   Money receivable = {}, payable = {}, net_income = {}, retained = {};
 };
 
-/// The positions of several days; what earlier years earned is reckoned once for each year.
+/// The positions of several days up to the last of them. Cash income is read once for all, and what earlier years earned
+/// is reckoned once for each year.
 class Positions {
  public:
-  Positions(store::Database& db, const CategoryTree& tree, Basis basis);
+  Positions(store::Database& db, const CategoryTree& tree, Basis basis, Date last);
   Position at(Date as_of);
 
  private:
+  Money net_income(DateRange days);
   Money earned_before(int year);
 
   store::Database& db_;
   const CategoryTree& tree_;
   Basis basis_;
-  CatIDs shown_, receivable_;
+  CatIDs shown_, receivable_, income_, costs_;
+  std::map<Date, Money> cash_income_;  ///< by day, on cash basis
   std::map<int, Money> earned_before_;
 };
 
