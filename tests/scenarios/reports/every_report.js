@@ -1,4 +1,5 @@
-// Every report of the menus comes up under its title with its columns; the aging of either side; the budget window.
+// Every report of the menus comes up under its title with its columns, in the preview, as PDF, sheet and CSV; the aging of
+// either side; the budget window; the graphs.
 function post(number, type, day, name, account, debit, credit, more) {
   const row = Object.assign({TransNum: number, Type: type, Date: day, Name: name, Account: account, Category: "AR1",
                              Debit: debit, Credit: credit, Amount: debit || credit, Paid: false}, more || {});
@@ -65,7 +66,21 @@ for (const [command, window, title] of reports) {
   equal([w.Label6.value, w.Label5.value], [title, "Acme"], command);
   ok(w.grdPL.columns.length > 2, command);
   shot(command);
+  modal("frmPreview", function (d) {
+    ok(/^Page 1 of [1-9]/.test(d.lblPage.value), command);
+    click(d.cmdClose);
+  });
+  click(w.cmdPrint);
+  for (const [item, kind] of [["mnuExportPDF", "pdf"], ["mnuExportSheet", "xlsx"], ["mnuExportCSV", "csv"]]) {
+    file(null, command + "." + kind);
+    click(w.cmdExport);
+    popup(item);
+    ok(exists(command + "." + kind), command + " as " + kind);
+  }
+  click(w.cmdExport);
+  popup("mnuExportCopy");
 }
+equal(log(), [], "nothing went wrong on the way");
 for (const window of new Set(reports.map((row) => row[1]))) close(win(window));
 
 // Both menus open the aging at the customers; the window offers the vendors too, and keeps its day.
