@@ -5,6 +5,7 @@
 #include <QInputDialog>
 #include <QStandardPaths>
 
+#include "payroll/taxtables/update.h"
 #include "shell/frmProgress.h"
 #include "shell/frmStatus.h"
 #include "shell/widgets/MessageBox.h"
@@ -36,7 +37,10 @@ QString suffix_of(const std::string& filter) { return qt(filter).section(QString
 
 bool is_file_work(const std::string& label) { return label == "Backup" || label == "Restore"; }
 
-bool is_paper_work(const std::string& label) { return label == "Print" || label == "Save PDF"; }
+/// Work that waits for something else, a printer or a server, and can be stopped.
+bool is_waiting(const std::string& label) {
+  return label == "Print" || label == "Save PDF" || label == Tax_Update_Label;
+}
 
 }  // namespace
 
@@ -97,7 +101,7 @@ bool DesktopPrompts::progress(const std::string& label, int64_t done, int64_t to
   if (!since_start_.isValid()) since_start_.start();
   if (is_file_work(label)) return show_stoppable(label, done, total);
   if (!is_due()) return !progress_ || !progress_->stopped();
-  if (is_paper_work(label)) return show_stoppable(label, done, total);
+  if (is_waiting(label)) return show_stoppable(label, done, total);
   show_status(label, done, total);
   return true;
 }

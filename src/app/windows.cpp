@@ -31,6 +31,8 @@
 #include "payroll/frmPayRoll.h"
 #include "payroll/frmSetupYTD.h"
 #include "payroll/frmTimeSheet.h"
+#include "payroll/items/frmModPayItem.h"
+#include "payroll/items/frmPayrollItems.h"
 #include "reports/aging/frmPrintAging.h"
 #include "reports/budget/frmBudget.h"
 #include "reports/frame/AheadForm.h"
@@ -60,6 +62,8 @@ const WindowTable& Windows() {
       {"frmOpenPayments", Make_Window<frmOpenPayments>},
       {"frmDeposits", Make_Window<frmDeposits>},
       {"frmClass", Make_Window<frmClass>},
+      {"frmPayrollItems", Make_Window<frmPayrollItems>},
+      {"frmModPayItem", Make_Window<frmModPayItem>},
       {"frmCusMessage", Make_Window<frmCusMessage>},
       {"frmCustomers", Make_Window<frmCustomers>},
       {"frmModCustomer", Make_Window<frmModCustomer>},

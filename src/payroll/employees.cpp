@@ -2,11 +2,11 @@
 
 #include <algorithm>
 
-#include "core/company/schema.h"
 #include "core/names/names.h"
 #include "core/store/sql.h"
 #include "core/values/text.h"
 #include "payroll/pay_history.h"
+#include "payroll/time_sheet.h"
 
 namespace tallymere {
 
@@ -75,8 +75,8 @@ size_t Place_Of(std::string_view field) {
 
 std::vector<EmployeeGridRow> Read_Lines(Database& db, const EmployeeGrid& grid, const std::string& number) {
   std::vector<EmployeeGridRow> lines;
-  auto rows = db.OpenRecordset("SELECT * FROM " + std::string(grid.table) + " WHERE SSNum = ? ORDER BY RowKey",
-                               {number});
+  auto rows =
+      db.OpenRecordset("SELECT * FROM " + std::string(grid.table) + " WHERE SSNum = ? ORDER BY RowKey", {number});
   for (; !rows.Eof(); rows.MoveNext())
     lines.push_back({rows.key(), rows[grid.item].text(), rows[grid.rate].text(),
                      grid.limit.empty() ? "" : rows[grid.limit].text()});
@@ -132,11 +132,12 @@ std::optional<Fault> Lines_Fault(const EmployeeForm& form) {
 std::optional<Fault> Employee_Fault(Session& session, const ListRow& row, const EmployeeForm& form) {
   if (auto fault = Number_Fault(session, row, form)) return fault;
   if (const auto control = Without_Number(form, {"FedAllow", "FedWithHolding", "StateAllow", "StateWithHolding"}))
-    return Fault{{"Please enter values for Allowances and Withholdings for State and Federal Taxes", "No Data"}, *control};
+    return Fault{{"Please enter values for Allowances and Withholdings for State and Federal Taxes", "No Data"},
+                 *control};
   if (form["StateLived"].empty()) return Fault{{"Please Enter a State", "No State"}, "cmbStateLive"};
   if (form["StateWorked"].empty()) return Fault{{"Please Enter a State", "No State"}, "cmbStateWorked"};
-  if (const auto control = Without_Number(form, {"MaxSick", "SickHoursStart", "SickHoursPerPeriod", "MaxVac",
-                                                 "VacHoursPerPeriod", "VacHoursStart"}))
+  if (const auto control = Without_Number(
+          form, {"MaxSick", "SickHoursStart", "SickHoursPerPeriod", "MaxVac", "VacHoursPerPeriod", "VacHoursStart"}))
     return Fault{{"Value needed", "No Value"}, *control};
   return Lines_Fault(form);
 }
@@ -159,7 +160,8 @@ void Write_Fields(ListRow& row, const EmployeeForm& form) {
 void Write_Line(store::Recordset& row, const EmployeeGrid& grid, const EmployeeGridRow& line) {
   const auto set = [&row](std::string_view field, const std::string& typed) {
     if (row[field].text() == typed) return;
-    row[field] = trim(typed).empty() ? store::Value() : store::Value(typed);  // no rate is another thing than an empty one
+    row[field] =
+        trim(typed).empty() ? store::Value() : store::Value(typed);  // no rate is another thing than an empty one
   };
   set(grid.item, line.item);
   set(grid.rate, line.rate);
@@ -169,8 +171,8 @@ void Write_Line(store::Recordset& row, const EmployeeGrid& grid, const EmployeeG
 /// The lines of one grid become those of the form; a line that nobody touched is not written.
 void Save_Lines(Database& db, const EmployeeGrid& grid, const std::string& number,
                 const std::vector<EmployeeGridRow>& lines) {
-  auto rows = db.OpenRecordset("SELECT * FROM " + std::string(grid.table) + " WHERE SSNum = ? ORDER BY RowKey",
-                               {number});
+  auto rows =
+      db.OpenRecordset("SELECT * FROM " + std::string(grid.table) + " WHERE SSNum = ? ORDER BY RowKey", {number});
   for (; !rows.Eof(); rows.MoveNext()) {
     const auto line = std::ranges::find(lines, rows.key(), &EmployeeGridRow::key);
     if (line == lines.end()) {
@@ -188,14 +190,6 @@ void Save_Lines(Database& db, const EmployeeGrid& grid, const std::string& numbe
     Write_Line(rows, grid, line);
     rows.Update();
   }
-}
-
-std::vector<std::string> Time_Tables(Database& db) {
-  std::vector<std::string> tables;
-  const TableDef* time = find_table("Time");
-  for (const store::TableDef& table : db.TableDefs())
-    if (find_table(table.name) == time) tables.push_back(table.name);
-  return tables;
 }
 
 /// Everything that stands under the old number goes under the new one. What a number without an employee left behind
@@ -296,10 +290,12 @@ const std::string& EmployeeForm::operator[](std::string_view field) const { retu
 
 std::vector<EmployeeListRow> Make_Employee_List(Session& session, bool show_released) {
   std::vector<EmployeeListRow> rows;
-  session.dbCompany->each("SELECT SSNum, Name, ReleaseDate FROM Employees ORDER BY Name", {}, [&](const store::Row& row) {
-    const bool released = row.date(2).has_value();
-    if (show_released || !released) rows.push_back({std::string(row.text(0)), std::string(row.text(1)), released});
-  });
+  session.dbCompany->each("SELECT SSNum, Name, ReleaseDate FROM Employees ORDER BY Name", {},
+                          [&](const store::Row& row) {
+                            const bool released = row.date(2).has_value();
+                            if (show_released || !released)
+                              rows.push_back({std::string(row.text(0)), std::string(row.text(1)), released});
+                          });
   return rows;
 }
 
@@ -307,7 +303,8 @@ EmployeeForm New_Employee(Session& session) {
   EmployeeForm form;
   for (const EmployeeField& field : Employee_Fields)
     if (field.holds == Flag) form[field.field] = "0";
-  for (const char* ticked : {"FUTAHold", "MedicareHold", "SSHold", "SUIHold", "AccurPayPeriodSick", "AccurPayPeriodVac"})
+  for (const char* ticked :
+       {"FUTAHold", "MedicareHold", "SSHold", "SUIHold", "AccurPayPeriodSick", "AccurPayPeriodVac"})
     form[ticked] = "1";
   form["PayPeriod"] = "BiWeekly";
   form["HireDate"] = session.today().to_text();

@@ -1,10 +1,8 @@
 #include "payroll/frmModEmployee.h"
 
-#include <QButtonGroup>
 #include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPlainTextEdit>
 #include <QPushButton>
 #include <algorithm>
 
@@ -14,6 +12,7 @@
 #include "shell/drop_downs.h"
 #include "shell/list_combo.h"
 #include "shell/widgets/QuillbrookDatePick.h"
+#include "shell/widgets/control_text.h"
 #include "shell/widgets/frmPreview.h"
 #include "shell/widgets/grid/SSDBGrid.h"
 #include "shell/widgets/text_pages.h"
@@ -24,43 +23,6 @@ namespace {
 
 namespace column {
 enum { Item, Rate, Limit, SSNum, Key };
-}
-
-// --- a control and its text, whatever it is ------------------------------------------------------
-
-std::string text_of(const QObject& control) {
-  if (const auto* combo = qobject_cast<const SSDBCombo*>(&control)) return trim(combo->text());
-  if (const auto* day = qobject_cast<const QuillbrookDatePick*>(&control)) {
-    const auto value = day->maybe_value();
-    return value ? value->to_text() : "";
-  }
-  if (const auto* line = qobject_cast<const QLineEdit*>(&control)) return utf8(line->text());
-  if (const auto* box = qobject_cast<const QPlainTextEdit*>(&control)) return utf8(box->toPlainText());
-  if (const auto* check = qobject_cast<const QCheckBox*>(&control)) return check->isChecked() ? "1" : "0";
-  return static_cast<const QButtonGroup&>(control).checkedId() == 0 ? "1" : "0";
-}
-
-void show_text(QObject& control, const std::string& text) {
-  if (auto* combo = qobject_cast<SSDBCombo*>(&control)) {
-    const bool own_list = combo->list().parent() == combo;  // what stands there can be chosen again
-    if (own_list && !text.empty() && combo->list().find(text) < 0) combo->AddItem(text);
-    combo->set_text(text);
-  } else if (auto* day = qobject_cast<QuillbrookDatePick*>(&control)) {
-    day->set_value(Date::parse(text));
-  } else if (auto* line = qobject_cast<QLineEdit*>(&control)) {
-    line->setText(qt(text));
-    line->home(false);
-  } else if (auto* box = qobject_cast<QPlainTextEdit*>(&control)) {
-    box->setPlainText(qt(text));
-  } else if (auto* check = qobject_cast<QCheckBox*>(&control)) {
-    check->setChecked(text == "1");
-  } else {
-    static_cast<QButtonGroup&>(control).button(text == "1" ? 0 : 1)->setChecked(true);
-  }
-}
-
-QObject& control_of(const QWidget& window, std::string_view name) {
-  return *window.findChild<QObject*>(qt(std::string(name)));
 }
 
 }  // namespace
@@ -104,10 +66,10 @@ void frmModEmployee::show_row() {
   fill_items();
   show_custom_fields();
   form_ = is_new() ? New_Employee(session) : Employee_Form(session, row());
-  for (const EmployeeField& field : Employee_Fields) show_text(control_of(*this, field.control), form_[field.field]);
+  for (const EmployeeField& field : Employee_Fields) Show_Text(Control_Of(*this, field.control), form_[field.field]);
   for (size_t at = 0; at < grids_.size(); ++at) show_lines(at);
   const auto show_as_of = [this](const char* label, const std::optional<Date>& day) {
-    static_cast<QLabel&>(control_of(*this, label)).setText(qt("Starting Hours as of " + (day ? day->to_text() : "")));
+    static_cast<QLabel&>(Control_Of(*this, label)).setText(qt("Starting Hours as of " + (day ? day->to_text() : "")));
   };
   show_as_of("Label25", form_.SickDateStart);
   show_as_of("Label32", form_.VacDateStart);
@@ -116,7 +78,7 @@ void frmModEmployee::show_row() {
   chkReleased_Click();
   lblSSNum->setText(qt(row().key()));
   if (!is_new()) setWindowTitle(qt(form_["Name"]));
-  go_to(qobject_cast<QWidget*>(&control_of(*this, "txtSSNum")));
+  go_to(qobject_cast<QWidget*>(&Control_Of(*this, "txtSSNum")));
 }
 
 void frmModEmployee::show_lines(size_t at) {
@@ -203,13 +165,13 @@ void frmModEmployee::cmdPrintNotes_AfterClick() {
 
 // --- saving --------------------------------------------------------------------------------------
 
-std::string frmModEmployee::number_typed() const { return trim(text_of(control_of(*this, "txtSSNum"))); }
+std::string frmModEmployee::number_typed() const { return trim(Text_In(Control_Of(*this, "txtSSNum"))); }
 
 std::string frmModEmployee::saved_key() const { return number_typed(); }
 
 EmployeeForm frmModEmployee::read() const {
   EmployeeForm form = form_;
-  for (const EmployeeField& field : Employee_Fields) form[field.field] = text_of(control_of(*this, field.control));
+  for (const EmployeeField& field : Employee_Fields) form[field.field] = Text_In(Control_Of(*this, field.control));
   form.ReleaseDate = chkReleased->isChecked() ? std::optional(dteRelease->value()) : std::nullopt;
   for (size_t at = 0; at < grids_.size(); ++at) form.lines[at] = read_lines(*grids_[at]);
   return form;
@@ -231,7 +193,7 @@ RowSave frmModEmployee::save_row() {
   if (!number_typed().empty())  // without one the lines have no place; that is said first
     for (SSDBGrid* grid : grids_)
       if (!grid->commit()) return {.stayed = true};
-  static_cast<ListCombo&>(control_of(*this, "txtClass")).settle();
+  static_cast<ListCombo&>(Control_Of(*this, "txtClass")).settle();
   return Save_Employee(session, row(), read());
 }
 

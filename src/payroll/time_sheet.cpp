@@ -56,6 +56,14 @@ store::Recordset At_Row(store::Database& company, Date first, const TimeRow& sho
 
 std::string Time_Table(Date first) { return "Time" + Format(first, "yyyymmdd"); }
 
+std::vector<std::string> Time_Tables(store::Database& company) {
+  std::vector<std::string> tables;
+  const TableDef* time = find_table("Time");
+  for (const store::TableDef& table : company.TableDefs())
+    if (find_table(table.name) == time) tables.push_back(table.name);
+  return tables;
+}
+
 Date First_Day_Of_Week(Session& session, Date day) {
   const std::string name =
       session.dbCompany->value("SELECT State FROM GeneralPrefs WHERE Preference = 'FirstDay'").text();

@@ -25,6 +25,8 @@ struct TimeRow {
 
 /// "Time20260104" for the week that begins on this day.
 std::string Time_Table(Date first);
+/// Of all weeks that have one.
+std::vector<std::string> Time_Tables(store::Database& company);
 
 /// The first day of the week a day lies in, by the preference "FirstDay".
 Date First_Day_Of_Week(Session& session, Date day);

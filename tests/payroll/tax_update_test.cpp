@@ -95,7 +95,7 @@ TEST(TaxTables, AllOfACodeOrNothing) {
   EXPECT_NE(endpoint.dump("FedWeekly"), before);
   EXPECT_EQ(endpoint.dump("FedDaily"), daily);
   EXPECT_EQ(endpoint.updated(), "6/15/2026");
-  EXPECT_EQ(endpoint.prompts.boxes.back().text, "Your Tax Tables have been Updated.");
+  EXPECT_EQ(endpoint.prompts.boxes.back().text, "Your Tax Tables Have been Updated.");
   EXPECT_EQ(endpoint.dump("FedUnRates"), "0.06|0.006|");
 
   // An emptied table is filled again.
@@ -132,7 +132,7 @@ TEST(TaxTables, WhatTheIndexSaysAndWhenItIsAsked) {
   EXPECT_EQ(endpoint.asked.size(), 2U);
   endpoint.pages["AutoUpdate/index.php"] = "23";
   Update_Tax_Tables(*endpoint.session, endpoint.fetch());
-  EXPECT_EQ(endpoint.prompts.boxes.back().text, "Your Tax Tables have been Updated.");
+  EXPECT_EQ(endpoint.prompts.boxes.back().text, "Your Tax Tables Have been Updated.");
 }
 
 }  // namespace

@@ -34,7 +34,7 @@ struct Broken_Off {
 class Asker {
  public:
   Asker(Session& session, const Fetch& fetch)
-      : host_(Update_Host(*session.dbAccounts)), fetch_(fetch), bar_(session.prompts, "Updating Tax Tables") {}
+      : host_(Update_Host(*session.dbAccounts)), fetch_(fetch), bar_(session.prompts, Tax_Update_Label) {}
 
   std::string page(std::string_view path, int64_t done, int64_t total) {
     const Fetched reply = fetch_(Url(host_, path), [&] { return bar_.at(done, total); });
@@ -76,7 +76,7 @@ Box Ask_And_Load(Session& session, const Fetch& fetch) {
   if (code < 0) throw Broken_Off{};
   Hourglass hourglass(session.prompts);
   Load_Groups(session, asker, Groups_Of_Code(code));
-  return {code == 0 ? "Your Tax Tables are up to date." : "Your Tax Tables have been Updated.", "Update Complete"};
+  return {code == 0 ? "Your Tax Tables are up to date." : "Your Tax Tables Have been Updated.", "Update Complete"};
 }
 
 }  // namespace

@@ -57,6 +57,9 @@ int Code_Of_Index(std::string_view body);
 /// Without an update host nothing is asked and nothing is said.
 void Check_Updates(Session& session, const Fetch& fetch);
 
+/// What the bar says meanwhile; it is one that can be stopped.
+inline constexpr const char* Tax_Update_Label = "Updating Tax Tables";
+
 /// The check by hand, whenever it was last done.
 void Update_Tax_Tables(Session& session, const Fetch& fetch);
 

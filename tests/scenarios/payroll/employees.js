@@ -47,6 +47,10 @@ modal("frmModEmployee", function (m) {
   type(m.txtSWithHold, "0");
   pick(m.cmbStateLive, "IL");
   box("No Payroll Items", "You have no payroll items for this state. Please make sure you add your payroll items for this state.");
+  modal("frmPayrollItems", function (p) {
+    equal(p.caption, "PayRoll Items");
+    click(p.cmdClose);
+  });
   pick(m.cmbStateWorked, "WI");
   pick(m.cmbStateWorked, "IL");
   pick(m.cmbFedStatus, "Single");

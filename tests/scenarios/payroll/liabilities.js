@@ -35,6 +35,10 @@ pick(w.cmbBankAcct, "Savings");
 pick(w.cmbBankAcct, "Checking");
 equal(w.lblBalance.value, bank);
 box("No Agency", "Please Enter an Agency to Pay To before paying Liability");
+modal("frmModPayItem", function (m) {
+  equal([m.caption, m.txtName.value], ["Edit Item", "Medicare Employee"]);
+  click(m.cmdCancel);
+});
 g.toggle(2, "Select");
 equal(g.text(2, "Select"), "False");
 type(w.cmbBankAcct, "");
