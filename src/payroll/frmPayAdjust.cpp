@@ -32,6 +32,7 @@ frmPayAdjust::frmPayAdjust(Shell& shell_of_frame)
 
 void frmPayAdjust::build() {
   DTPicker1 = named("DTPicker1", new QuillbrookDatePick);
+  DTPicker1->setMaximumWidth(22 * theme::unit);
   optApply = new QButtonGroup(this);
   optApply->setObjectName(QStringLiteral("optApply"));
   auto* apply = row_layout();

@@ -163,21 +163,20 @@ void frmPayLiabilites::cmbBankAcct_Click() {
 void frmPayLiabilites::grdItems_Click(int row, int column) {
   if (column != column::Select) return;
   const bool ticked = grdItems->checked(row, column::Select);
-  if (ticked && !may_select(row)) return grdItems->set_value(row, column::Select, false);
+  const bool no_agency = grdItems->text(row, column::PayTo).empty();
+  if (ticked && (no_agency || cmbBankAcct->id().empty())) {
+    grdItems->set_value(row, column::Select, false);
+    return no_agency ? ask_for_agency(grdItems->text(row, column::PayrollItem))
+                     : session.prompts.box({"Please Select a Bank to Pay Liabilities From.", "No Bank"});
+  }
   const Money amount = grdItems->value(row, column::Amount).money();
   ending_ += ticked ? -amount : amount;
   show_balance();
 }
 
-bool frmPayLiabilites::may_select(int row) {
-  if (grdItems->text(row, column::PayTo).empty()) {
-    session.prompts.box({"Please Enter an Agency to Pay To before paying Liability", "No Agency"});
-    shell.Ask_Window({.window = "frmModPayItem", .key = grdItems->text(row, column::PayrollItem)});
-    return false;
-  }
-  if (!cmbBankAcct->id().empty()) return true;
-  session.prompts.box({"Please Select a Bank to Pay Liabilities From.", "No Bank"});
-  return false;
+void frmPayLiabilites::ask_for_agency(const std::string& item) {
+  session.prompts.box({"Please Enter an Agency to Pay To before paying Liability", "No Agency"});
+  shell.Ask_Window({.window = "frmModPayItem", .key = item});
 }
 
 // --- saving --------------------------------------------------------------------------------------

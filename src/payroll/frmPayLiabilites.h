@@ -35,7 +35,7 @@ class frmPayLiabilites : public Form {
   void dteQtrDate_Change();
   void cmbBankAcct_Click();
   void grdItems_Click(int row, int column);
-  bool may_select(int row);
+  void ask_for_agency(const std::string& item);
   void cmdCreate_AfterClick();
   LiabilityPayment read() const;
   bool is_edit() const { return payment_.TransNum != 0; }
