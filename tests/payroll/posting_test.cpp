@@ -119,6 +119,9 @@ TEST(Posting, UnderThePlainRuleWhatDoesNotBalanceHasAName) {
 
   acme.rule("Balanced");
   EXPECT_EQ(acme.found_off_balance(), 2) << "which books that balance do not have";
+  EXPECT_NE(Verify_Company(acme.db()).front().what.find("(company contribution paid out, by the plain rule)"),
+            std::string::npos)
+      << Verify_Company(acme.db()).front().what;
   PaycheckEntry balanced = acme.opened("Ann");
   Calculate(balanced.check, balanced.facts);
   balanced.check.grdEmployee[1].Amount = "12.00";

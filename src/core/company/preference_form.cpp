@@ -17,6 +17,7 @@ constexpr Key keys[] = {
     {preference::ToolBarVisible, &PreferenceForm::ToolBarVisible},
     {preference::InvoiceStyle, &PreferenceForm::InvoiceStyle},
     {preference::FirstDay, &PreferenceForm::FirstDay},
+    {preference::PayrollPosting, &PreferenceForm::PayrollPosting, true},
     {preference::PrintInvoice, &PreferenceForm::PrintInvoice},
     {preference::LogoPath, &PreferenceForm::LogoPath},
     {preference::DefaultBank, &PreferenceForm::DefaultBank, true},

@@ -9,6 +9,7 @@ namespace tallymere {
 
 /// All that the window of preferences shows, each as it is kept.
 struct PreferenceForm {
+  std::string PayrollPosting;  ///< "Plain", "Balanced", or "": plain as well
   std::string ToolBarVisible, InvoiceStyle, FirstDay, PrintInvoice, LogoPath, DefaultBank, FinanceAPR, FinanceCat, Feed,
       Style, SalesBase, ItemSort;
   std::optional<std::string> logo = {};  ///< a new picture's bytes; nothing: the old one stays

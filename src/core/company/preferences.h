@@ -21,6 +21,7 @@ inline constexpr std::string_view InvoiceStyle = "InvoiceStyle";      ///< "Prof
 inline constexpr std::string_view PrintInvoice =
     "PrintInvoice";                                       ///< "BlankBox", "PrePrinted", "BlankNoBox", "Letterhead"
 inline constexpr std::string_view FirstDay = "FirstDay";  ///< "Sunday" to "Saturday"
+inline constexpr std::string_view PayrollPosting = "PayrollPosting";  ///< "Plain", "Balanced"; "" is Plain
 inline constexpr std::string_view LogoPath = "LogoPath";
 inline constexpr std::string_view Style = "Style";        ///< of printed checks: "Original", "Custom"
 inline constexpr std::string_view ItemSort = "ItemSort";  ///< a column's name: "Name"

@@ -38,10 +38,9 @@ Findings File_Is_Sound(Database& db) {
   return found;
 }
 
-/// Why a paycheck may be off balance in a company that keeps to the plain posting pattern ("" when it may not): the
-/// names of docs/bookkeeping.md. `off` is its debits less its credits.
-std::string Plain_Pattern(Database& db, int64_t TransNum, Money off) {
-  if (Preference(db, "PayrollPosting") == "Balanced") return "";
+/// Why a paycheck that was posted by the plain pattern is off balance, by the names of docs/bookkeeping.md; "" when none
+/// of them explains it. `off` is its debits less its credits.
+std::string Plain_Paycheck(Database& db, int64_t TransNum, Money off) {
   auto sum = [&](const char* rows) {
     return Money::from_units(db.value("SELECT SUM(t.Debit) + 0 FROM Transactions AS t JOIN PayrollItems AS p"
                                       " ON p.Name = t.PayrollItem WHERE t.TransNum = ? AND " +
@@ -62,19 +61,19 @@ std::string Plain_Pattern(Database& db, int64_t TransNum, Money off) {
 }
 
 /// A liability adjustment of what an employee pays has one row under the plain pattern.
-bool Is_Plain_Adjustment(Database& db, int64_t TransNum) {
-  return Preference(db, "PayrollPosting") != "Balanced" &&
-         !db.value(
-                "SELECT t.RowKey FROM Transactions AS t JOIN PayrollItems AS p ON p.Name = t.PayrollItem"
-                " WHERE t.TransNum = ? AND t.Type = 'Liability Adjust' AND IFNULL(p.ExpenseAcct, '') = '' LIMIT 1",
-                {TransNum})
-              .is_null();
+std::string Plain_Adjustment(Database& db, int64_t TransNum) {
+  const bool one_row = !db.value(
+                              "SELECT t.RowKey FROM Transactions AS t JOIN PayrollItems AS p ON p.Name = t.PayrollItem"
+                              " WHERE t.TransNum = ? AND IFNULL(p.ExpenseAcct, '') = '' LIMIT 1",
+                              {TransNum})
+                            .is_null();
+  return one_row ? "adjustment without its other side" : "";
 }
 
-/// Whether a difference is one of the named patterns of payroll.
-bool Is_Known_Difference(Database& db, int64_t TransNum, const std::string& type, Money off) {
-  if (type == "Paycheck") return !Plain_Pattern(db, TransNum, off).empty();
-  return type == "Liability Adjust" && Is_Plain_Adjustment(db, TransNum);
+/// The named pattern of payroll that explains a difference, or "".
+std::string Plain_Pattern(Database& db, int64_t TransNum, std::string_view type, Money off) {
+  if (type == "Paycheck") return Plain_Paycheck(db, TransNum, off);
+  return type == "Liability Adjust" ? Plain_Adjustment(db, TransNum) : "";
 }
 
 /// Where a sold part stands three times on the same side with the sale's amount, as the rule "Sale" of inventory posts
@@ -117,14 +116,20 @@ std::vector<Unbalanced> Unbalanced_Transactions(Database& db) {
   return found;
 }
 
+/// A company that posts paychecks by the plain pattern has its differences; in one that has changed to balanced books they
+/// are told by name.
 Findings Transactions_Balance(Database& db) {
+  const bool plain = Preference(db, preference::PayrollPosting) != "Balanced";
   Findings found;
   int64_t more = 0;
   for (const Unbalanced& each : Unbalanced_Transactions(db)) {
-    if (each.off().is_zero() || Is_Known_Difference(db, each.TransNum, each.Type, each.off())) continue;
+    if (each.off().is_zero()) continue;
+    const std::string pattern = Plain_Pattern(db, each.TransNum, each.Type, each.off());
+    if (plain && !pattern.empty()) continue;
     if (found.size() < most_examples)
       found.push_back(each.Type + " " + std::to_string(each.TransNum) + ": debits " + each.debits.to_text() +
-                      ", credits " + each.credits.to_text());
+                      ", credits " + each.credits.to_text() +
+                      (pattern.empty() ? "" : " (" + pattern + ", by the plain rule)"));
     else
       ++more;
   }

@@ -26,6 +26,7 @@ constexpr std::array<const char*, 4> print_styles = {"BlankBox", "PrePrinted", "
 constexpr std::array<const char*, 2> feeds = {"Single Sheet", "Continuous Sheets"};
 constexpr std::array<const char*, 2> check_styles = {"Original", "Custom"};
 constexpr std::array<const char*, 2> tax_bases = {"Cash", "Accural"};
+constexpr std::array<const char*, 2> postings = {"Plain", "Balanced"};
 
 template <size_t count>
 void show_option(QButtonGroup& group, const std::array<const char*, count>& States, const std::string& State) {
@@ -141,6 +142,8 @@ void frmPrefrences::build_pages() {
   cmbItemSort = choice("cmbItemSort", {"Name", "Type"});
   add_field(page, QStringLiteral("&Item List Sort By"), cmbItemSort);
   page = add_page("Payroll");
+  optPosting = options(page, "optPosting", "Paychecks Post",
+                       {"Plain: as companies of earlier versions do", "Balanced: debits always equal credits"});
   cmbFirstDay = choice("cmbFirstDay", {"Sunday", "Monday", "Tuesday", "Wednesday", "Thursday", "Friday", "Saturday"});
   add_field(page, QStringLiteral("&First Day of Pay Week"), cmbFirstDay);
 }
@@ -197,6 +200,7 @@ void frmPrefrences::show_form() {
   chkToolBar->setChecked(before_.ToolBarVisible == "Yes");
   show_choice(*cmbInvoiceStyle, before_.InvoiceStyle);
   show_choice(*cmbFirstDay, before_.FirstDay);
+  show_option(*optPosting, postings, before_.PayrollPosting.empty() ? postings[0] : before_.PayrollPosting);
   show_choice(*cmbItemSort, before_.ItemSort);
   show_option(*optPrintInvoice, print_styles, before_.PrintInvoice);
   show_option(*optFeed, feeds, before_.Feed);
@@ -226,6 +230,8 @@ PreferenceForm frmPrefrences::read() const {
   form.ToolBarVisible = chkToolBar->isChecked() ? "Yes" : "No";
   form.InvoiceStyle = choice_of(*cmbInvoiceStyle, before_.InvoiceStyle);
   form.FirstDay = choice_of(*cmbFirstDay, before_.FirstDay);
+  if (optPosting->checkedId() != 0 || !before_.PayrollPosting.empty())  // a company without the row is plain
+    form.PayrollPosting = option_of(*optPosting, postings, before_.PayrollPosting);
   form.ItemSort = choice_of(*cmbItemSort, before_.ItemSort);
   form.PrintInvoice = option_of(*optPrintInvoice, print_styles, before_.PrintInvoice);
   form.Feed = option_of(*optFeed, feeds, before_.Feed);

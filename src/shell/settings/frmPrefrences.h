@@ -47,7 +47,7 @@ class frmPrefrences : public Form {
   QStackedWidget* pages_;
   QCheckBox* chkToolBar;
   QComboBox *cmbInvoiceStyle, *cmbFirstDay, *cmbItemSort;
-  QButtonGroup *optPrintInvoice, *optFeed, *optStyle, *optSalesBase;
+  QButtonGroup *optPrintInvoice, *optFeed, *optStyle, *optSalesBase, *optPosting;
   SSDBCombo *cmbBank, *cmbFinanceCat;
   QLabel *lblBank, *lblFinCatID, *picLogo;
   QLineEdit *txtLogo, *txtAPR;

@@ -141,4 +141,29 @@ click(y.cmdAction);
 ok(!isOpen("frmSetupYTD"));
 equal(ledger(8).map(function (row) { return [row.Type, row.Account, row.Debit || 0, row.Credit || 0, row.SSNum]; }),
       [["YTD Adjust", "15SS", 0, 90, "9"], ["YTD Adjust", "OE1", 90, 0, "9"]]);
+
+// An owner chooses how paychecks post: under the plain rule such a correction is one row.
+function posting() { return rows("SELECT State FROM GeneralPrefs WHERE Preference = 'PayrollPosting'").map(function (row) { return row.State; }); }
+menu("mnuPrefrences");
+const p = win("frmPrefrences");
+pick(p.imgSettings, "Payroll");
+equal([posting(), p.optPosting.value], [["Balanced"], "1"]);
+option(p.optPosting, 0);
+shot("frmPrefrences");
+click(p.cmdClose);
+equal(posting(), ["Plain"]);
+menu("mnuPayAdjust");
+a = win("frmPayAdjust");
+a.grdAdjustments.set(0, "Payroll Item", "Medicare Employee");
+a.grdAdjustments.set(0, "Amount", "1");
+a.grdAdjustments.set(0, "Employee Affected", "Ann");
+click(a.cmdOk);
+equal(ledger(9).map(function (row) { return [row.Account, row.Debit]; }), [["17SS", 1]]);
+other("DELETE FROM GeneralPrefs WHERE Preference = 'PayrollPosting'");
+menu("mnuPrefrences");
+const again = win("frmPrefrences");
+pick(again.imgSettings, "Payroll");
+equal(again.optPosting.value, "0", "a company without the row is plain");
+click(again.cmdClose);
+equal(posting(), [], "and stays so");
 equal(log(), []);
