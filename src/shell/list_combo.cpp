@@ -23,6 +23,11 @@ ListCombo::ListCombo(Shell& shell, DropDowns& lists, const SmallList& list, Grow
   connect(this, &SSDBCombo::LostFocus, this, &ListCombo::settle, Qt::QueuedConnection);
 }
 
+void ListCombo::show_text(const std::string& text) {
+  set_text(text);
+  settled_ = text;
+}
+
 void ListCombo::settle() {
   if (text() == settled_) return;
   settled_ = text();

@@ -21,6 +21,8 @@ class ListCombo : public SSDBCombo {
 
   ListCombo(Shell& shell, DropDowns& lists, const SmallList& list, Grow grow);
 
+  /// Shows a text that was dealt with when it was typed: leaving it sets off nothing.
+  void show_text(const std::string& text);
   /// What leaving the combo sets off; before a save, which may come by a key that leaves nothing.
   void settle();
 

@@ -75,12 +75,21 @@ void Read_Lines(Session& session, const std::vector<LedgerRow>& rows, Check& che
   if (check.expenses.empty() && !check.items.empty()) check.Tab = LineTab::Items;
 }
 
+/// The bills that a check paid, each with as much as it paid of it. Of a payment from before that was kept, those that
+/// name it alone.
 void Read_Bills(Session& session, Check& check) {
-  auto bills = session.dbCompany->OpenRecordset("SELECT * FROM Transactions WHERE PaidBy = ? AND Account = 'AP1'",
-                                                {Paid_By(check.TransNum)});
-  for (; !bills.Eof(); bills.MoveNext())
-    check.bills.push_back({bills["DueDate"].maybe_date(), bills["Number"].text(), bills["Name"].text(),
-                           bills["Amount"].money(), bills["Date"].maybe_date()});
+  store::Database& db = *session.dbCompany;
+  const auto add = [&](store::Recordset bill, std::optional<Money> paid) {
+    for (; !bill.Eof(); bill.MoveNext())
+      check.bills.push_back({bill["DueDate"].maybe_date(), bill["Number"].text(), bill["Name"].text(),
+                             paid ? *paid : bill["Amount"].money(), bill["Date"].maybe_date()});
+  };
+  for (const Application& paid : Applied_By(db, check.TransNum))
+    add(db.OpenRecordset("SELECT * FROM Transactions WHERE TransNum = ? AND Account = 'AP1'", {paid.TransNum}),
+        paid.Amount);
+  if (check.bills.empty())
+    add(db.OpenRecordset("SELECT * FROM Transactions WHERE PaidBy = ? AND Account = 'AP1'", {Paid_By(check.TransNum)}),
+        std::nullopt);
 }
 
 void Read_Paycheck(const std::vector<LedgerRow>& rows, Check& check) {

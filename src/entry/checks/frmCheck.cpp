@@ -5,14 +5,12 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QStackedWidget>
-#include <QTabWidget>
 
 #include "core/company/users.h"
 #include "core/ledger/balances.h"
 #include "core/values/format.h"
 #include "core/values/text.h"
-#include "entry/document/ExpenseGrid.h"
-#include "entry/document/ItemGrid.h"
+#include "entry/document/TabbedGrid.h"
 #include "lists/small_lists.h"
 #include "shell/drop_downs.h"
 #include "shell/widgets/AddressEdit.h"
@@ -57,8 +55,7 @@ void frmCheck::on_changed(const std::string& table) {
 
 void frmCheck::show_document(const Check& check) {
   show_head(check);
-  expenses_->show(check.expenses);
-  items_->show(check.items);
+  SSTab1->show_lines(check);
   show_other_kinds(check);
   set_editable(check);
 }
@@ -90,7 +87,6 @@ void frmCheck::show_other_kinds(const Check& check) {
   lblPayPeriod->setText(qt(check.PayPeriod));
   lblHours->setText(text_of(check.Hours));
   lblPaidThrough->setText(check.PaidThrough ? qt(check.PaidThrough->to_text()) : QString());
-  SSTab1->setCurrentIndex(static_cast<int>(check.Tab));
   QWidget* front = SSTab1;
   if (check.Type == "Billcheck") front = fraBill;
   if (check.Type == "Paycheck") front = fraPaycheck;
@@ -135,9 +131,7 @@ Check frmCheck::read() const {
   check.Memo = utf8(txtMemo->text());
   check.Amount = txtAmount->amount();
   check.Valid = Valid();
-  check.Tab = static_cast<LineTab>(SSTab1->currentIndex());
-  check.expenses = expenses_->read();
-  check.items = items_->read();
+  SSTab1->read_lines(check);
   return check;
 }
 
@@ -186,37 +180,25 @@ bool frmCheck::txtAmount_LostFocus() {
     go_to(txtAmount);
     return false;
   }
-  if (amount.value && SSTab1->currentIndex() == static_cast<int>(LineTab::Expenses))
-    expenses_->propose_remainder(*amount.value);
+  if (amount.value) SSTab1->propose_remainder(*amount.value);
   return true;
 }
 
-std::optional<Money> frmCheck::left() const {
-  const auto amount = txtAmount->amount();
-  if (!amount) return std::nullopt;
-  return *amount - Sum_Of(expenses_->read()) - Sum_Of(items_->read());
+/// What the lines have to come to; nothing where other windows wrote them.
+std::optional<Money> frmCheck::amount_of_lines() const {
+  return document_.is_narrow() ? std::nullopt : txtAmount->amount();
 }
 
-void frmCheck::show_assigned() {
-  const auto rest = left();
-  const bool plain = !document_.is_narrow();
-  lblAssigned->setText(plain && rest ? qt(Assigned_Text(*txtAmount->amount() - *rest, *rest)) : QString());
-}
-
-void frmCheck::go_to_lines() {
-  if (!isVisible() || pages_->currentWidget() != SSTab1) return;
-  SSTab1->currentWidget()->setFocus();
-}
+void frmCheck::show_assigned() { SSTab1->show_assigned(); }
 
 bool frmCheck::settle() {
-  expenses_->settle();
-  items_->settle();
+  SSTab1->settle();
   Load_Address_Box();
   return utf8(txtAmount->text()) == in_words_ || txtAmount_LostFocus();
 }
 
 void frmCheck::entered(const SaveResult& result) {
-  if (result.fault) expenses_->point_at_mistake();
+  if (result.fault) SSTab1->expenses->point_at_mistake();
   txtIndex->setText(QString::number(document_.TransNum));
 }
 

@@ -8,14 +8,12 @@ class QGroupBox;
 class QLabel;
 class QLineEdit;
 class QStackedWidget;
-class QTabWidget;
 
 namespace tallymere {
 
 class AddressEdit;
 class DropDowns;
-class ExpenseGrid;
-class ItemGrid;
+class TabbedGrid;
 class MoneyEdit;
 class QuillbrookDatePick;
 class SSDBCombo;
@@ -42,7 +40,6 @@ class frmCheck : public DocumentForm<Check> {
   // --- the screen (frmCheck_build.cpp)
   void build();
   void build_fields();
-  void build_lines();
   QFrame* build_check();
   QGroupBox* build_bill();
   QGroupBox* build_paycheck();
@@ -63,8 +60,7 @@ class frmCheck : public DocumentForm<Check> {
   void Load_Address_Box();
   void Check_New_Payee();
   bool txtAmount_LostFocus();
-  void go_to_lines();
-  std::optional<Money> left() const;  ///< of the check's amount, after all lines
+  std::optional<Money> amount_of_lines() const;
   void show_assigned();
 
   // --- commands
@@ -78,19 +74,16 @@ class frmCheck : public DocumentForm<Check> {
   std::string addressed_;  ///< the payee whose address was last asked for
   std::string in_words_;   ///< the text of txtAmount that lblAmount and the remainder stand for
   DropDowns* lists_;
-  ExpenseGrid* expenses_;
-  ItemGrid* items_;
 
   QFrame* fraCheck;
   SSDBCombo *cmbAccount, *cmbPayee;
-  QLabel *lblCompany, *lblBankID, *lblBalance, *lblAmount, *lblPayPeriod, *lblHours, *lblPaidThrough, *lblLocked,
-      *lblAssigned;
+  QLabel *lblCompany, *lblBankID, *lblBalance, *lblAmount, *lblPayPeriod, *lblHours, *lblPaidThrough, *lblLocked;
   QLineEdit *txtIndex, *txtNumber, *txtMemo;
   QuillbrookDatePick* DTPicker1;
   MoneyEdit* txtAmount;
   AddressEdit* txtAddress;
   QStackedWidget* pages_;
-  QTabWidget* SSTab1;
+  TabbedGrid* SSTab1;
   QGroupBox *fraBill, *fraPaycheck, *fraLiability;
   SSDBGrid *grdBills, *grdLiabilities;
   QPushButton *cmdPrint, *cmdDelete, *cmdRepeat, *cmdEditPayCheck, *cmdLiaEdit;

@@ -5,11 +5,9 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QStackedWidget>
-#include <QTabWidget>
 
 #include "entry/checks/frmCheck.h"
-#include "entry/document/ExpenseGrid.h"
-#include "entry/document/ItemGrid.h"
+#include "entry/document/TabbedGrid.h"
 #include "shell/drop_downs.h"
 #include "shell/widgets/AddressEdit.h"
 #include "shell/widgets/MoneyEdit.h"
@@ -32,7 +30,6 @@ frmCheck::frmCheck(Shell& shell_of_frame)
     : DocumentForm(shell_of_frame, "frmCheck", Check_Kind), lists_(new DropDowns(session, this)) {
   setWindowTitle(QStringLiteral("Checks"));
   build_fields();
-  build_lines();
   build();
   connect_controls();
   order_tabs();
@@ -59,9 +56,10 @@ void frmCheck::build_fields() {
   txtAddress = named("txtAddress", new AddressEdit);
   txtMemo = named("txtMemo", new QLineEdit);
   lblLocked = named("lblLocked", new QLabel);
-  lblAssigned = named("lblAssigned", new QLabel);
-  lblAssigned->setContentsMargins(0, 0, 0, theme::unit / 2);
-  lblAssigned->setFont(theme::tabular(lblAssigned->font()));
+  SSTab1 = new TabbedGrid(*this, shell, *lists_,
+                          {.expenses = QStringLiteral("Choose a category for what this check pays."),
+                           .items = QStringLiteral("Choose an item that this check buys.")},
+                          [this] { return amount_of_lines(); });
 }
 
 /// Number and date at the right, the payee's line with the amount in its box, the words, address and memo.
@@ -99,14 +97,6 @@ QFrame* frmCheck::build_check() {
   grid->setColumnStretch(1, 1);
   grid->setColumnMinimumWidth(4, 18 * theme::unit);
   return fraCheck;
-}
-
-void frmCheck::build_lines() {
-  expenses_ = new ExpenseGrid(*this, shell, *lists_, QStringLiteral("Choose a category for what this check pays."));
-  items_ = new ItemGrid(*this, shell, *lists_, {.hint = QStringLiteral("Choose an item that this check buys.")});
-  expenses_->offer([this] { return left(); });
-  for (LineGrid* lines : {static_cast<LineGrid*>(expenses_), static_cast<LineGrid*>(items_)})
-    lines->when_changed([this] { show_assigned(); });
 }
 
 QGroupBox* frmCheck::build_bill() {
@@ -160,10 +150,6 @@ void frmCheck::build() {
   bank->addWidget(new QLabel(QStringLiteral("Balance:")));
   bank->addWidget(lblBalance);
 
-  SSTab1 = named("SSTab1", new QTabWidget);
-  SSTab1->addTab(expenses_->grid, QStringLiteral("E&xpenses"));
-  SSTab1->addTab(items_->grid, QStringLiteral("&Items"));
-  SSTab1->setCornerWidget(lblAssigned);
   pages_ = new QStackedWidget;
   for (QWidget* page : {static_cast<QWidget*>(SSTab1), static_cast<QWidget*>(build_bill()),
                         static_cast<QWidget*>(build_paycheck()), static_cast<QWidget*>(build_liability())})
@@ -185,10 +171,26 @@ void frmCheck::build() {
 
 /// As a check is written: payee and amount before address and memo, then the lines.
 void frmCheck::order_tabs() {
-  QWidget* const order[] = {cmbAccount,      txtNumber,      DTPicker1,       cmbPayee,     txtAmount,
-                            txtAddress,      txtMemo,        expenses_->grid, items_->grid, grdBills,
-                            cmdEditPayCheck, grdLiabilities, cmdLiaEdit,      cmdSaveNew,   cmdOk,
-                            cmdPrev,         cmdNext,        cmdPrint,        cmdDelete,    cmdRepeat};
+  QWidget* const order[] = {cmbAccount,
+                            txtNumber,
+                            DTPicker1,
+                            cmbPayee,
+                            txtAmount,
+                            txtAddress,
+                            txtMemo,
+                            SSTab1->expenses->grid,
+                            SSTab1->items->grid,
+                            grdBills,
+                            cmdEditPayCheck,
+                            grdLiabilities,
+                            cmdLiaEdit,
+                            cmdSaveNew,
+                            cmdOk,
+                            cmdPrev,
+                            cmdNext,
+                            cmdPrint,
+                            cmdDelete,
+                            cmdRepeat};
   for (size_t i = 1; i < std::size(order); ++i) setTabOrder(order[i - 1], order[i]);
 }
 
@@ -205,7 +207,6 @@ void frmCheck::connect_controls() {
   later_on(cmbPayee, &SSDBCombo::LostFocus, "cmbPayee_LostFocus", &frmCheck::Load_Address_Box);
   later_on(txtAmount, &MoneyEdit::LostFocus, "txtAmount_LostFocus", &frmCheck::txtAmount_LostFocus);
   on(txtAmount, &QLineEdit::textChanged, "txtAmount_Change", [this] { show_assigned(); });
-  on(SSTab1, &QTabWidget::currentChanged, "SSTab1_Click", [this] { go_to_lines(); });
   on(cmdPrint, "cmdPrint_Click", [this] { cmdPrint_Click(); });
   on(cmdDelete, "cmdDelete_Click", [this] { cmdDelete_Click(); });
   on(cmdRepeat, "cmdRepeat_Click", [this] { cmdRepeat_Click(); });

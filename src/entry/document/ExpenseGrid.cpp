@@ -3,7 +3,6 @@
 #include <utility>
 
 #include "core/ledger/ledger.h"
-#include "lists/categories.h"
 #include "shell/drop_downs.h"
 
 namespace tallymere {
@@ -73,12 +72,7 @@ void ExpenseGrid::new_category() {
   const int row = std::exchange(left_line_, -1);
   const std::string name = grid->text(row, Category);
   if (name.empty() || !grid->text(row, CatID).empty()) return;
-  const Request ask{.window = "frmModAccount", .key = name, .number = static_cast<int64_t>(AccountMode::FromCheck)};
-  std::string id = Category_Named(session, name);
-  if (id.empty())
-    id = shell.Ask_Window(ask).value_or("");
-  else
-    lists.changed("Accounts");  // which had not heard of it
+  const std::string id = category_or_new(name);
   if (id.empty()) return;
   grid->set_text(row, Category, Category_Name(session, id));
   grid->set_text(row, CatID, id);

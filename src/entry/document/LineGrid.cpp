@@ -2,7 +2,9 @@
 
 #include "core/values/format.h"
 #include "core/values/text.h"
+#include "lists/categories.h"
 #include "lists/small_lists.h"
+#include "shell/drop_downs.h"
 
 namespace tallymere {
 
@@ -25,6 +27,16 @@ GridColumn LineGrid::choice(const char* caption, SSDBDropDown* list, int id_colu
 
 GridColumn LineGrid::hidden(const char* caption) {
   return {.name = QString::fromLatin1(caption), .kind = Kind::hidden};
+}
+
+std::string LineGrid::category_or_new(const std::string& name) {
+  const std::string id = Category_Named(session, name);
+  if (id.empty())
+    return shell
+        .Ask_Window({.window = "frmModAccount", .key = name, .number = static_cast<int64_t>(AccountMode::FromCheck)})
+        .value_or("");
+  lists.changed("Accounts");  // which had not heard of it
+  return id;
 }
 
 std::string LineGrid::keep(const KeptRow& row) {

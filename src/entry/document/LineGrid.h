@@ -32,6 +32,9 @@ class LineGrid : public QObject {
   static GridColumn choice(const char* caption, SSDBDropDown* list, int id_column = -1);
   static GridColumn hidden(const char* caption);
 
+  /// The CatID of a category by its name; one that is not there is offered to be made. "": it was not.
+  std::string category_or_new(const std::string& name);
+
   /// The hidden cell that stands for a row, and the row it stands for.
   std::string keep(const KeptRow& row);
   KeptRow kept(const std::string& cell) const;

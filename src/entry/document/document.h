@@ -21,8 +21,9 @@ struct SaveResult {
   std::optional<Fault> fault = {};        ///< the user's mistake; nothing was written
   std::optional<Conflict> conflict = {};  ///< another user's work; nothing was written
   bool written = false;
+  bool declined = false;  ///< the user thought better of it; nothing was written
 
-  bool ok() const { return !fault && !conflict; }
+  bool ok() const { return !fault && !conflict && !declined; }
 };
 
 /// Whether a save has made a category since: the " - Other" child of one that it posts to.
