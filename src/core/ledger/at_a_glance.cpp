@@ -19,7 +19,8 @@ Money Customers_Owe(Session& session) {
 Due Due_This_Week(Session& session) {
   Due due;
   session.dbCompany->each(
-      "SELECT COUNT(*), SUM(Amount) FROM Transactions WHERE Type = 'Bill' AND Account = 'AP1' AND NOT Paid AND "
+      "SELECT COUNT(*), SUM(Amount - IFNULL((SELECT SUM(a.Amount) FROM Applied AS a WHERE a.Document = "
+      "Transactions.TransNum), 0)) FROM Transactions WHERE Type = 'Bill' AND Account = 'AP1' AND NOT Paid AND "
       "DueDate < ?",
       {session.today().plus_days(7)}, [&](const store::Row& row) {
         due = {row.integer(0), row.money(1)};

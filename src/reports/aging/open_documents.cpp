@@ -36,25 +36,30 @@ std::vector<OpenDocument> Open_Documents(store::Database& db, Party party) {
   enum { TransNum, Name, Day, Number, Term, DueDate, Class, Amount, AmountReceived, Debit, Credit };
   const Party_Words& words = Words_Of(party);
   const Terms terms = Read_Terms(db);
+  // A bill that was paid in part is owed the rest; an invoice says itself what was received on it.
+  const std::string amount =
+      party == Party::Customers
+          ? "Amount"
+          : "Amount - IFNULL((SELECT SUM(a.Amount) FROM Applied AS a WHERE a.Document = Transactions.TransNum), 0)";
   std::vector<OpenDocument> documents;
-  db.each(
-      "SELECT TransNum, Name, Date, Number, Terms, DueDate, Class, Amount, AmountReceived, Debit, Credit"
-      " FROM Transactions INDEXED BY Transactions_Account WHERE Account = ? AND Transactions.Type = ? AND " +
-          std::string(unpaid) + " ORDER BY Date, TransNum, Transactions.RowKey",
-      {words.control, words.document}, [&](const store::Row& row) {
-        const bool is_debit = !row.money(Debit).is_zero(), is_credit = !row.money(Credit).is_zero();
-        documents.push_back({.TransNum = row.integer(TransNum),
-                             .Name = std::string(row.text(Name)),
-                             .Number = std::string(row.text(Number)),
-                             .Terms = std::string(row.text(Term)),
-                             .Class = std::string(row.text(Class)),
-                             .day = row.date(Day),
-                             .DueDate = row.date(DueDate),
-                             .terms_days = Days_Of(terms, row.text(Term)),
-                             .Amount = row.money(Amount),
-                             .AmountReceived = row.money(AmountReceived),
-                             .lowers = party == Party::Customers ? is_credit && !is_debit : is_debit});
-      });
+  db.each("SELECT TransNum, Name, Date, Number, Terms, DueDate, Class, " + amount +
+              ", AmountReceived, Debit, Credit"
+              " FROM Transactions INDEXED BY Transactions_Account WHERE Account = ? AND Transactions.Type = ? AND " +
+              std::string(unpaid) + " ORDER BY Date, TransNum, Transactions.RowKey",
+          {words.control, words.document}, [&](const store::Row& row) {
+            const bool is_debit = !row.money(Debit).is_zero(), is_credit = !row.money(Credit).is_zero();
+            documents.push_back({.TransNum = row.integer(TransNum),
+                                 .Name = std::string(row.text(Name)),
+                                 .Number = std::string(row.text(Number)),
+                                 .Terms = std::string(row.text(Term)),
+                                 .Class = std::string(row.text(Class)),
+                                 .day = row.date(Day),
+                                 .DueDate = row.date(DueDate),
+                                 .terms_days = Days_Of(terms, row.text(Term)),
+                                 .Amount = row.money(Amount),
+                                 .AmountReceived = row.money(AmountReceived),
+                                 .lowers = party == Party::Customers ? is_credit && !is_debit : is_debit});
+          });
   return documents;
 }
 
