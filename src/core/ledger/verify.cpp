@@ -6,6 +6,7 @@
 #include "core/names/name_faults.h"
 #include "core/store/sql.h"
 #include "core/values/text.h"
+#include "core/ledger/bill_faults.h"
 
 namespace tallymere {
 namespace {
@@ -250,6 +251,7 @@ struct Check {
 constexpr Check checks[] = {{"file", File_Is_Sound},
                             {"balance", Transactions_Balance},
                             {"documents", One_Document_A_Number},
+                            {"bills", Bill_Faults},
                             {"categories", Fixed_Categories_Stand},
                             {"links", All_Links_Resolve},
                             {"payments", Payments_Exist},
