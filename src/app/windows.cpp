@@ -2,6 +2,11 @@
 
 #include "entry/bank/frmPaySalesTax.h"
 #include "entry/bank/frmReconcile.h"
+#include "entry/bills/frmBills.h"
+#include "entry/bills/frmInvBill.h"
+#include "entry/bills/frmPayBills.h"
+#include "entry/journal/frmJournal.h"
+#include "entry/stock/frmInvAdjust.h"
 #include "entry/checks/frmCheck.h"
 #include "entry/find/frmFind.h"
 #include "entry/sales/frmInvoice.h"
@@ -56,6 +61,11 @@ namespace tallymere {
 const WindowTable& Windows() {
   static const WindowTable windows = {
       {"frmAccounts", Make_Window<frmAccounts>},
+      {"frmBills", Make_Window<frmBills>},
+      {"frmInvBill", Make_Window<frmInvBill>},
+      {"frmPayBills", Make_Window<frmPayBills>},
+      {"frmJournal", Make_Window<frmJournal>},
+      {"frmInvAdjust", Make_Window<frmInvAdjust>},
       {"frmCheck", Make_Window<frmCheck>},
       {"frmInvoice", Make_Window<frmInvoice>},
       {"frmPayments", Make_Window<frmPayments>},
