@@ -96,6 +96,8 @@ class frmMain : public QMainWindow, public Shell, public CompanyCommands {
   // --- routing
   bool exists(const MenuRow& row) const;
   bool has_usable_child(std::string_view menu) const;
+  bool may_reach(std::string_view command) const;  ///< it and the menus it stands in
+  bool may_show(const std::string& window);    ///< a box says so when the user's rights lead to no command that does
   bool may(const std::string& command) const;  ///< the user's rights and the company's state allow it
   std::vector<StartPanel::Figure> figures();
   void run_command(const std::string& name);
@@ -128,6 +130,7 @@ class frmMain : public QMainWindow, public Shell, public CompanyCommands {
   void Company_Went(bool at_start);
   void company_came_up();
   void Apply_User_Rights();
+  void Read_Rights_Again();  ///< the administrator may have changed them meanwhile
   void caption_switch_mode();
   bool Backup();
   bool may_exit();
@@ -136,6 +139,7 @@ class frmMain : public QMainWindow, public Shell, public CompanyCommands {
   const WindowTable& windows_;
   std::map<std::string, QAction*, std::less<>> commands_;
   std::map<std::string, bool, std::less<>> disabled_, hidden_;
+  std::optional<store::ChangeStamp> rights_as_of_;
   std::vector<Form*> forms_;  ///< open ones, the newest last
   std::unique_ptr<frmMenus> menus_;
   QMdiArea* mdi_;

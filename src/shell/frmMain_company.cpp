@@ -130,6 +130,12 @@ void frmMain::Apply_User_Rights() {
   refresh_commands();
 }
 
+void frmMain::Read_Rights_Again() {
+  if (!session.MultiUser || !session.dbCompany || session.dbCompany->change_stamp() == rights_as_of_) return;
+  rights_as_of_ = session.dbCompany->change_stamp();
+  Apply_User_Rights();
+}
+
 void frmMain::caption_switch_mode() {
   command("mnuSwitchMode")
       ->setText(session.MultiUser ? QStringLiteral("Switch to Single-User Mode")

@@ -8,7 +8,6 @@
 #include <QToolButton>
 #include <algorithm>
 
-#include "core/company/users.h"
 #include "core/ledger/reach.h"
 #include "core/store/error.h"
 #include "core/values/control_characters.h"
@@ -42,6 +41,7 @@ QMdiSubWindow* frame_of(const Form& form) { return qobject_cast<QMdiSubWindow*>(
 }  // namespace
 
 void frmMain::run_command(const std::string& name) {
+  guard(name + "_Click", [this] { Read_Rights_Again(); });
   using Handler = void (frmMain::*)();
   static const std::map<std::string_view, Handler> handlers = {{"mnuNewCompany", &frmMain::mnuNewCompany_Click},
                                                                {"mnuOpenCommpany", &frmMain::mnuOpenCompany_Click},
@@ -122,7 +122,6 @@ void frmMain::mnuUndo_Click() {
 void frmMain::Go_To_Transaction(const std::string& type, int64_t number) {
   const std::string window(Entry_Window(type));
   if (window.empty()) return say("There is no window to go to for a transaction of type " + type + ".");
-  if (!May_Use(session, Command_For("Transactions", type))) return say("You have no right to open a transaction of type " + type + ".");
   Show_Window({.window = window, .key = {}, .number = number});
 }
 
@@ -132,6 +131,34 @@ void frmMain::Popup(const std::string& menu, QWidget& from, const std::vector<st
   const auto* grid = qobject_cast<SSDBGrid*>(&from);
   const QPoint at = button ? from.mapToGlobal(QPoint(0, from.height())) : grid ? grid->menu_place() : QCursor::pos();
   menus_->Popup(menu, at, disabled, std::move(chosen));
+}
+
+// --- rights --------------------------------------------------------------------------------------
+
+/// A menu row is reached through all the menus above it.
+bool frmMain::may_reach(std::string_view command) const {
+  for (std::string_view name = command; !name.empty();) {
+    if (!may(std::string(name))) return false;
+    const auto rows = Menu_Table();
+    const auto row = std::ranges::find(rows, name, &MenuRow::name);
+    name = row == rows.end() ? std::string_view() : row->parent;
+  }
+  return true;
+}
+
+/// Whatever leads there, a window opens for those who have a command for it. What has no command of its own belongs to
+/// the window that asks; a report leads on to reports.
+bool frmMain::may_show(const std::string& window) {
+  Read_Rights_Again();
+  if (!session.MultiUser || window.starts_with("frmPrint")) return true;
+  std::vector<std::string_view> commands;
+  if (window == "frmRegister") commands = {"mnuAccounts"};
+  if (window == "frmOpenPayments") commands = {"mnuDepositFunds"};
+  for (const MenuRow& row : Menu_Table())
+    if (row.window == window) commands.push_back(row.name);
+  if (commands.empty() || std::ranges::any_of(commands, [this](auto name) { return may_reach(name); })) return true;
+  session.prompts.box({"You do not have the right to open this window.", "Access Denied", Icon::Critical});
+  return false;
 }
 
 // --- windows -------------------------------------------------------------------------------------
@@ -149,6 +176,7 @@ Form* frmMain::Show_Window(const Request& request) {
   }
   if (!needs_no_company(request.window) && !session.dbCompany)
     throw store::Error(store::errors::file_not_found, "No company is open.");
+  if (!may_show(request.window)) return nullptr;
   Hourglass hourglass(session.prompts);
   Form* form = request.new_instance ? nullptr : find_window(request.window);
   if (!form) form = open_form(request.window);
@@ -234,6 +262,7 @@ std::optional<std::string> frmMain::Ask_Window(const Request& request) {
     say(request.window + " is not part of this version yet.");
     return std::nullopt;
   }
+  if (!may_show(request.window)) return std::nullopt;
   const std::unique_ptr<Form> form(windows_.find(request.window)->second(*this));
   const bool loaded = form->guard("Form_Load", [&] {
     form->load();

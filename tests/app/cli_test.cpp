@@ -170,7 +170,7 @@ TEST_F(CommandLine, ACompanyWithAPasswordAsksForIt) {
          {"< /dev/null", "asks for a password"},
          {"<&-", "asks for a password"},
          {"--password-fd 9", "asks for a password"}});
-  write("INSERT INTO Users (UserName, Password) VALUES ('Ann', ?)", "Sun");
+  write("INSERT INTO Users (UserName, BankCC, Password) VALUES ('Ann', -1, ?)", "Sun");
   write("UPDATE CompanyInfo SET UserMode = 'Multi', Password = ?", "");
   check({{"--user admin < /dev/null", "All is well."},
          {"--user ann < anns", "All is well."},

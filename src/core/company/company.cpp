@@ -4,6 +4,7 @@
 #include "core/company/company_name.h"
 #include "core/company/folder.h"
 #include "core/company/tax_update.h"
+#include "core/ledger/gate.h"
 #include "core/values/text.h"
 
 namespace tallymere {
@@ -177,6 +178,7 @@ void Open_Company_File(Session& session, const fs::path& path) {
   Sweep_Asides(Folder_Of(path));
   Close_Company_File(session);
   session.dbCompany = std::move(opened);
+  Guard_Commits(session);
   session.CompanyPath = path.string();
   session.CompanyFile = path.filename().string();
 }

@@ -58,6 +58,8 @@ std::string Plain_Words(const std::exception& fault) {
 }  // namespace
 
 void Error_Box(Session& session, const std::string& object, const std::string& procedure, const std::exception& fault) {
+  if (Number_Of(fault) == store::errors::not_allowed)  // nothing went wrong
+    return session.prompts.box({in_one_plain_line(fault.what()), "Access Denied", Icon::Critical});
   session.log.write(object, procedure, Number_Of(fault), fault.what());
   session.prompts.box(
       {"An Error Occured. Contact Quillbrook Software Inc.\r\nCall 555-010-2000 Locally or 1-800-555-0100 "

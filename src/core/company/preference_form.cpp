@@ -2,6 +2,7 @@
 
 #include "core/company/logo.h"
 #include "core/company/preferences.h"
+#include "core/values/format.h"
 #include "core/values/money.h"
 #include "core/values/text.h"
 
@@ -27,6 +28,7 @@ constexpr Key keys[] = {
     {preference::Style, &PreferenceForm::Style},
     {preference::SalesBase, &PreferenceForm::SalesBase},
     {preference::ItemSort, &PreferenceForm::ItemSort, true},
+    {preference::ClosingDate, &PreferenceForm::ClosingDate},
 };
 
 /// "18" or "18%", or nothing at all.
@@ -36,6 +38,13 @@ bool Is_Rate(std::string text) {
   if (text.ends_with('%')) text.pop_back();
   const auto rate = Money::parse(text);
   return rate && !rate->is_negative();
+}
+
+/// The history says when the books were closed and opened.
+std::string What(const PreferenceForm& before, const PreferenceForm& now) {
+  if (now.ClosingDate == before.ClosingDate) return "Preferences";
+  if (now.ClosingDate.empty()) return "Preferences, closing date lifted";
+  return "Preferences, books closed up to " + Format(*Date::from_iso(now.ClosingDate), "m/d/yyyy");
 }
 
 }  // namespace
@@ -51,7 +60,9 @@ std::optional<Fault> Save_Preferences(Session& session, const PreferenceForm& be
     return Fault{{"The annual finance rate is a number, with or without \"%\".", "No Value"}, "txtAPR"};
   if (now.logo && now.logo->size() > Largest_Logo)
     return Fault{{"This picture is too large for a logo: 2 MB at most.", "Company Logo"}, "txtLogo"};
-  store::Transaction tx(*session.dbCompany, "Preferences");
+  if (!now.ClosingDate.empty() && !Date::from_iso(now.ClosingDate))
+    return Fault{{"The closing date is a date, or nothing.", "No Value"}, "txtClosingDate"};
+  store::Transaction tx(*session.dbCompany, What(before, now));
   for (const Key& key : keys) {
     const std::string& State = now.*key.State;
     if (State == before.*key.State || (State.empty() && key.keeps_when_empty)) continue;

@@ -11,7 +11,8 @@ namespace tallymere {
 struct PreferenceForm {
   std::string PayrollPosting;  ///< "Plain", "Balanced", or "": plain as well
   std::string ToolBarVisible, InvoiceStyle, FirstDay, PrintInvoice, LogoPath, DefaultBank, FinanceAPR, FinanceCat, Feed,
-      Style, SalesBase, ItemSort;
+      Style, SalesBase, ItemSort,
+      ClosingDate;                       ///< as yyyy-mm-dd, or as it was typed
   std::optional<std::string> logo = {};  ///< a new picture's bytes; nothing: the old one stays
 };
 

@@ -23,8 +23,9 @@ inline constexpr std::string_view PrintInvoice =
 inline constexpr std::string_view FirstDay = "FirstDay";  ///< "Sunday" to "Saturday"
 inline constexpr std::string_view PayrollPosting = "PayrollPosting";  ///< "Plain", "Balanced"; "" is Plain
 inline constexpr std::string_view LogoPath = "LogoPath";
-inline constexpr std::string_view Style = "Style";        ///< of printed checks: "Original", "Custom"
-inline constexpr std::string_view ItemSort = "ItemSort";  ///< a column's name: "Name"
+inline constexpr std::string_view Style = "Style";              ///< of printed checks: "Original", "Custom"
+inline constexpr std::string_view ClosingDate = "ClosingDate";  ///< yyyy-mm-dd, or "": see core/ledger/gate.h
+inline constexpr std::string_view ItemSort = "ItemSort";        ///< a column's name: "Name"
 }  // namespace preference
 
 /// The State of a preference; "" when there is none.

@@ -36,6 +36,7 @@ struct Session {
   std::string CompanyFile;                      ///< file name with ".cmf"
   bool MultiUser = false;
   std::string CurrentUser;   ///< empty in single-user mode
+  bool unattended = false;   ///< the program itself is at work, for everybody: a user's rights do not count
   int LastCompanyError = 0;  ///< what New_Company last met
   RecordSets sets;
   NumberWords words;

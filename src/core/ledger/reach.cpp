@@ -18,11 +18,15 @@ struct Row {
   std::string_view command;
 };
 
+/// The registers write checks, deposits and entries of their own; Receive Items enters bills, Pay Sales Tax checks.
 constexpr std::array types = {
-    Row{"Check", "mnuChecks"},           Row{"Billcheck", "mnuPayBill"},          Row{"Deposit", "mnuDepositFunds"},
-    Row{"Payment", "mnuPayments"},       Row{"Invoice", "mnuInvoices"},           Row{"Bill", "mnuBill"},
-    Row{"Item Receipt", "mnuInventory"}, Row{"Inventory Adjust", "mnuInventory"}, Row{"Paycheck", "mnuPayroll"},
-    Row{"Liabilitycheck", "mnuPayroll"}, Row{"Ledger Entry", "mnuJournal"}};
+    Row{"Check", "mnuChecks"},       Row{"Check", "mnuAccounts"},         Row{"Check", "mnuPaySalesTax"},
+    Row{"Billcheck", "mnuPayBill"},  Row{"Deposit", "mnuDepositFunds"},   Row{"Payment", "mnuPayments"},
+    Row{"Invoice", "mnuInvoices"},   Row{"Statement", "mnuInvoices"},     Row{"Finanace Charge", "mnuInvoices"},
+    Row{"Bill", "mnuBill"},          Row{"Bill", "mnuInventory"},         Row{"Credit", "mnuBill"},
+    Row{"Item Receipt", "mnuBill"},  Row{"Item Receipt", "mnuInventory"}, Row{"Inv Adjust", "mnuInventory"},
+    Row{"Paycheck", "mnuPayroll"},   Row{"Liabilitycheck", "mnuPayroll"}, Row{"Liability Adjust", "mnuPayroll"},
+    Row{"YTD Adjust", "mnuPayroll"}, Row{"Ledger Entry", "mnuJournal"},   Row{"Ledger Entry", "mnuAccounts"}};
 
 constexpr std::array tables = {Row{"Accounts", "mnuAccounts"},
                                Row{"Customers", "mnuCustomers"},
@@ -41,21 +45,20 @@ constexpr std::array tables = {Row{"Accounts", "mnuAccounts"},
 
 constexpr int looked_back = 200;  ///< actions among which the one to take back is sought
 
-template <size_t count>
-std::string_view Find(const std::array<Row, count>& rows, std::string_view what) {
-  const auto found = std::ranges::find_if(rows, [&](const Row& row) { return same_text(row.what, what); });
-  return found == rows.end() ? std::string_view("mnuJournal") : found->command;
-}
-
-std::string Type_Of(store::Database& db, const store::Change& change) {
-  for (const auto& cell : change.cells)
-    if (cell.field == "Type") return (cell.after.blank() ? cell.before : cell.after).text();
-  return db.value("SELECT Type FROM Transactions WHERE RowKey = ?", {change.key}).text();
-}
-
 bool Granted(const std::vector<CommandRight>& rights, std::string_view command) {
   return std::ranges::none_of(rights,
                               [&](const CommandRight& right) { return right.name == command && !right.granted; });
+}
+
+template <size_t count>
+bool Reached(const std::vector<CommandRight>& rights, const std::array<Row, count>& rows, std::string_view what) {
+  bool known = false;
+  for (const Row& row : rows) {
+    if (!same_text(row.what, what)) continue;
+    if (Granted(rights, row.command)) return true;
+    known = true;
+  }
+  return !known && Granted(rights, "mnuJournal");
 }
 
 bool Is_Undone(store::Database& db, int64_t number) {
@@ -64,14 +67,19 @@ bool Is_Undone(store::Database& db, int64_t number) {
 
 }  // namespace
 
-std::string_view Command_For(std::string_view table, std::string_view Type) {
-  return table == "Transactions" ? Find(types, Type) : Find(tables, table);
+bool Reaches(const std::vector<CommandRight>& rights, std::string_view table, std::string_view Type) {
+  return table == "Transactions" ? Reached(rights, types, Type) : Reached(rights, tables, table);
+}
+
+std::string Type_Of(store::Database& db, const store::Change& change) {
+  for (const auto& cell : change.cells)
+    if (cell.field == "Type") return (cell.after.blank() ? cell.before : cell.after).text();
+  return db.value("SELECT Type FROM Transactions WHERE RowKey = ?", {change.key}).text();
 }
 
 bool Reaches(store::Database& db, const std::vector<CommandRight>& rights, const std::vector<store::Change>& changes) {
   return std::ranges::all_of(changes, [&](const store::Change& change) {
-    const std::string Type = change.table == "Transactions" ? Type_Of(db, change) : "";
-    return Granted(rights, Command_For(change.table, Type));
+    return Reaches(rights, change.table, change.table == "Transactions" ? Type_Of(db, change) : "");
   });
 }
 

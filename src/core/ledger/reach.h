@@ -12,14 +12,15 @@
 /// Whose history is whose: what a user may not open he may not look at, and not take back.
 namespace tallymere {
 
-/// The command that leads to what a row of this table (and, in the ledger, of this type) belongs to. What nobody
-/// else has a command for is the administrator's.
-std::string_view Command_For(std::string_view table, std::string_view Type);
+/// Whether one of these commands leads to what a row of this table (and, in the ledger, of this type) belongs to. What
+/// nobody else has a command for is the administrator's.
+bool Reaches(const std::vector<CommandRight>& rights, std::string_view table, std::string_view Type);
 
 /// Whether these commands reach everything that an action changed. `rights` as of Apply_User_Rights.
 bool Reaches(store::Database& db, const std::vector<CommandRight>& rights, const std::vector<store::Change>& changes);
 
-std::vector<CommandRight> Rights_Of(Session& session);  ///< of who is logged in
+std::vector<CommandRight> Rights_Of(Session& session);                  ///< of who is logged in
+std::string Type_Of(store::Database& db, const store::Change& change);  ///< of a changed row of the ledger
 
 /// Balances brought up to date, and nothing else.
 bool Is_Upkeep(const std::vector<store::Change>& changes);

@@ -167,7 +167,8 @@ class Inverse {
     std::string assignments;
     for (const auto& cell : change.cells)
       if (cell.column > 0 && !is_cache_(change.table, cell.column))
-        assignments += (assignments.empty() ? " SET " : ", ") + Quoted(names[static_cast<size_t>(cell.column)]) + " = ?";
+        assignments +=
+            (assignments.empty() ? " SET " : ", ") + Quoted(names[static_cast<size_t>(cell.column)]) + " = ?";
     if (assignments.empty()) return true;  // a cache alone was refreshed
     return run("UPDATE " + Quoted(change.table) + assignments, change, true);
   }
@@ -197,7 +198,8 @@ class Inverse {
       marks += marks.empty() ? "?" : ", ?";
       values.push_back(cell.before);
     }
-    const std::string sql = "INSERT OR IGNORE INTO " + Quoted(change.table) + " (" + columns + ") VALUES (" + marks + ")";
+    const std::string sql =
+        "INSERT OR IGNORE INTO " + Quoted(change.table) + " (" + columns + ") VALUES (" + marks + ")";
     return connection_.prepare(sql).bind_all(values).run() == 1;
   }
 

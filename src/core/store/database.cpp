@@ -436,6 +436,7 @@ void Transaction::write_history() {
     changes = db_.connection_.take_changes(
         [this](const std::string& table, int column) { return db_.is_cache_column(table, column); });
     if (changes.empty()) return;  // nothing was written that a history could tell
+    if (db_.guard_) db_.guard_(db_, changes);
     if (changes.size() > Connection::longest_text) history_ = History::Summary;
   }
   auto row = db_.connection_.prepare("INSERT INTO History (At, User, What, Undoes, Changes) VALUES (?, ?, ?, ?, ?)");

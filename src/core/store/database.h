@@ -137,6 +137,9 @@ class Database {
 
   void set_author(Author author) { author_ = std::move(author); }
   const Author& author() const { return author_; }
+  /// Sees what a writing scope changed before it is committed, and throws to refuse it whole. A bulk load is not shown.
+  using CommitGuard = std::function<void(Database& db, std::string_view changeset)>;
+  void set_guard(CommitGuard guard) { guard_ = std::move(guard); }
   void set_caches(IsCache caches) { caches_ = std::move(caches); }
   bool is_cache(const std::string& table, const std::string& field) const { return caches_ && caches_(table, field); }
   /// The same by the column in the file, where the hidden key is column 0.
@@ -172,6 +175,7 @@ class Database {
   mutable Connection connection_;
   Author author_;
   IsCache caches_;
+  CommitGuard guard_;
   bool keeps_history_ = false;
   int depth_ = 0;
   std::shared_ptr<WritingScope> scope_;

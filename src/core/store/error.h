@@ -38,6 +38,7 @@ inline constexpr int not_a_database = 3343;
 inline constexpr int conversion = 3421;
 inline constexpr int newer_file = 3349;
 inline constexpr int undo_refused = 3350;
+inline constexpr int not_allowed = 3351;  ///< by the user's rights or the closing date
 }  // namespace errors
 
 }  // namespace tallymere::store

@@ -60,16 +60,19 @@ Action Find_Action(Database& db, int64_t number) {
 
 std::vector<Change> Changes_Of(Database& db, int64_t number) {
   Find_Action(db, number);
+  return Named_Changes(db, Changeset_Of(db, number));
+}
+
+std::vector<Change> Named_Changes(Database& db, std::string_view changeset) {
   std::vector<Change> changes;
-  for (const RowChange& raw : Read_Changeset(Changeset_Of(db, number))) changes.push_back(Named(db, raw));
+  for (const RowChange& raw : Read_Changeset(changeset)) changes.push_back(Named(db, raw));
   return changes;
 }
 
 void Revert_Changes(Database& db, int64_t number) {
   Action action = Find_Action(db, number);
-  auto refused = Apply_Inverse(db.connection(), Changeset_Of(db, number), [&](const std::string& table, int column) {
-    return db.is_cache_column(table, column);
-  });
+  auto refused = Apply_Inverse(db.connection(), Changeset_Of(db, number),
+                               [&](const std::string& table, int column) { return db.is_cache_column(table, column); });
   if (refused.empty()) return;
   throw Error(errors::undo_refused, "Action " + std::to_string(number) + " (" + action.what +
                                         ") cannot be taken back: later work stands on it in " + join(refused, ", ") +

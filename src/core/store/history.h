@@ -36,6 +36,8 @@ std::vector<Action> List_Actions(Database& db, int64_t limit);
 /// Error 3021 when there is no such action.
 Action Find_Action(Database& db, int64_t number);
 std::vector<Change> Changes_Of(Database& db, int64_t number);
+/// The same of a changeset that is not kept yet. Error 3049 when the bytes are none.
+std::vector<Change> Named_Changes(Database& db, std::string_view changeset);
 
 /// Takes an action back inside the caller's Transaction. Error 3350 with the tables named when later work stands on it.
 void Revert_Changes(Database& db, int64_t number);

@@ -14,6 +14,7 @@
 #include <QStackedWidget>
 
 #include "core/company/logo.h"
+#include "shell/widgets/QuillbrookDatePick.h"
 #include "shell/widgets/grid/SSDBCombo.h"
 #include "shell/widgets/theme.h"
 
@@ -146,6 +147,16 @@ void frmPrefrences::build_pages() {
                        {"Plain: as companies of earlier versions do", "Balanced: debits always equal credits"});
   cmbFirstDay = choice("cmbFirstDay", {"Sunday", "Monday", "Tuesday", "Wednesday", "Thursday", "Friday", "Saturday"});
   add_field(page, QStringLiteral("&First Day of Pay Week"), cmbFirstDay);
+
+  page = add_page("Closing Date");
+  txtClosingDate = named("txtClosingDate", new QuillbrookDatePick);
+  txtClosingDate->allow_blank(true);
+  add_field(page, QStringLiteral("Books &Closed Up To:"), txtClosingDate);
+  auto* meaning = new QLabel(
+      QStringLiteral("Nothing dated on or before this day is entered, changed, deleted, imported or undone by anyone. "
+                     "Leave it empty to open the books again."));
+  meaning->setWordWrap(true);
+  page->addRow(meaning);
 }
 
 void frmPrefrences::build_invoices(QFormLayout* page) {
@@ -210,6 +221,7 @@ void frmPrefrences::show_form() {
   cmbBank->set_id(before_.DefaultBank);
   lblBank->setText(qt(before_.DefaultBank));
   cmbFinanceCat->set_id(before_.FinanceCat);
+  txtClosingDate->set_value(Date::from_iso(before_.ClosingDate));
   lblFinCatID->setText(qt(before_.FinanceCat));
   txtAPR->setText(qt(before_.FinanceAPR));
   show_logo();
@@ -241,6 +253,8 @@ PreferenceForm frmPrefrences::read() const {
   form.DefaultBank = cmbBank->id();
   form.FinanceCat = cmbFinanceCat->id();
   form.FinanceAPR = utf8(txtAPR->text());
+  const auto closed = txtClosingDate->maybe_value();
+  form.ClosingDate = closed ? closed->to_iso() : "";
   form.logo = logo_;
   return form;
 }

@@ -14,6 +14,7 @@ class QStackedWidget;
 
 namespace tallymere {
 
+class QuillbrookDatePick;
 class SSDBCombo;
 
 /// What the company prefers, page by page. Asked for with a page's name it opens there.
@@ -51,6 +52,7 @@ class frmPrefrences : public Form {
   SSDBCombo *cmbBank, *cmbFinanceCat;
   QLabel *lblBank, *lblFinCatID, *picLogo;
   QLineEdit *txtLogo, *txtAPR;
+  QuillbrookDatePick* txtClosingDate;
   QPushButton *SSDBCommand1, *cmdApply, *cmdClose, *cmdCancel;
 };
 

@@ -78,6 +78,12 @@ equal(visible(["mnuInvoices", "mnuBill", "mnuChecks", "mnuInventory", "mnuPayrol
 equal(visible(["btnInvoices", "btnChecks", "btnBills", "btnPayments", "btnCustomers", "btnVendors", "btnItems", "btnTime"]),
       ["btnInvoices", "btnCustomers", "btnItems"]);
 ok(!main.mnuSwitchMode.enabled && !main.mnuRestore.enabled && !main.mnuCompany.enabled);
+
+// What is taken from a user at work is gone at the next command.
+other("UPDATE Users SET Inventory = ? WHERE UserName = ?", false, "Bob");
+menu("mnuHistory");
+equal(visible(["mnuInvoices", "mnuInventory", "btnItems"]), ["mnuInvoices"]);
+other("UPDATE Users SET Inventory = ? WHERE UserName = ?", true, "Bob");
 leave();
 
 // Back to one user: all of it again, and no log-in next time.
