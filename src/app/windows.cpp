@@ -9,12 +9,13 @@
 #include "entry/stock/frmInvAdjust.h"
 #include "entry/checks/frmCheck.h"
 #include "entry/find/frmFind.h"
-#include "entry/sales/frmInvoice.h"
 #include "entry/receipts/frmDeposits.h"
 #include "entry/receipts/frmOpenPayments.h"
 #include "entry/receipts/frmPayments.h"
 #include "entry/register/frmRegister.h"
+#include "entry/sales/frmInvoice.h"
 #include "forms/frmCreate941.h"
+#include "import/frmImportQB.h"
 #include "lists/frmAccounts.h"
 #include "lists/frmClass.h"
 #include "lists/frmModAccount.h"
@@ -89,6 +90,7 @@ const WindowTable& Windows() {
       {"frmPrintPL2", Make_Ahead<"frmPrintPL2">},
       {"frmPrintPLName", Make_Report<"frmPrintPLName">},
       {"frmFind", Make_Window<frmFind>},
+      {"frmImportQB", Make_Window<frmImportQB>},
       {"frmSavedReps", Make_Window<frmSavedReps>},
       {"frmPrintAging", Make_Window<frmPrintAging>},
       {"frmPrintAgeDetail", Make_Report<"frmPrintAgeDetail">},

@@ -1,8 +1,16 @@
 #include "app/cli/arguments.h"
 
+#include <algorithm>
+#include <array>
 #include <charconv>
 
 namespace tallymere::cli {
+namespace {
+
+/// Options that stand for themselves.
+constexpr std::array<std::string_view, 2> switches = {"dry-run", "2003"};
+
+}  // namespace
 
 Arguments::Arguments(const std::vector<std::string>& words) {
   for (size_t at = 0; at < words.size(); ++at) {
@@ -10,10 +18,11 @@ Arguments::Arguments(const std::vector<std::string>& words) {
       words_.push_back(words[at]);
       continue;
     }
-    bool no_value = at + 1 == words.size() || words[at + 1].starts_with("--");
-    if (no_value) throw Usage(words[at] + " needs a value");
-    std::string name = words[at].substr(2);
-    if (!options_.emplace(name, words[++at]).second) throw Usage("--" + name + " stands twice");
+    const std::string name = words[at].substr(2);
+    const bool is_switch = std::ranges::find(switches, name) != switches.end();
+    const bool no_value = at + 1 == words.size() || words[at + 1].starts_with("--");
+    if (no_value && !is_switch) throw Usage(words[at] + " needs a value");
+    if (!options_.emplace(name, is_switch ? "" : words[++at]).second) throw Usage("--" + name + " stands twice");
   }
 }
 
@@ -56,6 +65,8 @@ std::optional<int64_t> Arguments::maybe_number_word(const std::string& command) 
   auto found = maybe_word();
   return found ? std::optional(Whole_Number(*found, command)) : std::nullopt;
 }
+
+bool Arguments::is_set(const std::string& name) { return options_.erase(name) > 0; }
 
 std::optional<int64_t> Arguments::number(const std::string& name) {
   if (!options_.contains(name)) return std::nullopt;

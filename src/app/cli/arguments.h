@@ -28,6 +28,7 @@ class Arguments {
   std::optional<int64_t> maybe_number_word(const std::string& command);
   std::string option(const std::string& name);  ///< Usage when it is missing
   std::string option(const std::string& name, const std::string& otherwise);
+  bool is_set(const std::string& name);                    ///< an option that has no value
   std::optional<int64_t> number(const std::string& name);  ///< a whole number of 0 or more
   std::optional<Date> date(const std::string& name);
   void finish() const;

@@ -53,6 +53,8 @@ constexpr Command commands[] = {
     {"paycheck", "paycheck --cases FILE.tsv [--items FILE.tsv] [--company FILE]",
      "calculates paychecks on paper: one case a line, every row of every grid comes out", Paycheck_Cases},
     {"taxtables", "taxtables --load DIR", "replaces tax tables by DIR/Table.tsv, all of them or none", Tax_Tables},
+    {"import", "import FILE.iif --company FILE [--dry-run] [--2003]",
+     "brings the lists of another program's export in, all or nothing, and says what became of every line", Import},
     {"backup", "backup --company FILE --out FILE.cbk", "writes a backup of the company as it stands", Back_Up},
     {"restore", "restore --backup FILE.cbk --company FILE",
      "puts a backup in a company's place, once it has proved sound", Restore},

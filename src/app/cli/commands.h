@@ -49,5 +49,6 @@ int Form(Arguments& arguments);
 int Write_Out(Arguments& arguments);
 int Paycheck_Cases(Arguments& arguments);
 int Tax_Tables(Arguments& arguments);
+int Import(Arguments& arguments);
 
 }  // namespace tallymere::cli

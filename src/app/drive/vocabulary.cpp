@@ -1,6 +1,7 @@
 #include "app/drive/vocabulary.h"
 
 #include <QApplication>
+#include <QFile>
 #include <QMdiSubWindow>
 #include <QMenu>
 #include <iostream>
@@ -181,6 +182,13 @@ QJSValue List(Toolbox& tools, const std::vector<std::string>& texts) {
   return tools.engine.toScriptValue(list);
 }
 
+QJSValue Write(Toolbox& tools, const Args& args) {
+  QFile file(qt((tools.stage.folder() / utf8(args.text(0))).string()));
+  if (!file.open(QIODevice::WriteOnly)) throw std::runtime_error("cannot write " + utf8(args.text(0)));
+  file.write(args.text(1).toUtf8());
+  return {};
+}
+
 QJSValue Exists(Toolbox& tools, const Args& args) {
   return std::filesystem::exists(tools.stage.folder() / utf8(args.text(0)));
 }
@@ -239,6 +247,7 @@ const std::map<QString, Verb>& Verbs() {
                                              {"ledger", Ledger},
                                              {"stop", Stop},
                                              {"exists", Exists},
+                                             {"write", Write},
                                              {"sounds", Sounds},
                                              {"log", Log},
                                              {"shot", Shot},
