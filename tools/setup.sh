@@ -1,5 +1,5 @@
 # Installs what is missing on a Debian machine, by package name. Sourced by ./run and ./check from the project's root.
-packages="g++ cmake ninja-build ccache mold pkg-config libsqlite3-dev sqlite3 libsodium-dev libxlsxwriter-dev zlib1g-dev
+packages="g++ cmake ninja-build ccache mold pkg-config libsqlite3-dev sqlite3 libsodium-dev libxlsxwriter-dev libhunspell-dev hunspell-en-us zlib1g-dev
   qt6-base-dev libqt6svg6-dev qt6-declarative-dev libgl-dev fonts-dejavu-core $more_packages"
 
 missing=""

@@ -14,6 +14,7 @@
 #include "entry/receipts/frmPayments.h"
 #include "entry/register/frmRegister.h"
 #include "entry/sales/frmInvoice.h"
+#include "entry/sales/frmOpenEst.h"
 #include "forms/frmCreate941.h"
 #include "import/frmImportQB.h"
 #include "lists/frmAccounts.h"
@@ -45,6 +46,7 @@
 #include "reports/saved/frmSavedReps.h"
 #include "reports/transactions/frmPrintCustom.h"
 #include "shell/frmMain.h"
+#include "shell/frmSpell.h"
 #include "shell/help/frmKeys.h"
 #include "shell/history/frmHistory.h"
 #include "shell/settings/frmColorPicker.h"
@@ -69,6 +71,9 @@ const WindowTable& Windows() {
       {"frmInvAdjust", Make_Window<frmInvAdjust>},
       {"frmCheck", Make_Window<frmCheck>},
       {"frmInvoice", Make_Window<frmInvoice>},
+      {"frmOpenEst", Make_Window<frmOpenEst>},
+      {"frmOpenSlips", Make_Window<frmOpenSlips>},
+      {"frmSpell", Make_Window<frmSpell>},
       {"frmPayments", Make_Window<frmPayments>},
       {"frmOpenPayments", Make_Window<frmOpenPayments>},
       {"frmDeposits", Make_Window<frmDeposits>},

@@ -40,6 +40,7 @@ frmNewPayee::frmNewPayee(Shell& shell_of_frame) : Form(shell_of_frame, "frmNewPa
 
 void frmNewPayee::take(const Request& request) {
   name_ = request.key;
+  if (request.parent == "Customers") optType->button(static_cast<int>(PayeeType::Customer))->setChecked(true);
   lblName->setText(qt(name_));
   optType->checkedButton()->setFocus();
 }

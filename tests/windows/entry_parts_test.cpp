@@ -1,10 +1,14 @@
 // Parts of entry windows: combos whose list grows, windows that hand back numbers.
 #include <QApplication>
+#include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QTest>
+#include <fstream>
 
 #include "entry/document/PickForm.h"
 #include "shell/drop_downs.h"
+#include "shell/frmSpell.h"
 #include "shell/list_combo.h"
 #include "support/test_company.h"
 
@@ -74,6 +78,39 @@ TEST(EntryParts, ACombosListGrowsWhenItIsLeftAndAsksWhatBelongsToIt) {
   EXPECT_FALSE(In_Small_List(*company.session, CustomerMessages_List, "Thanks!"));
   EXPECT_EQ(message.text(), "Thanks!") << "it stands on the invoice all the same";
   EXPECT_EQ(frame.told, "VIA Terms ");
+}
+
+TEST(EntryParts, SpellingGoesThroughTheUnknownWordsAndHandsBackTheText) {
+  testing::TestCompany company;
+  const auto folder = company.session->folder / "dictionaries";
+  std::filesystem::create_directory(folder);
+  std::ofstream(folder / "en_US.aff") << "SET UTF-8\nTRY esiartnolcdu\n";
+  std::ofstream(folder / "en_US.dic") << "2\nsteel\nbolt\n";
+  NoFrame frame(*company.session);
+  frmSpell spell(frame);
+  spell.show();
+  spell.take({.window = "frmSpell", .key = "Steel blot, <stel> blot"});
+  auto* word = spell.findChild<QLabel*>(QStringLiteral("lblWord"));
+  auto* change = spell.findChild<QLineEdit*>(QStringLiteral("txtChange"));
+  const auto click = [&](const char* name) { spell.findChild<QPushButton*>(QString::fromLatin1(name))->click(); };
+  EXPECT_EQ(word->text(), QStringLiteral("blot"));
+  change->setText(QStringLiteral("bolts of"));
+  click("cmdChange");
+  EXPECT_EQ(word->text(), QStringLiteral("stel")) << "what was put in is not asked about";
+  EXPECT_EQ(change->text(), QStringLiteral("steel")) << "the likeliest is proposed";
+  click("cmdChange");
+  click("cmdIgnore");
+  EXPECT_TRUE(spell.accepted());
+  EXPECT_EQ(spell.answer(), "Steel bolts of, <steel> blot");
+
+  std::vector<std::string> texts = {"steel", "blot", "M8"};
+  frame.answer = "bolt";
+  EXPECT_TRUE(Check_Spelling(frame, texts));
+  EXPECT_EQ(texts, (std::vector<std::string>{"steel", "bolt", "M8"}));
+  texts = {"blot", "stel"};
+  frame.answer.reset();
+  EXPECT_FALSE(Check_Spelling(frame, texts)) << "stopped";
+  EXPECT_EQ(texts[1], "stel");
 }
 
 TEST(EntryParts, APickWindowHandsBackTheNumbersOfTheChosenRows) {

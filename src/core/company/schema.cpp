@@ -340,6 +340,7 @@ constexpr FieldDef POs_fields[] = {
     {"Memo", Text, "memo"},
     {"Date", Date, "document date"},
     {"Total", Money, "total of the lines"},
+    {"TakenBy", Long, "TransNum of what it was turned into"},
 };
 constexpr IndexDef POs_indexes[] = {{"Index", "Index"}};
 
@@ -354,10 +355,15 @@ constexpr FieldDef POItems_fields[] = {
 constexpr IndexDef POItems_indexes[] = {{"Index", "POIndex"}};
 
 constexpr FieldDef PSlips_fields[] = {
-    {"Index", Long, "key and walk order"}, {"Open", Flag, "not yet turned into a transaction"},
-    {"Vendor", Text, "customer"},          {"VendorAddress", Text, "address block"},
-    {"PONumber", Text, "document number"}, {"Memo", Text, "memo"},
-    {"Date", Date, "document date"},       {"Total", Money, "total of the lines"},
+    {"Index", Long, "key and walk order"},
+    {"Open", Flag, "not yet turned into a transaction"},
+    {"Vendor", Text, "customer"},
+    {"VendorAddress", Text, "address block"},
+    {"PONumber", Text, "document number"},
+    {"Memo", Text, "memo"},
+    {"Date", Date, "document date"},
+    {"Total", Money, "total of the lines"},
+    {"TakenBy", Long, "TransNum of what it was turned into"},
 };
 constexpr IndexDef PSlips_indexes[] = {{"Index", "Index"}};
 
@@ -380,6 +386,7 @@ constexpr FieldDef Estimates_fields[] = {
     {"Memo", Text, "memo"},
     {"Date", Date, "document date"},
     {"Total", Money, "total of the lines"},
+    {"TakenBy", Long, "TransNum of what it was turned into"},
 };
 constexpr IndexDef Estimates_indexes[] = {{"Index", "Index"}};
 

@@ -175,6 +175,70 @@ void Take_Back(Database& db, int64_t TransNum) {
   for (int64_t document : documents) Settle(db, document);
 }
 
+// --- what must stay true -------------------------------------------------------------------------
+
+namespace {
+
+[[noreturn]] void Refuse(const std::string& why) { throw store::Error(settlement_broken, why); }
+
+/// What a transaction takes out of a category: credits less debits.
+Money Taken(Database& db, int64_t TransNum, std::string_view Account) {
+  return Money::from_units(db.value("SELECT SUM(IFNULL(Credit, 0) - IFNULL(Debit, 0)) + 0 FROM Transactions WHERE"
+                                    " TransNum = ? AND Account = ?",
+                                    {TransNum, Account})
+                               .integer());
+}
+
+std::string Type_Of(Database& db, int64_t TransNum) {
+  return db.value("SELECT Type FROM Transactions WHERE TransNum = ? LIMIT 1", {TransNum}).text();
+}
+
+std::string Customer_Of(Database& db, int64_t TransNum) {
+  return db.value("SELECT Name FROM Transactions WHERE TransNum = ? AND Account = 'AR1' LIMIT 1", {TransNum}).text();
+}
+
+void Require_Payment(Database& db, int64_t Payment) {
+  const std::vector<Application> by = Applied_By(db, Payment), held = Applied_To(db, Payment);
+  const Money amount = Taken(db, Payment, "AR1"), settled = Sum_Of(by);
+  const bool less = settled < amount && Unrecorded_Documents(db).empty();
+  if (!by.empty() && (settled > amount || less))
+    Refuse("This payment settles invoices for " + settled.to_text() + ". Change its amount in the payments window.");
+  if (!held.empty() && -Taken(db, Payment, "UF1") != Sum_Of(held))
+    Refuse("This payment lies in a deposit, transaction " + std::to_string(held.front().TransNum) +
+           ". Delete that deposit first.");
+}
+
+void Require_Deposit(Database& db, int64_t Deposit) {
+  Money held;
+  for (const Application& each : Applied_By(db, Deposit))
+    if (Type_Of(db, each.TransNum) == "Payment") held += each.Amount;
+  if (!held.is_zero() && Taken(db, Deposit, "UF1") != held)
+    Refuse("This deposit holds payments of " + held.to_text() +
+           ". What it takes out of Undeposited Funds stays; to take a payment out of it, delete the deposit.");
+}
+
+/// A payment and what it settles are of one customer.
+void Require_One_Customer(Database& db, int64_t one, const std::vector<Application>& others) {
+  const std::string name = Customer_Of(db, one);
+  for (const Application& other : others)
+    if (const std::string theirs = Customer_Of(db, other.TransNum); !theirs.empty() && !name.empty() && theirs != name)
+      Refuse("Transaction " + std::to_string(other.TransNum) + " of " + theirs +
+             " and this one settle each other. The customer stays.");
+}
+
+}  // namespace
+
+void Require_Settled(Database& db, int64_t TransNum) {
+  const std::vector<Application> by = Applied_By(db, TransNum), to = Applied_To(db, TransNum);
+  if (by.empty() && to.empty()) return;
+  if (Type_Of(db, TransNum) == "Payment")
+    Require_Payment(db, TransNum);
+  else
+    Require_Deposit(db, TransNum);
+  Require_One_Customer(db, TransNum, by);
+  Require_One_Customer(db, TransNum, to);
+}
+
 // --- documents of before -------------------------------------------------------------------------
 
 namespace {

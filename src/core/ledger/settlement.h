@@ -26,6 +26,12 @@ void Apply(store::Database& db, int64_t Payment, int64_t Document, Money Amount)
 /// of payment, each followed by ";"; AmountReceived of what customers owe, each row its share. For rows just written.
 void Settle(store::Database& db, int64_t Document);
 
+/// What must stay true of what is settled, whatever window writes: a customer's payment settles documents of that
+/// customer for its own amount; a deposit takes out of Undeposited Funds what its payments come to. Error
+/// `settlement_broken` says which document stands against it.
+void Require_Settled(store::Database& db, int64_t TransNum);
+inline constexpr int settlement_broken = 3352;
+
 /// What is deleted settles nothing any more, and nothing settles it: its documents are open again by what it had paid.
 /// Delete_Transaction does this for everybody.
 void Take_Back(store::Database& db, int64_t TransNum);

@@ -7,6 +7,7 @@
 #include "core/ledger/marks.h"
 #include "core/ledger/pay_period.h"
 #include "core/ledger/settlement.h"
+#include "core/ledger/taken_papers.h"
 #include "core/store/sql.h"
 
 namespace tallymere {
@@ -137,6 +138,7 @@ void Transaction_Writer::add(LedgerRow row) {
 
 void Transaction_Writer::commit() {
   if (!Applied_To(db_, head_.TransNum).empty()) Settle(db_, head_.TransNum);
+  Require_Settled(db_, head_.TransNum);
   Probe written = Probe::Of(db_, head_.TransNum);
   tx_.commit();
   written_ = std::move(written);
@@ -156,6 +158,7 @@ int64_t Delete_Transaction(Session& session, int64_t TransNum) {
   int64_t rows = db.value("SELECT COUNT(*) FROM Transactions WHERE TransNum = ?", {TransNum}).integer();
   Unpay_Period(db, TransNum);
   Take_Back(db, TransNum);
+  Give_Papers_Back(db, TransNum);
   Note_TransNum(db, TransNum);
   Delete_Rows(db, TransNum);
   tx.commit();
@@ -191,6 +194,8 @@ std::optional<Conflict> Conflict_Of(const store::Error& error) {
           true};
     case store::errors::no_such_category:
       return Conflict{{error.description(), "Invalid Category", Icon::Information}, false};
+    case settlement_broken:
+      return Conflict{{error.description(), "Payment Applied", Icon::Information}, false};
     case store::errors::locked:
       return Conflict{{error.description() + " Try Again later.", "", Icon::None}, false};
     default:

@@ -7,8 +7,10 @@
 #include "core/company/preferences.h"
 #include "core/values/format.h"
 #include "entry/document/ItemGrid.h"
+#include "entry/document/PickForm.h"
 #include "lists/small_lists.h"
 #include "shell/drop_downs.h"
+#include "shell/frmSpell.h"
 #include "shell/list_combo.h"
 #include "shell/widgets/AddressEdit.h"
 #include "shell/widgets/QuillbrookDatePick.h"
@@ -83,8 +85,9 @@ Invoice frmInvoice::read() const {
 
 bool frmInvoice::settle() {
   for (ListCombo* combo : {txtTerms, txtRep, txtShipVia, txtClass, cmbMessage}) combo->settle();
+  const size_t taken = document_.taken.size();
   cmbCustomer_CloseUp();
-  return true;
+  return document_.taken.size() <= taken;  // what was just taken up is to be seen before it is saved
 }
 
 /// What was seen and not changed is not written again.
@@ -117,7 +120,25 @@ void frmInvoice::cmbCustomer_CloseUp() {
   const Addresses known = Customer_Addresses(session, name);
   txtBillto->set_text(known.Billing);
   txtShipTo->set_text(known.Shipping);
-  if (!name.empty() && !Check_New_Payee(session, name)) shell.Ask_Window({.window = "frmNewPayee", .key = name});
+  if (!name.empty() && !Check_New_Payee(session, name))
+    shell.Ask_Window({.window = "frmNewPayee", .key = name, .parent = "Customers"});
+  document_.taken.clear();
+  if (!document_.is_new()) return;
+  offer(Estimate_Paper, "frmOpenEst", "This Vendor has Open Estimates. Would you like to enter them in now?");
+  offer(Slip_Paper, "frmOpenSlips", "This Vendor has Open Package Slips. Would you like to enter them in now?");
+}
+
+/// What waits for this customer can be taken up. It is closed when the invoice is saved.
+void frmInvoice::offer(const SalePaper& paper, const char* window, const char* question) {
+  const std::string name = cmbCustomer->text();
+  if (Open_Papers(session, paper, name).empty()) return;
+  if (!session.prompts.ask({question, "Open POs", Icon::Question})) return;
+  for (const int64_t Index : Ask_Numbers(shell, {.window = window, .key = name}).value_or(std::vector<int64_t>())) {
+    document_.taken.push_back({&paper, Index});
+    for (const ItemLine& line : Paper_Lines(session, sale_items_, paper, Index))
+      lines_->set_line(lines_->grid->rows(), line);
+  }
+  reckon();
 }
 
 void frmInvoice::chosen(int row, const ItemFacts& item) {
@@ -169,6 +190,23 @@ void frmInvoice::cmdPrint_AfterClick() {
   const bool letter = Preference(*session.dbCompany, preference::PrintInvoice) == "Letterhead";
   shell.Show_Window(
       {.window = letter ? "frmPrintInvoiceLetter" : "frmPrintInvoice", .key = {}, .number = document_.TransNum});
+}
+
+/// The descriptions of the lines, one after the other.
+void frmInvoice::cmdSpell_Click() {
+  lines_->settle();
+  if (!Dictionary(session))
+    return session.prompts.box(
+        {"Microsoft Word is not installed on this machine. Please install Microsoft Word 2000 or "
+         "later and Spell Check again.",
+         "", Icon::Information});
+  const int column = lines_->column(Field::Description);
+  std::vector<std::string> texts;
+  for (int row = 0; row < lines_->grid->rows(); ++row) texts.push_back(lines_->grid->text(row, column));
+  const bool completed = Check_Spelling(shell, texts);
+  for (int row = 0; row < lines_->grid->rows(); ++row)
+    lines_->grid->set_text(row, column, texts[static_cast<size_t>(row)]);
+  if (completed) session.prompts.box({"Spell check is completed.", "Tallymere", Icon::Information});
 }
 
 void frmInvoice::cmdRepeat_Click() {

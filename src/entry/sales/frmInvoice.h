@@ -48,6 +48,7 @@ class frmInvoice : public DocumentForm<Invoice> {
   // --- while it is filled in
   void cmbType_Click();
   void cmbCustomer_CloseUp();
+  void offer(const SalePaper& paper, const char* window, const char* question);
   void chosen(int row, const ItemFacts& item);
   void SSDBGrid1_AfterColUpdate(int row, int column);
   void SSDBGrid1_MouseUp();
@@ -58,6 +59,7 @@ class frmInvoice : public DocumentForm<Invoice> {
   void cmdDelete_Click();
   void cmdPrint_AfterClick();
   void cmdRepeat_Click();
+  void cmdSpell_Click();
 
   DropDowns* lists_;
   SaleItems sale_items_;
@@ -71,7 +73,7 @@ class frmInvoice : public DocumentForm<Invoice> {
   QuillbrookDatePick *dteInvDate, *dteShip;
   ListCombo *txtTerms, *txtRep, *txtShipVia, *txtClass, *cmbMessage;
   QLabel* lblTotal;
-  QPushButton *cmdDelete, *cmdRepeat, *cmdPrint;
+  QPushButton *cmdDelete, *cmdRepeat, *cmdPrint, *cmdSpell;
 };
 
 }  // namespace tallymere

@@ -102,7 +102,7 @@ QWidget* frmInvoice::build_sheet() {
   grid->setVerticalSpacing(theme::gap / 2);
   grid->addWidget(captioned("Bill &To", cmbCustomer), 0, 0);
   grid->addWidget(captioned("Addr&ess", txtBillto), 1, 0, 2, 1);
-  grid->addWidget(captioned("Ship Addre&ss", txtShipTo), 1, 1, 2, 1);
+  grid->addWidget(captioned("S&hip Address", txtShipTo), 1, 1, 2, 1);
   auto* style = row_layout();
   style->addWidget(captioned("In&voice Style:", cmbType));
   style->addWidget(captioned("C&lass", txtClass), 1);
@@ -131,6 +131,7 @@ void frmInvoice::build() {
   cmdPrint = leads_to(named("cmdPrint", new QPushButton(QStringLiteral("&Print Invoice"))), "frmPrintInvoice");
   cmdDelete = named("cmdDelete", new QPushButton(QStringLiteral("&Delete Invoice")));
   cmdRepeat = leads_to(named("cmdRepeat", new QPushButton(QStringLiteral("&Repeat Invoice"))), "frmModRepeat");
+  cmdSpell = named("cmdSpell", new QPushButton(QStringLiteral("&Spell Check")));
   auto* foot = row_layout();
   foot->addWidget(label_for(cmbMessage, QStringLiteral("Customer Messa&ge")));
   foot->addWidget(cmbMessage, 1);
@@ -143,7 +144,7 @@ void frmInvoice::build() {
   all->addLayout(foot);
   auto* column = column_layout(this);
   column->addWidget(new ScrollRoom(all), 1);
-  column->addLayout(button_row({cmdPrint, cmdDelete, cmdRepeat}, {cmdPrev, cmdNext, cmdSaveNew, cmdOk}));
+  column->addLayout(button_row({cmdPrint, cmdDelete, cmdRepeat, cmdSpell}, {cmdPrev, cmdNext, cmdSaveNew, cmdOk}));
   lines_->grid->setMinimumHeight(16 * theme::unit);
   setMinimumWidth(90 * theme::unit);
 }
@@ -153,7 +154,7 @@ void frmInvoice::order_tabs() {
   QWidget* const order[] = {cmbCustomer, txtBillto,  txtShipTo, txtNumber,  dteInvDate, dteShip,
                             txtTerms,    txtPOnum,   txtRep,    txtShipVia, txtFOB,     lines_->grid,
                             cmbMessage,  cmdSaveNew, cmdOk,     cmdPrev,    cmdNext,    cmdPrint,
-                            cmdDelete,   cmdRepeat,  cmbType,   txtClass};
+                            cmdDelete,   cmdRepeat,  cmbType,   txtClass,   cmdSpell};
   for (size_t i = 1; i < std::size(order); ++i) setTabOrder(order[i - 1], order[i]);
 }
 
@@ -172,6 +173,7 @@ void frmInvoice::connect_controls() {
   on(cmdPrint, "cmdPrint_AfterClick", [this] { cmdPrint_AfterClick(); });
   on(cmdDelete, "cmdDelete_Click", [this] { cmdDelete_Click(); });
   on(cmdRepeat, "cmdRepeat_Click", [this] { cmdRepeat_Click(); });
+  on(cmdSpell, "cmdSpell_Click", [this] { cmdSpell_Click(); });
 }
 
 }  // namespace tallymere

@@ -5,6 +5,7 @@
 #include "core/company/preferences.h"
 #include "core/ledger/ledger.h"
 #include "core/ledger/stored_row.h"
+#include "core/ledger/taken_papers.h"
 #include "core/store/recordset.h"
 #include "entry/document/next_number.h"
 #include "entry/sales/inventory_posting.h"
@@ -253,6 +254,8 @@ class Invoice_Rows {
       row.Qty = line.Quantity ? std::optional(0 - *line.Quantity) : std::nullopt;
     if (!kept || line.Cost || (kept->SalePrice && !kept->SalePrice->is_zero()))
       row.SalePrice = line.Cost.value_or(Money());
+    const std::optional<double> exact = kept ? kept->ExactRate : Line_Rate(line, items_.of(line.Item)).ExactRate;
+    row.ExactRate = Rate_Of(line.Cost, exact).ExactRate;  // unless another rate was typed
     row.Taxable = line.Tax;
     return row;
   }
@@ -291,7 +294,18 @@ void Warn_Of_No_Value(Session& session, SaleItems& items, const std::vector<Item
       session.prompts.box({"WARNING! Item \"" + line.Item + "\" does not have a value!", "No Value", Icon::Critical});
 }
 
-void Write_Invoice(Session& session, Invoice& invoice) {
+/// A paper that another user took meanwhile must not be billed twice.
+std::optional<Fault> Taken_Meanwhile(Session& session, const Invoice& invoice) {
+  for (const TakenPaper& taken : invoice.taken) {
+    const auto open = Open_Papers(session, *taken.paper, invoice.Name);
+    if (std::ranges::find(open, taken.Index, &OpenPaper::Index) == open.end())
+      return Mistake("Another user has taken up one of the papers of this invoice. Please begin it anew.",
+                     "Data has changed", "SSDBGrid1");
+  }
+  return std::nullopt;
+}
+
+std::optional<Fault> Write_Invoice(Session& session, Invoice& invoice) {
   Invoice_Rows rows_of(session, invoice);
   Transaction_Writer rows(session,
                           {.TransNum = invoice.TransNum,
@@ -301,12 +315,17 @@ void Write_Invoice(Session& session, Invoice& invoice) {
                            .Name = invoice.Name,
                            .Address = rows_of.Address()},
                           invoice.probe);
+  if (auto fault = Taken_Meanwhile(session, invoice)) return fault;
+  for (const TakenPaper& taken : invoice.taken)
+    Take_Paper(*session.dbCompany, taken.paper->table, taken.Index, rows.number());
   rows.add(rows_of.head());
   for (const ItemLine& line : invoice.lines)
     for (const LedgerRow& row : rows_of.line(line)) rows.add(row);
   rows.commit();
   invoice.TransNum = rows.number();
   invoice.probe = rows.probe();
+  invoice.taken.clear();
+  return std::nullopt;
 }
 
 }  // namespace
@@ -321,8 +340,10 @@ SaveResult Enter_Invoice(Session& session, Invoice& invoice) {
   std::erase_if(invoice.lines, Is_Blank);
   invoice.Total = Total_Of(items, invoice.lines);
   Warn_Of_No_Value(session, items, invoice.lines);
-  auto conflict = Save_Or_Conflict([&] { Write_Invoice(session, invoice); });
-  return {.conflict = conflict, .written = !conflict};
+  SaveResult result;
+  result.conflict = Save_Or_Conflict([&] { result.fault = Write_Invoice(session, invoice); });
+  result.written = result.ok();
+  return result;
 }
 
 // --- deleting ------------------------------------------------------------------------------------

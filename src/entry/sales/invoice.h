@@ -7,10 +7,17 @@
 
 #include "entry/document/deletion.h"
 #include "entry/document/lines.h"
+#include "entry/sales/open_papers.h"
 #include "entry/sales/sale_lines.h"
 
 /// Invoices: what customers owe.
 namespace tallymere {
+
+/// An estimate or a package slip whose lines are in the invoice.
+struct TakenPaper {
+  const SalePaper* paper;
+  int64_t Index;
+};
 
 /// What frmInvoice shows.
 struct Invoice {
@@ -32,6 +39,8 @@ struct Invoice {
   Money Total = {};
   std::vector<ItemLine> lines = {};
   bool Paid = false;  ///< any row is
+
+  std::vector<TakenPaper> taken = {};  ///< it closes them when it is saved
 
   KeptRow kept = {};                                     ///< the row in receivables as it was loaded
   std::map<KeptRow, std::vector<LedgerRow>> parts = {};  ///< the three rows of a part, by the first as its line kept it

@@ -49,8 +49,11 @@ void Reckon_Lines(SaleItems& items, std::vector<ItemLine>& lines) {
     const std::string& type = items.type(line.Item);
     if (type == "Subtotal") line.Amount = sum;
     if (type == "Sales Tax")
-      line.Amount = (taxable.times(line.Cost.value_or(Money()).to_double()) + half_cent_nudge).rounded_to_cents();
-    if (Is_Percent(type, line)) line.Amount = -sum.times(line.Cost->abs().to_double()).rounded_to_cents();
+      line.Amount = (taxable.times(Line_Rate(line, items.of(line.Item)).factor()) + half_cent_nudge).rounded_to_cents();
+    if (Is_Percent(type, line)) {
+      const Money part = Line_Rate(line, items.of(line.Item)).of(sum);
+      line.Amount = line.Cost->is_negative() ? part : -part;
+    }
     if (type != "Subtotal") sum += line.Amount.value_or(Money());
     if (line.Tax && type != "Sales Tax" && type != "Subtotal") taxable += line.Amount.value_or(Money());
   }

@@ -219,6 +219,33 @@ TEST(Deposits, VerifyFollowsTheMoney) {
   EXPECT_EQ(faults(), "");
 }
 
+/// A register, or any other window, cannot write over what was settled.
+TEST(Deposits, WhatIsSettledHoldsAgainstEveryWriter) {
+  Till till;
+  const int64_t invoice = till.invoice("Jones", Date(2026, 5, 1), Dollars(150));
+  const int64_t jones = till.saved(till.payment("Jones", Dollars(150)));
+  Deposit deposit = till.deposit({jones});
+  ASSERT_TRUE(Enter_Deposit_Form(*till.session, deposit).written);
+  const auto rewritten = [&](int64_t number, const char* type, const char* from, const char* to, Money amount,
+                             const char* name) {
+    return Save_Or_Conflict([&] {
+      Transaction_Writer rows(*till.session, {.TransNum = number, .Type = type, .Date = Date(2026, 6, 1), .Name = name},
+                              Probe::Of(till.db(), number));
+      rows.add({.Account = from, .Category = to, .Credit = amount, .Amount = amount});
+      rows.add({.Account = to, .Category = from, .Debit = amount, .Amount = amount});
+      rows.commit();
+    });
+  };
+  EXPECT_TRUE(rewritten(deposit.TransNum, "Ledger Entry", "UF1", "0SS", Dollars(140), ""));
+  EXPECT_TRUE(rewritten(deposit.TransNum, "Ledger Entry", "40SS", "0SS", Dollars(150), ""));
+  EXPECT_TRUE(rewritten(jones, "Payment", "AR1", "UF1", Dollars(140), "Jones"));
+  EXPECT_TRUE(rewritten(jones, "Payment", "AR1", "0SS", Dollars(150), "Jones"));
+  EXPECT_TRUE(rewritten(invoice, "Invoice", "29SS", "AR1", Dollars(150), "Smith"));
+  EXPECT_FALSE(rewritten(deposit.TransNum, "Ledger Entry", "UF1", "1SS", Dollars(150), "")) << "another bank";
+  EXPECT_FALSE(rewritten(invoice, "Invoice", "29SS", "AR1", Dollars(200), "Jones"));
+  EXPECT_EQ(till.settled(invoice).substr(0, 14), "200|150|False|") << "and 50 of it is open again";
+}
+
 TEST(Deposits, AreAllOrNothing) {
   Till till;
   till.invoice("Jones", Date(2026, 5, 1), Dollars(150));

@@ -94,6 +94,20 @@ TEST(SaleLines, SubtotalsTaxesAndDiscountsSeeAllLinesAboveThem) {
   }
 }
 
+TEST(SaleLines, ARateOfManyDecimalsTaxesExactlyNowAndAtEveryLaterEdit) {
+  Shop shop;
+  shop.run("UPDATE Items SET PriceRate = ?, ExactRate = 0.06875 WHERE ItemName = 'Tax'", {Money::from_units(688)});
+  const int64_t number = shop.saved(
+      {{.Item = "Bolt", .Quantity = 1, .Amount = Dollars(1000), .Tax = true, .CatID = "3SS"}, shop.line("Tax")});
+  shop.run("UPDATE Items SET PriceRate = ?, ExactRate = NULL WHERE ItemName = 'Tax'", {Money::from_units(700)});
+  Invoice again = *Load_Invoice(*shop.session, number);
+  EXPECT_EQ(Amounts(again.lines), "Bolt=1000 Tax=68.75 ");
+  again.lines[0].Amount = Dollars(2000);
+  SaleItems items(*shop.session);
+  Reckon_Lines(items, again.lines);
+  EXPECT_EQ(Amounts(again.lines), "Bolt=2000 Tax=137.5 ") << "at the rate of its day";
+}
+
 TEST(SaleLines, AGroupAddsItsMembersWithTheirPricesTaxAndCategories) {
   Shop shop;
   SaleItems items(*shop.session);
@@ -248,6 +262,35 @@ TEST(Invoices, TwoUsersNeverMergeAndTypedAddressesStay) {
   ASSERT_TRUE(result.conflict);
   EXPECT_TRUE(result.conflict->reload);
   EXPECT_EQ(Rows_Of(shop.db(), first.TransNum, "Memo"), "theirs\ntheirs\n");
+}
+
+TEST(Invoices, APaperIsTakenOnceAndGivenBackWhenItsInvoiceGoes) {
+  Shop shop;
+  Session& session = *shop.session;
+  shop.run("INSERT INTO PSlips (\"Index\", Open, Vendor, PONumber, Total) VALUES (3, True, 'Jones', 'S3', ?)",
+           {Dollars(12)});
+  shop.run(
+      "INSERT INTO PSlipItems (POIndex, Item, Description, Qty, Rate, Amount) VALUES (3, 'Bolt', 'Long bolt', 2, ?, ?)",
+      {Dollars(6), Dollars(12)});
+  ASSERT_EQ(Open_Papers(session, Slip_Paper, "Jones").size(), 1u);
+  EXPECT_TRUE(Open_Papers(session, Slip_Paper, "").empty());
+  SaleItems items(session);
+  const std::vector<ItemLine> lines = Paper_Lines(session, items, Slip_Paper, 3);
+  ASSERT_EQ(Amounts(lines), "Bolt=12 ");
+  EXPECT_EQ(lines[0].CatID, "3SS") << "a part posts to its asset";
+  EXPECT_TRUE(lines[0].Tax);
+  Invoice mine = shop.invoice(lines), theirs = shop.invoice(lines);
+  mine.taken = theirs.taken = {{&Slip_Paper, 3}};
+  EXPECT_EQ(Open_Papers(session, Slip_Paper, "Jones").size(), 1u) << "pulled and not saved: open";
+  ASSERT_TRUE(Enter_Invoice(session, theirs).written);
+  EXPECT_TRUE(Open_Papers(session, Slip_Paper, "Jones").empty());
+  const int64_t rows = shop.count();
+  EXPECT_TRUE(Enter_Invoice(session, mine).fault);
+  EXPECT_EQ(shop.count(), rows);
+  ASSERT_TRUE(Enter_Invoice(session, theirs).written) << "saved again from the same window";
+  Delete_Transaction(session, theirs.TransNum);
+  EXPECT_EQ(Open_Papers(session, Slip_Paper, "Jones").size(), 1u);
+  EXPECT_TRUE(Enter_Invoice(session, mine).written);
 }
 
 TEST(Invoices, DeletingAPaidOneAsksTwice) {

@@ -92,11 +92,38 @@ equal([ledger(2).length, ledger(3).length, ledger(3)[0].Address], [1, 4, "Elsewh
 // A customer nobody knows is asked about.
 menu("mnuInvoices");
 w = win("frmInvoice");
-modal("frmNewPayee", function (m) { option(m.optType, 0); click(m.cmdOk); });
+modal("frmNewPayee", function (m) { click(m.cmdOk); });
 type(w.cmbCustomer, "Smith");
 equal(rows("SELECT Name FROM Customers WHERE Name = 'Smith'").length, 1);
 box("Save Changes", null, "No");
 close(w);
+
+// An estimate is pulled in; pulled and cancelled it stays open, saved it is closed, the invoice deleted it is open again.
+insert("Estimates", {Index: 1, Open: true, Customer: "Jones", EstimateNumber: "E1", Total: 45});
+insert("EstItems", {EstimateIndex: 1, Item: "Bolt", Description: "Bolts", Qty: 9, Rate: 5, Amount: 45});
+const isTaken = function () { return rows("SELECT Open FROM Estimates")[0].Open === false; };
+for (const keep of [false, true]) {
+  menu("mnuInvoices");
+  w = win("frmInvoice");
+  box("Open POs", "This Vendor has Open Estimates. Would you like to enter them in now?", "Yes");
+  modal("frmOpenEst", function (m) { equal(m.grdOpen.text(0, "Number"), "E1"); click(m.cmdOk); });
+  type(w.cmbCustomer, "Jones");
+  equal([w.SSDBGrid1.text(0, "Quantity"), w.lblTotal.value, isTaken()], ["9", "$45.00", false]);
+  if (keep) {
+    click(w.cmdOk);
+  } else {
+    box("Save Changes", null, "No");
+    close(w);
+  }
+  equal(isTaken(), keep);
+}
+menu("mnuInvoices");
+w = win("frmInvoice");
+click(w.cmdPrev);
+box("Confirm Delete", null, "Yes");
+click(w.cmdDelete);
+equal(isTaken(), false);
+click(w.cmdOk);
 
 menu("mnuInvoices");
 w = win("frmInvoice");
