@@ -2,11 +2,11 @@
 
 #include "core/company/preferences.h"
 #include "core/company/schema.h"
+#include "core/ledger/bill_faults.h"
 #include "core/ledger/settlement.h"
 #include "core/names/name_faults.h"
 #include "core/store/sql.h"
 #include "core/values/text.h"
-#include "core/ledger/bill_faults.h"
 
 namespace tallymere {
 namespace {
@@ -209,8 +209,8 @@ Findings Payments_Come_To_What_They_Settle(Database& db) {
   for (std::string& fault :
        Examples(db,
                 "SELECT DISTINCT a.Payment, p.Name, a.Document, d.Name FROM Applied AS a JOIN Transactions AS p ON"
-                " p.TransNum = a.Payment AND p.Account = 'AR1' AND p.Type = 'Payment' JOIN Transactions AS d ON"
-                " d.TransNum = a.Document AND d.Account = 'AR1' WHERE p.Name <> d.Name",
+                " p.TransNum = a.Payment AND +p.Account = 'AR1' AND p.Type = 'Payment' JOIN Transactions AS d ON"
+                " d.TransNum = a.Document AND +d.Account = 'AR1' WHERE p.Name <> d.Name",
                 [](const Row& row) {
                   return "Payment " + Text(row, 0) + " of " + Text(row, 1) + " settles " + Text(row, 2) + " of " +
                          Text(row, 3);
