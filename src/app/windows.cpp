@@ -40,6 +40,9 @@
 #include "payroll/frmTimeSheet.h"
 #include "payroll/items/frmModPayItem.h"
 #include "payroll/items/frmPayrollItems.h"
+#include "printing/PrintedForm.h"
+#include "printing/frmLayouts.h"
+#include "printing/frmPrintChecks.h"
 #include "reports/aging/frmPrintAging.h"
 #include "reports/budget/frmBudget.h"
 #include "reports/frame/AheadForm.h"
@@ -139,6 +142,14 @@ const WindowTable& Windows() {
       {"frmColors", Make_Window<frmColors>},
       {"frmPrefrences", Make_Window<frmPrefrences>},
       {"frmColorPicker", Make_Window<frmColorPicker>},
+      {"frmPrintChecks", Make_Window<frmPrintChecks>},
+      {"frmPrintCheck", Make_Document<"frmPrintCheck">},
+      {"frmPrintInvoice", Make_Document<"frmPrintInvoice">},
+      {"frmPrintInvoiceLetter", Make_Document<"frmPrintInvoiceLetter">},
+      {"frmPrintStatement", Make_Document<"frmPrintStatement">},
+      {"frmPrintPO", Make_Document<"frmPrintPO">},
+      {"frmPrintSlip", Make_Document<"frmPrintSlip">},
+      {"frmLayouts", Make_Window<frmLayouts>},
   };
   return windows;
 }

@@ -4,6 +4,7 @@
 #include <QImage>
 #include <QSvgRenderer>
 
+#include "printing/bank_line_paint.h"
 #include "printing/fitted_text_paint.h"
 
 namespace tallymere {
@@ -146,7 +147,10 @@ void Layout_Pages::paint_texts(QPainter& painter, const Sheet& sheet, const std:
       content = QStringLiteral("Page %1 of %2").arg(sheet.number).arg(sheet.of);
     else if (!filled.contains(text.id))
       content = text.caption;
-    Paint_Fitted(painter, text, content);
+    if (text.id == QLatin1String("BankLine"))
+      Paint_Bank_Line(painter, text.at, content);
+    else
+      Paint_Fitted(painter, text, content);
   }
 }
 

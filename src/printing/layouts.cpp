@@ -11,7 +11,7 @@ constexpr std::string_view check_fills =
     "Number Number2 Number3 Face AddressOne1 AddressOne2 City1 City2 SSNum1 SSNum2 SickHours1 SickHours2 VacHours1 "
     "VacHours2 CompanyName1 CompanyName2 CompanyAddress1 CompanyAddress2 CompanyCity1 CompanyCity2 PayPeriod1 "
     "PayPeriod2 TotalHours1 TotalHours2 TotalEarnings1 TotalEarnings2 TotalDeductions1 TotalDeductions2 Continued "
-    "Memo2 Memo3 YTDEarnings1 YTDEarnings2 YTDDeductions1 YTDDeductions2";
+    "Memo2 Memo3 BlankStock BankLine BankName PayerName PayerAddress YTDEarnings1 YTDEarnings2 YTDDeductions1 YTDDeductions2";
 
 constexpr std::string_view invoice_needs =
     "BillingAddress Number Date Total Detail Detail.room Item Description Qty Rate Amount";
@@ -28,7 +28,7 @@ constexpr LayoutDef defs[] = {
     {"crpInvoiceLetter", "Invoices on letterhead", invoice_needs, invoice_fills},
     {"crpStatement", "Statements",
      "Name Address BillingAddress Date Total Detail Detail.room InvoiceDate Number Amount Received Balance",
-     "Logo DueDate Terms Page"},
+     "Logo DueDate Terms Charges ChargesField Due Page"},
     {"crpPO", "Purchase orders and estimates",
      "Title Name Address Party PartyAddress Number Date Total Detail Detail.room Item Description Qty Rate Amount",
      "Logo PartyCaption Memo Page"},

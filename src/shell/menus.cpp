@@ -20,6 +20,7 @@ constexpr MenuRow menu_rows[] = {
     {"mnuFile", "L99", Separator},
     {"mnuFile", "mnuPrint", "&Print"},
     {"mnuPrint", "mnuPrintChecks", "Print Checks", "frmPrintChecks"},
+    {"mnuPrint", "mnuLayouts", "&Layouts...", "frmLayouts"},
     {"mnuFile", "linExit", Separator},
     {"mnuFile", "mnuExit", "E&xit", "", "", "Ctrl+Q"},
 

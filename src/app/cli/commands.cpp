@@ -46,6 +46,9 @@ constexpr Command commands[] = {
      "a report of the company's books; without a key, the keys there are", Report},
     {"form", "form [KEY --company FILE --year Y [--quarter N] [--out FILE.pdf|FILE.csv]]",
      "a tax form as the company's books make it; without a key, the forms there are", Form},
+    {"print",
+     "print KIND --company FILE --number N --out FILE.pdf  (or --key N; for statement, --name CUSTOMER or all who owe)",
+     "a check, invoice, statement, po, estimate or slip as it is printed", Print},
     {"layout", "layout [NAME]",
      "puts the drawing of a printed layout into the program folder's layouts, to be changed with any drawing program;"
      " without a name, the layouts there are",

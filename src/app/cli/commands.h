@@ -46,6 +46,7 @@ int History(Arguments& arguments);
 int Undo(Arguments& arguments);
 int Report(Arguments& arguments);
 int Form(Arguments& arguments);
+int Print(Arguments& arguments);
 int Write_Out(Arguments& arguments);
 int Paycheck_Cases(Arguments& arguments);
 int Tax_Tables(Arguments& arguments);

@@ -3,6 +3,7 @@
 #include "app/windows.h"
 #include "core/company/company.h"
 #include "shell/frmMain.h"
+#include "shell/widgets/ask_printer.h"
 
 namespace tallymere::drive {
 
@@ -16,10 +17,20 @@ class Desktop_Program : public Program {
   std::unique_ptr<frmMain> frame_;
 };
 
+/// The print dialog as a script answers it: file("Printer", "out.pdf"), or null to cancel.
+bool Print_To_File(Session& session, QPrinter& printer) {
+  const std::string file = session.prompts.save_file("Printer", "");
+  if (file.empty()) return false;
+  printer.setOutputFormat(QPrinter::PdfFormat);
+  printer.setOutputFileName(QString::fromStdString(file));
+  return true;
+}
+
 }  // namespace
 
 std::unique_ptr<Program> Launch(Session& session) {
   Main(session);
+  Answer_For_Printer([&session](QPrinter& printer) { return Print_To_File(session, printer); });
   return std::make_unique<Desktop_Program>(session);
 }
 

@@ -209,8 +209,7 @@ void frmCheck::cmdDelete_Click() { show_deleted(Delete_Check(session, document_)
 void frmCheck::cmdPrint_Click() {
   if (!save()) return;
   if (const auto fault = Cannot_Print(read())) return show_fault(*fault);
-  session.prompts.box(
-      {"This check is saved. Printing checks is not part of this version yet.", "Print Check", Icon::Information});
+  shell.Ask_Window({.window = "frmPrintCheck", .key = {}, .number = document_.TransNum});
   load_again();
 }
 

@@ -94,7 +94,7 @@ QSize frmPreview::sizeHint() const {
 
 QWidget* frmPreview::build_bar() {
   auto* bar = new QWidget;
-  auto* row = row_layout();
+  auto* row = bar_ = row_layout();
   bar->setLayout(row);
   const auto button = [&](const char* name, const char* caption) {
     auto* made = named(name, new QPushButton(QLatin1String(caption)));
@@ -120,6 +120,8 @@ QWidget* frmPreview::build_bar() {
   cmdPrint->setDefault(true);
   return bar;
 }
+
+void frmPreview::add_button(QPushButton* button) { bar_->insertWidget(bar_->indexOf(cmdPDF) + 1, button); }
 
 void frmPreview::connect_controls() {
   on(cmdPrint, "cmdPrint_AfterClick", [this] { cmdPrint_AfterClick(); });
@@ -216,10 +218,13 @@ void frmPreview::cmdPrint_AfterClick() {
 void frmPreview::cmdPDF_AfterClick() {
   if (!pages_) return;
   const std::string file = session.prompts.save_file("PDF Files (*.pdf)|*.pdf", utf8(title_) + ".pdf");
-  if (file.empty()) return;
+  if (!file.empty()) save_pdf(file);
+}
+
+void frmPreview::save_pdf(const std::filesystem::path& file) {
   const Hourglass hourglass(session.prompts);
   ProgressBar bar(session.prompts, "Save PDF");
-  if (Write_Pdf(*pages_, file, title_, Told_By(bar))) shell.say("Saved as " + file + ".");
+  if (pages_ && Write_Pdf(*pages_, file, title_, Told_By(bar))) shell.say("Saved as " + file.string() + ".");
 }
 
 }  // namespace tallymere

@@ -5,6 +5,7 @@
 #include "shell/widgets/Form.h"
 #include "shell/widgets/printed_pages.h"
 
+class QHBoxLayout;
 class QLabel;
 class QPushButton;
 class QPrinter;
@@ -46,6 +47,8 @@ class frmPreview : public Form {
   frmPreview(Shell& shell_of_frame, const char* name);
   /// `turns`: whether the pages may be laid out on a sheet turned round.
   void show_pages(const QString& title, Lay_Out lay_out, const QPageLayout& page, bool turns);
+  void add_button(QPushButton* button);  ///< beside those that print and save
+  void save_pdf(const std::filesystem::path& file);
   /// How far the pages are moved on this printer, in twips.
   virtual QPointF offset_on(const QPrinter&) const { return {}; }
   /// The pages went to the printer.
@@ -71,6 +74,7 @@ class frmPreview : public Form {
   Lay_Out lay_out_;
   std::unique_ptr<Pages> pages_;
   int page_ = 0;
+  QHBoxLayout* bar_ = nullptr;
   PreviewSheet* sheet_;
   QScrollArea* scroll_;
   QLabel* lblPage;

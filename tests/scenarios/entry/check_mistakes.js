@@ -75,7 +75,7 @@ click(w.cmdPrint);
 ok(w.txtNumber.focused, "on the number");
 equal(ledger(1).length, 2);
 type(w.txtNumber, "7");
-box("Print Check", null);
+modal("frmPrintCheck", function (preview) { click(preview.cmdClose); });
 click(w.cmdPrint);
 equal(ledger(1)[0].Number, "7");
 
