@@ -43,6 +43,8 @@
 #include "printing/PrintedForm.h"
 #include "printing/frmLayouts.h"
 #include "printing/frmPrintChecks.h"
+#include "printing/frmStatement.h"
+#include "printing/frmStatements.h"
 #include "reports/aging/frmPrintAging.h"
 #include "reports/budget/frmBudget.h"
 #include "reports/frame/AheadForm.h"
@@ -150,6 +152,8 @@ const WindowTable& Windows() {
       {"frmPrintPO", Make_Document<"frmPrintPO">},
       {"frmPrintSlip", Make_Document<"frmPrintSlip">},
       {"frmLayouts", Make_Window<frmLayouts>},
+      {"frmStatement", Make_Window<frmStatement>},
+      {"frmStatements", Make_Window<frmStatements>},
   };
   return windows;
 }

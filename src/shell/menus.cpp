@@ -196,6 +196,7 @@ constexpr ContextRow context_rows[] = {
     {"mnuCustomers", "mnuEditCus", "Edit Customer"},
     {"mnuCustomers", "mnuDeleteCus", "Delete Customer"},
     {"mnuCustomers", "mnuCreateStatement", "Create Statement"},
+    {"mnuCustomers", "mnuCreateStatements", "Create Statements for All"},
     {"mnuVendors", "mnuNewVen", "New Vendor"},
     {"mnuVendors", "mnuEditVen", "Edit Vendor"},
     {"mnuVendors", "mnuDeleteVen", "Delete Vendor"},

@@ -85,12 +85,13 @@ struct NameList {
   std::string table;
   std::string sums;  ///< SQL: name, sum
 };
-const NameList customers{
-    "Customers",
-    "SELECT Customers.Name, SUM(CASE WHEN IFNULL(Debit, 0) = 0 THEN -IFNULL(Credit, 0) ELSE Debit END)"
-    " FROM (SELECT DISTINCT Name FROM Customers WHERE Dormant = False) AS Customers"
-    " CROSS JOIN Transactions ON Transactions.Name = Customers.Name"
-    " WHERE Account = 'AR1' AND Type IN ('Invoice', 'Statement', 'Payment', 'Check') GROUP BY Customers.Name"};
+const std::string owed_sum = "SUM(CASE WHEN IFNULL(Debit, 0) = 0 THEN -IFNULL(Credit, 0) ELSE Debit END)";
+const std::string owed_rows = "Account = 'AR1' AND Type IN ('Invoice', 'Statement', 'Payment', 'Check')";
+const NameList customers{"Customers",
+                         "SELECT Customers.Name, " + owed_sum +
+                             " FROM (SELECT DISTINCT Name FROM Customers WHERE Dormant = False) AS Customers"
+                             " CROSS JOIN Transactions ON Transactions.Name = Customers.Name WHERE " +
+                             owed_rows + " GROUP BY Customers.Name"};
 const NameList vendors{"Vendors",
                        "SELECT Name, SUM(IFNULL(Credit, 0) - IFNULL(Debit, 0)"
                        " - IFNULL((SELECT SUM(Applied.Amount) FROM Applied WHERE Document = TransNum), 0))"
@@ -206,6 +207,13 @@ void Fix_Accounts(Session& session) {
 
 void Update_Customers(Session& session) { Update_Names(session, customers); }
 void Update_Vendors(Session& session) { Update_Names(session, vendors); }
+
+Money Customer_Balance(Session& session, const std::string& name) {
+  Money balance;
+  session.dbCompany->each("SELECT " + owed_sum + " FROM Transactions WHERE Name = ? AND " + owed_rows, {name},
+                          [&](const store::Row& row) { balance = row.money(0); });
+  return balance;
+}
 
 // --- holding them against the ledger -------------------------------------------------------------
 

@@ -25,6 +25,8 @@ void Fix_Accounts(Session& session);
 
 /// Balance of each customer in use: invoices and statements less payments, 0 without any.
 void Update_Customers(Session& session);
+/// The same for one customer, read from the ledger as it stands now; nothing is written.
+Money Customer_Balance(Session& session, const std::string& name);
 
 /// Balance of each vendor in use: its unpaid bills less what was paid on them, 0 without any.
 void Update_Vendors(Session& session);

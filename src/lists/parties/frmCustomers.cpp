@@ -61,6 +61,7 @@ void frmCustomers::chosen(const std::string& item) {
   if (item == "mnuEditCus") edit_row("frmModCustomer", Customer_Rows, name());
   if (item == "mnuDeleteCus") mnuDeleteCus_Click();
   if (item == "mnuCreateStatement") shell.Show_Window({.window = "frmStatement", .key = name()});
+  if (item == "mnuCreateStatements") shell.Show_Window({.window = "frmStatements", .key = {}});
 }
 
 void frmCustomers::mnuDeleteCus_Click() {
