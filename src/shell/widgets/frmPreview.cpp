@@ -15,6 +15,16 @@ namespace tallymere {
 
 namespace {
 
+/// As wide as its word, so that the bar fits the smallest screen.
+class TurningButton : public QPushButton {
+ public:
+  using QPushButton::QPushButton;
+  QSize sizeHint() const override {
+    return {fontMetrics().horizontalAdvance(text()) + 3 * theme::unit, QPushButton::sizeHint().height()};
+  }
+  QSize minimumSizeHint() const override { return sizeHint(); }
+};
+
 constexpr int around = 2 * theme::unit;  ///< blank around the sheet
 
 }  // namespace
@@ -96,24 +106,27 @@ QWidget* frmPreview::build_bar() {
   auto* bar = new QWidget;
   auto* row = bar_ = row_layout();
   bar->setLayout(row);
-  const auto button = [&](const char* name, const char* caption) {
-    auto* made = named(name, new QPushButton(QLatin1String(caption)));
-    row->addWidget(made);
+  const auto put = [&](const char* name, QPushButton* made) {
+    row->addWidget(named(name, made));
     return made;
+  };
+  const auto button = [&](const char* name, const char* caption) {
+    return put(name, new QPushButton(QLatin1String(caption)));
+  };
+  const auto turning = [&](const char* name, const char* caption) {
+    return put(name, new TurningButton(QLatin1String(caption)));
   };
   cmdPrint = button("cmdPrint", "&Print...");
   cmdPDF = button("cmdPDF", "&Save PDF...");
   row->addStretch(1);
-  cmdFirst = button("cmdFirst", "&First");
-  cmdPrevious = button("cmdPrevious", "Pre&vious");
+  cmdFirst = turning("cmdFirst", "&First");
+  cmdPrevious = turning("cmdPrevious", "Pre&vious");
   row->addWidget(lblPage = named("lblPage", new QLabel));
-  cmdNext = button("cmdNext", "&Next");
-  cmdLast = button("cmdLast", "&Last");
+  cmdNext = turning("cmdNext", "&Next");
+  cmdLast = turning("cmdLast", "&Last");
   row->addStretch(1);
   cmdLandscape = button("cmdLandscape", "Lan&dscape");
   cmdWidth = button("cmdWidth", "Page &Width");
-  for (QPushButton* turning : {cmdFirst, cmdPrevious, cmdNext, cmdLast})  // the bar fits the smallest screen
-    turning->setFixedWidth(turning->fontMetrics().horizontalAdvance(turning->text()) + 3 * theme::unit);
   cmdLandscape->setCheckable(true);
   cmdWidth->setCheckable(true);
   cmdClose = button("cmdClose", "&Close");
