@@ -1,5 +1,5 @@
+#include "entry/sales/invoice.h"
 #include "core/company/preferences.h"
-#include "core/store/recordset.h"
 #include "core/values/format.h"
 #include "printing/check_layout.h"
 #include "printing/company_head.h"
@@ -10,128 +10,101 @@ namespace tallymere {
 namespace {
 
 constexpr std::string_view dollars = "$0.00";
-constexpr const char* extra_row = "Inventory Part";  // SourceName of an inventory line's second and third row
 
-struct InvoiceKind {
-  std::string style;   ///< "Professional", "Product", "Service"
+/// How an invoice looks: its style, and the paper the company prints on.
+struct Look {
   std::string layout;  ///< "crpInvoice"
   bool boxes = true;
 };
 
-InvoiceKind Kind_Of(Session& session, store::Recordset& head, bool letter) {
+Look Look_Of(Session& session, bool letter) {
   const std::string state = Preference(*session.dbCompany, preference::PrintInvoice);
-  return {head["SourceName"].text(),
-          letter                  ? "crpInvoiceLetter"
-          : state == "PrePrinted" ? "crpInvoicePre"
-                                  : "crpInvoice",
-          state != "BlankNoBox"};
-}
-
-/// The receivable row, the first of an invoice.
-store::Recordset Head_Of(Session& session, int64_t TransNum) {
-  return session.dbCompany->OpenRecordset(
-      "SELECT * FROM Transactions WHERE TransNum = ? AND Type = 'Invoice' AND Account = 'AR1' AND "
-      "Item = '' ORDER BY RowKey",
-      {TransNum});
+  return {letter ? "crpInvoiceLetter" : state == "PrePrinted" ? "crpInvoicePre" : "crpInvoice", state != "BlankNoBox"};
 }
 
 /// What stands in the head besides number and date, and the styles that have it.
 struct HeadField {
-  const char* field;
+  const char* name;
+  std::string (*text)(const Invoice&);
   bool service;  ///< also on a "Service" invoice; "Product" has all
   bool professional;
 };
-constexpr HeadField head_fields[] = {{"PONum", true, false},     {"Terms", true, true}, {"Rep", false, false},
-                                     {"ShipDate", false, false}, {"Via", false, false}, {"FOB", false, false}};
+constexpr HeadField head_fields[] = {
+    {"PONum", [](const Invoice& invoice) { return invoice.PONum; }, true, false},
+    {"Terms", [](const Invoice& invoice) { return invoice.Terms; }, true, true},
+    {"Rep", [](const Invoice& invoice) { return invoice.Rep; }, false, false},
+    {"ShipDate", [](const Invoice& invoice) { return invoice.ShipDate ? invoice.ShipDate->to_text() : ""; }, false,
+     false},
+    {"Via", [](const Invoice& invoice) { return invoice.Via; }, false, false},
+    {"FOB", [](const Invoice& invoice) { return invoice.FOB; }, false, false},
+};
 
-void Fill_Head_Fields(Layout& invoice, store::Recordset& head, const InvoiceKind& kind) {
+void Fill_Head_Fields(Layout& paper, const Invoice& invoice, const Look& look) {
   for (const HeadField& field : head_fields) {
-    const bool shown = kind.style == "Service"        ? field.service
-                       : kind.style == "Professional" ? field.professional
-                                                      : true;
-    const std::string name = field.field;
-    invoice.SetText(name, head[name].text());
-    if (!shown || (name == "ShipDate" && !kind.boxes)) invoice.Suppress(name + "Field");
-    if (!kind.boxes) invoice.Suppress(name + "Frame");
+    const bool shown = invoice.Style == "Service"        ? field.service
+                       : invoice.Style == "Professional" ? field.professional
+                                                         : true;
+    const std::string name = field.name;
+    paper.SetText(name, field.text(invoice));
+    if (!shown || (name == "ShipDate" && !look.boxes)) paper.Suppress(name + "Field");
+    if (!look.boxes) paper.Suppress(name + "Frame");
   }
-  if (kind.style != "Product") invoice.Suppress("ShipToField");
-  invoice.SetText("ShippingAddress", kind.style == "Product" ? head["ShippingAddress"].text() : "");
-  if (!kind.boxes) invoice.Suppress("Boxes");
+  if (!look.boxes) paper.Suppress("Boxes");
+  paper.SetText("BillingAddress", invoice.Billto.empty() ? invoice.Name : invoice.Billto);
+  const bool ships = invoice.Style == "Product";
+  paper.SetText("ShippingAddress", ships ? invoice.ShipTo : "");
+  if (!ships) paper.Suppress("ShipToField");
 }
 
-std::string Address_Of(Session& session, const std::string& customer, const char* field) {
-  return session.dbCompany->value("SELECT " + std::string(field) + " FROM Customers WHERE Name = ?", {customer}).text();
+void Fill_Amounts(Layout& paper, Money total, Money received) {
+  paper.SetText("Total", Format(total, dollars));
+  paper.SetText("Received", Format(received, dollars));
+  paper.SetText("Balance", Format(total - received, dollars));
 }
 
-/// The rows keep one address; the customer's own stand where a row has none.
-void Fill_Addresses(Session& session, Layout& invoice, store::Recordset& head, const InvoiceKind& kind) {
-  const std::string customer = head["Name"].text();
-  std::string billing = head["Address"].text();
-  if (billing.empty()) billing = Address_Of(session, customer, "BillingAddress");
-  invoice.SetText("BillingAddress", billing.empty() ? customer : billing);
-  if (kind.style == "Product" && head["ShippingAddress"].blank())
-    invoice.SetText("ShippingAddress", Address_Of(session, customer, "ShippingAddress"));
+std::string Rate_Text(const std::optional<Money>& rate, const std::string& ItemType) {
+  if (!rate || rate->is_zero()) return "";
+  const bool part = ItemType == "Sales Tax" || (ItemType == "Discount" && rate->abs() < Money::dollars(1));
+  return part ? rate->times(100).to_text() + "%" : Format(*rate, price_mask);
 }
 
-void Fill_Amounts(Layout& invoice, store::Recordset& head) {
-  const Money credit = head["Credit"].money();
-  const Money total = credit.is_zero() ? head["Amount"].money() : credit;
-  const Money received = head["AmountReceived"].money();
-  invoice.SetText("Total", Format(total, dollars));
-  invoice.SetText("Received", Format(received, dollars));
-  invoice.SetText("Balance", Format(total - received, dollars));
-}
-
-std::string Rate_Text(store::Recordset& row, const std::string& ItemType) {
-  if (row["SalePrice"].money().is_zero()) return "";
-  return ItemType == "Sales Tax" ? row["SalePrice"].money().times(100).to_text() + "%"
-                                 : Format(row["SalePrice"].money(), price_mask);
-}
-
-std::string Quantity_Text(double sold) { return sold == 0 ? "" : Number_Text(sold); }
-
-/// A row's amount as it adds to the invoice's total: one on the head's own side takes away.
-Money Line_Amount(store::Recordset& row, bool head_is_debit) {
-  const Money credit = row["Credit"].money(), debit = row["Debit"].money();
-  return head_is_debit ? credit - debit : debit - credit;
-}
-
-void Add_Lines(Session& session, Layout& invoice, int64_t TransNum, bool all_rows, bool head_is_debit) {
-  Money sum;
-  auto rows = session.dbCompany->OpenRecordset(
-      "SELECT * FROM Transactions WHERE TransNum = ? AND Item <> '' ORDER BY RowKey", {TransNum});
-  for (; !rows.Eof(); rows.MoveNext()) {
-    const bool extra = rows["SourceName"].text() == extra_row;
-    if (extra && !all_rows) continue;
-    const std::string type =
-        session.dbCompany->value("SELECT ItemType FROM Items WHERE ItemName = ?", {rows["Item"].text()}).text();
-    const Money amount = Line_Amount(rows, head_is_debit);
-    if (!extra) sum += amount;
-    invoice.add_detail({{"Item", rows["Item"].text()},
-                        {"Description", rows["ItemDescription"].text()},
-                        {"Qty", Quantity_Text(-rows["Qty"].number())},
-                        {"Rate", Rate_Text(rows, type)},
-                        {"Amount", Money_Text(type == "Subtotal" ? sum : amount)}});
+/// `back`: a credit memo, whose lines take away from what is owed and are printed as what is given back. A group only
+/// says what the lines below it are. On letterhead each of the three rows of a part makes a line.
+void Add_Lines(Session& session, Layout& paper, const Invoice& invoice, bool letter, bool back) {
+  SaleItems items(session);
+  for (const ItemLine& line : invoice.lines) {
+    const std::string type = items.type(line.Item);
+    const Money amount = line.Amount.value_or(Money());
+    const bool says_nothing = type == "Group" && amount.is_zero();
+    const Layout::Row row = {{"Item", line.Item},
+                             {"Description", line.Description},
+                             {"Qty", line.Quantity ? Number_Text(*line.Quantity) : ""},
+                             {"Rate", Rate_Text(line.Cost, type)},
+                             {"Amount", says_nothing ? "" : Money_Text(back ? -amount : amount)}};
+    const auto part = invoice.parts.find(line.kept);
+    const size_t rows = letter && part != invoice.parts.end() ? part->second.size() : 1;
+    for (size_t copy = 0; copy < rows; ++copy) paper.add_detail(row);
   }
 }
 
 PrintedDocument Fill_Invoice(Session& session, int64_t TransNum, bool letter) {
   const store::Snapshot moment(*session.dbCompany);
-  auto head = Head_Of(session, TransNum);
-  if (!head.has_row()) return {};
-  const InvoiceKind kind = Kind_Of(session, head, letter);
-  const bool debit = head["Credit"].money().is_zero();
-  Layout invoice(kind.layout);
-  const std::string title = debit ? "Invoice" : "Credit Memo";
-  invoice.SetText("Title", title);
-  Fill_Company_Head(session, invoice, "CompanyName", "CompanyAddress");
-  for (const char* field : {"Number", "Date"}) invoice.SetText(field, head[field].text());
-  Fill_Head_Fields(invoice, head, kind);
-  Fill_Addresses(session, invoice, head, kind);
-  Fill_Amounts(invoice, head);
-  invoice.SetText("Message", head["Memo"].text());
-  Add_Lines(session, invoice, TransNum, letter, debit);
-  return {title + " " + head["Number"].text(), {invoice}};
+  const auto invoice = Load_Invoice(session, TransNum);
+  if (!invoice || !invoice->kept) return {};
+  const LedgerRow& head = *invoice->kept;
+  const Look look = Look_Of(session, letter);
+  const bool back = !head.Credit.is_zero();
+  const std::string title = back ? "Credit Memo" : "Invoice";
+  Layout paper(look.layout);
+  paper.SetText("Title", title);
+  Fill_Company_Head(session, paper, "CompanyName", "CompanyAddress");
+  paper.SetText("Number", invoice->Number);
+  paper.SetText("Date", invoice->Date.to_text());
+  Fill_Head_Fields(paper, *invoice, look);
+  Fill_Amounts(paper, back ? head.Credit : head.Amount.value_or(Money()), head.AmountReceived.value_or(Money()));
+  paper.SetText("Message", invoice->Message);
+  Add_Lines(session, paper, *invoice, letter, back);
+  return {title + " " + invoice->Number, {paper}};
 }
 
 }  // namespace

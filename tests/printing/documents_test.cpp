@@ -2,6 +2,7 @@
 
 #include <fstream>
 
+#include "entry/sales/invoice.h"
 #include "support/entry_company.h"
 #include "support/pdf_text.h"
 
@@ -110,6 +111,29 @@ TEST_F(PrintedPapers, AnInvoicesLinesAddUpToItsTotalAndShowWhatWasSold) {
   EXPECT_EQ(lines(letter),
             "Work|4|5.00|20.00\nBolt|2|5.00|10.00\nBolt|2|5.00|10.00\nBolt|2|5.00|10.00\nSub||5.00|30.00\n"
             "Rebate|1|5.00|-3.00\nSub||5.00|27.00\nTax||6.5%|1.95\n");
+}
+
+/// A part is posted at what it cost; what is printed is what it is sold for.
+TEST_F(PrintedPapers, WhatAPartCostIsNeverOnTheInvoice) {
+  company.run(
+      "UPDATE Items SET ItemCat = '66SS', COGScat = '66SS', InvAsset = '3SS', PriceRate = ?, Cost = ? WHERE ItemName = 'Bolt'",
+      {D(5), D(2)});
+  company.run("INSERT INTO Items (ItemName, ItemType, Description) VALUES ('Kit', 'Group', 'All you need')");
+  for (const char* rule : {"Cost", "Sale"}) {
+    set("InventoryPosting", rule);
+    for (const double sold : {4.0, -4.0}) {
+      Invoice made = New_Invoice(session);
+      made.Name = "Ann Oak";
+      made.lines = {{.Item = "Kit"}, Chosen_Line(Item_Facts(session, "Bolt"), {.Quantity = sold})};
+      made.lines[1].Amount = D(sold > 0 ? 20 : -20);
+      ASSERT_TRUE(Enter_Invoice(session, made).written);
+      const Layout paper = Print_Invoice(session, made.TransNum).layouts.at(0);
+      EXPECT_EQ(paper.text("Title"), sold > 0 ? "Invoice" : "Credit Memo");
+      EXPECT_EQ(lines(paper), sold > 0 ? "Kit|||\nBolt|4|5.00|20.00\n" : "Kit|||\nBolt|-4|5.00|20.00\n") << rule;
+      EXPECT_EQ(paper.text("Total"), "$20.00");
+      EXPECT_EQ(Print_Invoice_Letter(session, made.TransNum).layouts.at(0).details().size(), 4u);
+    }
+  }
 }
 
 TEST_F(PrintedPapers, ACreditMemoPrintsWhatItGivesBack) {
