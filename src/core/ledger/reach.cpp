@@ -20,7 +20,7 @@ struct Row {
 
 /// The registers write checks, deposits and entries of their own; Receive Items enters bills, Pay Sales Tax checks.
 constexpr std::array types = {
-    Row{"Check", "mnuChecks"},       Row{"Check", "mnuAccounts"},         Row{"Check", "mnuPaySalesTax"},
+    Row{"Check", "mnuChecks"},       Row{"Check", "mnuAccounts"},         Row{"Liabilitycheck", "mnuPaySalesTax"},
     Row{"Billcheck", "mnuPayBill"},  Row{"Deposit", "mnuDepositFunds"},   Row{"Payment", "mnuPayments"},
     Row{"Invoice", "mnuInvoices"},   Row{"Statement", "mnuInvoices"},     Row{"Finanace Charge", "mnuInvoices"},
     Row{"Bill", "mnuBill"},          Row{"Bill", "mnuInventory"},         Row{"Credit", "mnuBill"},

@@ -104,6 +104,9 @@ TEST_F(Gate, AUserWritesWhatHisCommandsLeadTo) {
   EXPECT_FALSE(refused([&] { company.run("UPDATE Transactions SET Paid = ? WHERE Type = 'Invoice'", {true}); }));
   EXPECT_TRUE(refused([&] { company.run("UPDATE Transactions SET Amount = 1 WHERE Type = 'Invoice'"); }));
   EXPECT_TRUE(refused([&] { company.run("DELETE FROM Transactions WHERE Type = 'Invoice'"); }));
+  EXPECT_TRUE(refused([&] { post(session, day, "Liabilitycheck"); }));
+  company.run("UPDATE Users SET Inventory = ? WHERE UserName = 'Ann'", {true});
+  EXPECT_FALSE(refused([&] { post(session, day, "Liabilitycheck"); })) << "sales tax is paid so";
   company.run("UPDATE Users SET BankCC = ? WHERE UserName = 'Ann'", {false});
   EXPECT_TRUE(refused([&] { post(session, day, "Check"); })) << "switched off acts at once";
 }
