@@ -326,6 +326,7 @@ constexpr FieldDef RepeatTrans_fields[] = {
     {"Amount", Money, "total when the repeat was made"},
     {"Frequency", Text, "how often"},
     {"NextDate", Date, "date of the next clone"},
+    {"AnchorDay", Integer, "day of the month that was chosen: after 2/28 comes 3/31"},
     {"AdvDays", Integer, "days ahead of NextDate that the clone is made"},
     {"NumRemain", Integer, "clones left; null for no limit"},
 };

@@ -3,6 +3,7 @@
 #include "core/company/preferences.h"
 #include "core/company/schema.h"
 #include "core/ledger/bill_faults.h"
+#include "core/ledger/paper_faults.h"
 #include "core/ledger/settlement.h"
 #include "core/names/name_faults.h"
 #include "core/store/sql.h"
@@ -257,7 +258,8 @@ constexpr Check checks[] = {{"file", File_Is_Sound},
                             {"payments", Payments_Exist},
                             {"payments", Payments_Come_To_What_They_Settle},
                             {"held", Deposits_Come_To_What_They_Hold},
-                            {"names", Name_Faults}};
+                            {"names", Name_Faults},
+                            {"papers", Paper_Faults}};
 
 }  // namespace
 
