@@ -9,12 +9,17 @@
 #include "entry/stock/frmInvAdjust.h"
 #include "entry/checks/frmCheck.h"
 #include "entry/find/frmFind.h"
+#include "entry/papers/frmOpenPOs.h"
+#include "entry/papers/frmPaper.h"
 #include "entry/receipts/frmDeposits.h"
 #include "entry/receipts/frmOpenPayments.h"
 #include "entry/receipts/frmPayments.h"
 #include "entry/register/frmRegister.h"
 #include "entry/sales/frmInvoice.h"
 #include "entry/sales/frmOpenEst.h"
+#include "entry/repeats/frmModRepeat.h"
+#include "entry/repeats/frmRepeats.h"
+#include "entry/repeats/repeat.h"
 #include "forms/frmCreate941.h"
 #include "import/frmImportQB.h"
 #include "lists/frmAccounts.h"
@@ -90,6 +95,12 @@ const WindowTable& Windows() {
       {"frmModCustomer", Make_Window<frmModCustomer>},
       {"frmModVendor", Make_Window<frmModVendor>},
       {"frmVendors", Make_Window<frmVendors>},
+      {"frmEstimate", Make_Window<frmEstimate>},
+      {"frmPOs", Make_Window<frmPOs>},
+      {"frmPackageSlips", Make_Window<frmPackageSlips>},
+      {"frmOpenPOs", Make_Window<frmOpenPOs>},
+      {"frmRepeats", Make_Window<frmRepeats>},
+      {"frmModRepeat", Make_Window<frmModRepeat>},
       {"frmItems", Make_Window<frmItems>},
       {"frmModItems", Make_Window<frmModItems>},
       {"frmModAccount", Make_Window<frmModAccount>},
@@ -158,6 +169,14 @@ const WindowTable& Windows() {
   return windows;
 }
 
-std::unique_ptr<frmMain> Make_Frame(Session& session) { return std::make_unique<frmMain>(session, Windows()); }
+std::unique_ptr<frmMain> Make_Frame(Session& session) {
+  auto made = std::make_unique<frmMain>(session, Windows());
+  made->Check_Repeats = [&session, frame = made.get()] {
+    if (!Check_Repeats(session)) return;
+    frame->changed("Transactions");
+    frame->changed("RepeatTrans");
+  };
+  return made;
+}
 
 }  // namespace tallymere

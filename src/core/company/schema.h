@@ -63,7 +63,7 @@ struct Reference {
 };
 
 // Raised with every change of a table, field or index; stored in each file as its user_version.
-inline constexpr int schema_version = 7;
+inline constexpr int schema_version = 8;
 
 std::span<const TableDef> company_tables();   // Model.mdb and every company file
 std::span<const TableDef> accounts_tables();  // Accounts.mdb

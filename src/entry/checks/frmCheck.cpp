@@ -214,8 +214,7 @@ void frmCheck::cmdPrint_Click() {
 }
 
 void frmCheck::cmdRepeat_Click() {
-  shell.Show_Window(
-      {.window = "frmModRepeat", .key = "Check", .number = document_.TransNum, .parent = document_.BankID});
+  if (save()) shell.Ask_Window({.window = "frmModRepeat", .key = "Check", .number = document_.TransNum});
 }
 
 /// The window that wrote this check, with the number, bank and date as they stand here.

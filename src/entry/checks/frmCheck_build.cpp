@@ -157,7 +157,7 @@ void frmCheck::build() {
 
   cmdPrint = named("cmdPrint", new QPushButton(QStringLiteral("&Print Check")));
   cmdDelete = named("cmdDelete", new QPushButton(QStringLiteral("&Delete Check")));
-  cmdRepeat = leads_to(named("cmdRepeat", new QPushButton(QStringLiteral("&Repeat Check"))), "frmModRepeat");
+  cmdRepeat = leads_to(named("cmdRepeat", new QPushButton(QStringLiteral("Repea&t Check"))), "frmModRepeat");
   auto* sheet = column_layout();
   sheet->addLayout(bank);
   sheet->addWidget(build_check());

@@ -11,6 +11,7 @@ frmOpenPOs::frmOpenPOs(Shell& shell_of_frame)
                 {.name = QStringLiteral("Total"), .kind = Kind::money, .width = 16}},
                Picks::Several, QStringLiteral("There is no open purchase order.")) {
   setWindowTitle(QStringLiteral("Open Purchase Orders"));
+  grid_->setAccessibleName(windowTitle());
 }
 
 void frmOpenPOs::take(const Request& request) {

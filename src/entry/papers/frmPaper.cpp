@@ -73,6 +73,7 @@ void frmPaper::build_lines() {
                           {.name = QStringLiteral("Rate"), .kind = Kind::money, .width = 12},
                           {.name = QStringLiteral("Amount"), .kind = Kind::money, .width = 15}},
                          QStringLiteral("Choose the first item."));
+  grdPOItems->setAccessibleName(QStringLiteral("Lines"));
 }
 
 void frmPaper::build() {
@@ -234,7 +235,9 @@ void frmPaper::show_new() { show(New_Paper(session, table_.kind)); }
 
 void frmPaper::cmdPrint_Click() {
   if (save() && !paper_.is_new())
-    shell.Show_Window({.window = table_.print, .key = table_.header, .number = paper_.Index});
+    shell.Show_Window({.window = table_.print,
+                       .key = table_.kind == PaperKind::Estimate ? "Estimate" : "",
+                       .number = paper_.Index});
 }
 
 }  // namespace tallymere

@@ -68,7 +68,7 @@ TEST_P(Papers, EveryKindKeepsItsDocumentInItsTables) {
   edited.lines.pop_back();
   ASSERT_TRUE(Enter_PO(session, kind, edited).written);
   EXPECT_EQ(value(std::string("SELECT COUNT(*) FROM ") + table.lines), "2");
-  EXPECT_EQ(value(std::string("SELECT \"Open\" FROM ") + table.header + " WHERE \"Index\" = 1"), "0")
+  EXPECT_EQ(value(std::string("SELECT \"Open\" FROM ") + table.header + " WHERE \"Index\" = 1"), "False")
       << "closed it stays";
 }
 
