@@ -284,8 +284,23 @@ void Rewrite_Narrow(Session& session, Check& check) {
 
 }  // namespace
 
+namespace {
+
+/// What a person enters of a check.
+auto Content_Of(const Check& check) {
+  return std::tie(check.BankID, check.Date, check.Number, check.Name, check.Address, check.Memo, check.Amount,
+                  check.expenses, check.items);
+}
+
+bool Stands_So(Session& session, const Check& check) {
+  const auto stored = check.is_new() ? std::nullopt : Load_Check(session, check.TransNum);
+  return stored && Content_Of(*stored) == Content_Of(check);
+}
+
+}  // namespace
+
 SaveResult Enter_Check(Session& session, Check& check) {
-  if (check.Name.empty() && !check.Amount) return {};
+  if ((check.Name.empty() && !check.Amount) || Stands_So(session, check)) return {};
   if (!check.Amount) return {.fault = Mistake("Please enter an amount for this check.", "No Amount", "txtAmount")};
   if (!check.is_narrow()) {
     // A company without a default bank begins its checks without one.
