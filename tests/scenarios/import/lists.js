@@ -18,7 +18,7 @@ file(null, "lists.iif");
 click(w.SSDBCommand1);
 equal(w.lblPlan.value, "2 to add, 0 to change, 0 the same, 1 skipped, 1 lines of other kinds. Read as UTF-8.");
 equal([w.grdPlan.rows, w.grdPlan.text(1, "Name"), w.grdPlan.text(2, "Action")], [3, "Baker:Roof", "Skip"]);
-shot("import_lists.png");
+shot("import_lists");
 equal(rows("SELECT COUNT(*) AS n FROM Customers"), [{n: 0}], "only shown");
 
 menu("mnuCustomers");
@@ -29,7 +29,7 @@ click(w.cmdOk);
 ok(!isOpen("frmImportQB"));
 equal(rows("SELECT Name, ParentName, Phone FROM Customers ORDER BY Name"),
       [{Name: "Baker", ParentName: null, Phone: "555-1"}, {Name: "Roof", ParentName: "Baker", Phone: null}]);
-shot("import_customers.png");
+shot("import_customers");
 
 // A second time nothing is left to do.
 menu("mnuQuickBooks");
