@@ -26,7 +26,8 @@ void Add_Side(std::vector<PostedSide>& sides, const std::string& account, bool d
 }  // namespace
 
 PayrollPosting Posting_Rule(store::Database& company) {
-  return Preference(company, preference::PayrollPosting) == "Balanced" ? PayrollPosting::Balanced : PayrollPosting::Plain;
+  return Preference(company, preference::PayrollPosting) == "Balanced" ? PayrollPosting::Balanced
+                                                                       : PayrollPosting::Plain;
 }
 
 bool Is_Companys(PayrollPosting rule, const PayItem& item) {

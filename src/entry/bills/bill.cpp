@@ -105,6 +105,20 @@ bool Fill_From_Last_Bill(Session& session, Bill& bill) {
   return true;
 }
 
+void Take_Up_Orders(Session& session, Bill& bill, const std::vector<int64_t>& indexes) {
+  Drop_Blank_Lines(bill.expenses, bill.items);
+  for (const PaperLine& ordered : bill.pulled.add(session, indexes)) {
+    bill.items.push_back({.Item = ordered.Item,
+                          .Description = ordered.Description,
+                          .Quantity = ordered.Qty,
+                          .Cost = ordered.Rate,
+                          .Amount = ordered.Amount,
+                          .CatID = Item_Facts(session, ordered.Item).posts_to()});
+    bill.Amount = bill.Amount.value_or(Money()) + ordered.Amount.value_or(Money());
+    bill.Tab = LineTab::Items;
+  }
+}
+
 namespace {
 
 std::string Number_Notice(Session& session, const Bill& bill) {
@@ -233,7 +247,9 @@ void Write_Bill(Session& session, Bill& bill) {
   add(Payable_Row(session, bill));
   for (const ExpenseLine& line : bill.expenses) add(Expense_Row(session, line, accounts_payable, Line_Side(bill)));
   for (const ItemLine& line : bill.items) add(Bought_Row(line, Line_Side(bill)));
+  bill.pulled.close(session, rows.number(), bill.Name);
   rows.commit();
+  bill.pulled.clear();
   bill.TransNum = rows.number();
   bill.Type = Type_Of(bill);
   bill.probe = rows.probe();
@@ -251,6 +267,9 @@ SaveResult Enter_Bill(Session& session, Bill& bill) {
   Prepare_Lines(session, bill);
   if (auto fault = Lines_Fault(bill)) return {.fault = fault};
   if (auto fault = Settled_Fault(bill)) return {.fault = fault};
+  if (!bill.pulled.are_open(session, bill.Name))
+    return {.fault =
+                Mistake("Another user has taken up one of the purchase orders of this bill.", "Open POs", "cmbVendor")};
   if (bill.is_settled() && !session.prompts.ask(Settled_Box(bill, "change"), Buttons::YesNoDefaultNo))
     return {.declined = true};
   Drop_Blank_Lines(bill.expenses, bill.items);

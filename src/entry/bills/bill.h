@@ -6,6 +6,7 @@
 
 #include "entry/document/deletion.h"
 #include "entry/document/lines.h"
+#include "entry/papers/pulled_orders.h"
 
 /// What is owed to vendors: bills, the credits they give, and receipts of goods whose bill is still to come.
 namespace tallymere {
@@ -28,6 +29,7 @@ struct Bill {
   LineTab Tab = LineTab::Expenses;
   std::vector<ExpenseLine> expenses = {};
   std::vector<ItemLine> items = {};
+  PulledOrders pulled = {};  ///< purchase orders that it took up: saving it closes them
 
   KeptRow kept = {};  ///< the payable row as it was loaded
   Probe probe = {};
@@ -48,6 +50,9 @@ std::optional<Bill> Load_Bill(Session& session, int64_t TransNum);
 /// Gives a bill that is empty so far the lines and the amount of its vendor's last one. false: there is none, or
 /// something stands in this bill.
 bool Fill_From_Last_Bill(Session& session, Bill& bill);
+
+/// Adds the lines of purchase orders, and what they come to.
+void Take_Up_Orders(Session& session, Bill& bill, const std::vector<int64_t>& indexes);
 
 /// Whether two readings of a bill show the same.
 bool Same_Bill(const Bill& one, const Bill& other);

@@ -9,6 +9,7 @@
 
 #include "core/values/amount_in_words.h"
 #include "core/values/text.h"
+#include "entry/document/PickForm.h"
 #include "entry/document/TabbedGrid.h"
 #include "lists/terms.h"
 #include "shell/drop_downs.h"
@@ -127,16 +128,32 @@ void frmBills::show_notice() {
   lblNotice->setText(qt(Bill_Notice(session, typed)));
 }
 
-/// A vendor's new bill begins as its last one.
-void frmBills::cmbVendor_LostFocus() {
-  if (cmbVendor->text() == vendor_) return;
+/// A vendor's new bill begins with what was ordered, or as its last one. true: orders were taken up.
+bool frmBills::cmbVendor_LostFocus() {
+  if (cmbVendor->text() == vendor_) return false;
   vendor_ = cmbVendor->text();
   show_notice();
+  document_.pulled.clear();
+  if (!document_.is_new()) return false;
   Bill bill = read();
-  if (!document_.is_new() || !Fill_From_Last_Bill(session, bill)) return;
+  const bool ordered = take_up_orders(bill);
+  if (!ordered && !Fill_From_Last_Bill(session, bill)) return false;
+  document_.pulled = bill.pulled;
   txtAmount->set_amount(bill.Amount);
   amount_text_ = utf8(txtAmount->text());
   SSTab1->show_lines(bill);
+  return ordered;
+}
+
+/// What is on order from this vendor can be taken up. It is closed when the bill is saved.
+bool frmBills::take_up_orders(Bill& bill) {
+  if (vendor_.empty() || Open_Orders(session, vendor_).empty()) return false;
+  const Box question{"This Vendor has Open Purchase Orders. Would you like to enter them in now?", "Open POs",
+                     Icon::Question};
+  if (!session.prompts.ask(question)) return false;
+  Take_Up_Orders(session, bill,
+                 Ask_Numbers(shell, {.window = "frmOpenPOs", .key = vendor_}).value_or(std::vector<int64_t>()));
+  return true;
 }
 
 /// The due date follows the terms as they are left, once for each date.
@@ -163,9 +180,9 @@ bool frmBills::txtAmount_LostFocus() {
 
 bool frmBills::settle() {
   SSTab1->settle();
-  cmbVendor_LostFocus();
+  const bool ordered = cmbVendor_LostFocus();
   txtTerms->settle();
-  return txtAmount_LostFocus();
+  return txtAmount_LostFocus() && !ordered;  // what was just taken up is to be seen before it is saved
 }
 
 void frmBills::entered(const SaveResult& result) {

@@ -50,7 +50,8 @@ class frmBills : public DocumentForm<Bill> {
   void show_others_changes();
   void show_kind();
   void show_notice();
-  void cmbVendor_LostFocus();
+  bool cmbVendor_LostFocus();
+  bool take_up_orders(Bill& bill);
   void txtTerms_LostFocus();
   bool txtAmount_LostFocus();
 

@@ -235,9 +235,8 @@ void frmPaper::show_new() { show(New_Paper(session, table_.kind)); }
 
 void frmPaper::cmdPrint_Click() {
   if (save() && !paper_.is_new())
-    shell.Show_Window({.window = table_.print,
-                       .key = table_.kind == PaperKind::Estimate ? "Estimate" : "",
-                       .number = paper_.Index});
+    shell.Show_Window(
+        {.window = table_.print, .key = table_.kind == PaperKind::Estimate ? "Estimate" : "", .number = paper_.Index});
 }
 
 }  // namespace tallymere

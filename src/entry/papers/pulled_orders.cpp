@@ -30,6 +30,13 @@ std::vector<PaperLine> PulledOrders::add(Session& session, const std::vector<int
   return lines;
 }
 
+bool PulledOrders::are_open(Session& session, const std::string& vendor) const {
+  const auto open = Open_Orders(session, vendor);
+  return std::ranges::all_of(orders_, [&](const PaperDocument& order) {
+    return !same_text(order.Party, vendor) || std::ranges::find(open, order.Index, &OpenOrder::Index) != open.end();
+  });
+}
+
 void PulledOrders::close(Session& session, int64_t TransNum, const std::string& vendor) const {
   store::Database& db = *session.dbCompany;
   for (const PaperDocument& order : orders_) {

@@ -34,6 +34,8 @@ class PulledOrders {
   /// Closes them, inside the store transaction that saves the bill. An order of another vendor, because the bill's was
   /// changed since, stays open. Error 3197 when another user changed or took up one of them since add().
   void close(Session& session, int64_t TransNum, const std::string& vendor) const;
+  /// Whether all of this vendor's are open still.
+  bool are_open(Session& session, const std::string& vendor) const;
   void clear() { orders_.clear(); }
   bool empty() const { return orders_.empty(); }
 

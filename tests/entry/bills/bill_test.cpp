@@ -346,5 +346,28 @@ TEST(Bills, ANumberTheVendorUsedAndAVendorNobodyKnowsAreNoticed) {
   EXPECT_EQ(Bill_Notice(session, other), "Nobody is not in the list of vendors.");
 }
 
+TEST(Bills, OrdersItTakesUpCloseWithItAndOpenAgainWhenItGoes) {
+  EntryCompany company;
+  Session& session = *company.session;
+  company.run("INSERT INTO Items (ItemName, ItemType, InvAsset) VALUES ('Bolt', 'Inventory Part', '3SS')");
+  PaperDocument order = New_Paper(session, PaperKind::PO);
+  order.Party = "Acme Supply";
+  order.lines = {{.Item = "Bolt", .Qty = 5.0, .Rate = Dollars(2), .Amount = Dollars(10)}};
+  ASSERT_TRUE(Enter_PO(session, PaperKind::PO, order).written);
+  const auto open = [&] { return Open_Orders(session, "Acme Supply").size(); };
+  Bill mine = Simple_Bill(session), theirs = mine;
+  for (Bill* bill : {&mine, &theirs}) Take_Up_Orders(session, *bill, {order.Index});
+  EXPECT_EQ(mine.Amount, Dollars(35));
+  EXPECT_EQ(mine.items.at(0).CatID, "3SS");
+  EXPECT_EQ(open(), 1u) << "nothing is saved yet";
+  ASSERT_TRUE(Enter_Bill(session, mine).written);
+  EXPECT_EQ(open(), 0u);
+  const SaveResult late = Enter_Bill(session, theirs);
+  ASSERT_TRUE(late.fault) << "who took the same order a moment later is told";
+  EXPECT_EQ(late.fault->control, "cmbVendor");
+  Delete_Bill(session, *Load_Bill(session, mine.TransNum));
+  EXPECT_EQ(open(), 1u);
+}
+
 }  // namespace
 }  // namespace tallymere

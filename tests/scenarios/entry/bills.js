@@ -135,3 +135,21 @@ click(w.cmdOk);
 click(w.cmdCan);
 ok(!isOpen("frmBills"));
 equal([ledger(4), log()], [[], []]);
+
+// What is on order is offered with its vendor; leaving without saving closes no order, saving does.
+other("INSERT INTO POs (\"Index\", \"Open\", Vendor, PONumber, Date, Total) VALUES (?, ?, ?, ?, ?, ?)", 1, true,
+      "Acme Supply", "P9", "6/1/2026", "20");
+other("INSERT INTO POItems (POIndex, Item, Description, Qty, Rate, Amount) VALUES (?, ?, ?, ?, ?, ?)", 1, "Bolt",
+      "Steel bolt", 4, "5", "20");
+const open = function () { return rows("SELECT \"Open\" FROM POs")[0].Open; };
+for (const keep of [false, true]) {
+  menu("mnuBill");
+  w = win("frmBills");
+  box("Open POs", "This Vendor has Open Purchase Orders. Would you like to enter them in now?", "Yes");
+  modal("frmOpenPOs", function (m) { click(m.cmdOk); });
+  type(w.cmbVendor, "Acme Supply");
+  equal([w.SSTab1.value, w.grdItems.text(0, "Item"), w.txtAmount.value, open()], ["&Items", "Bolt", "20.00", true]);
+  if (!keep) click(w.cmdCan);
+  if (keep) click(w.cmdOk);
+  equal(open(), !keep);
+}
