@@ -158,10 +158,8 @@ void Write_Fields(ListRow& row, const EmployeeForm& form) {
 }
 
 void Write_Line(store::Recordset& row, const EmployeeGrid& grid, const EmployeeGridRow& line) {
-  const auto set = [&row](std::string_view field, const std::string& typed) {
-    if (row[field].text() == typed) return;
-    row[field] =
-        trim(typed).empty() ? store::Value() : store::Value(typed);  // no rate is another thing than an empty one
+  const auto set = [&](std::string_view field, const std::string& typed) {
+    if (line.key == 0 || row[field].text() != typed) row[field] = trim(typed);  // no rate would repeat the line before
   };
   set(grid.item, line.item);
   set(grid.rate, line.rate);

@@ -9,6 +9,7 @@
 #include "reports/inventory/inventory_reports.h"
 #include "reports/lists/list_reports.h"
 #include "reports/payroll/payroll_checkup.h"
+#include "reports/payroll/payroll_reports.h"
 #include "reports/profit/pl_by_name.h"
 #include "reports/profit/profit_and_loss.h"
 #include "reports/sales/sales_reports.h"
@@ -90,6 +91,11 @@ constexpr ReportDef reports[] = {
      Build_Stock_Value_Detail, no_basis, "", "", "Detail"},
     {"InvCount", "frmPrintInvCount", "mnuReportsInventory", "Inventory Count Worksheet", Dates::All,
      Build_Count_Worksheet},
+    {"PaySum", "frmPrintPayroll", "mnuRPayroll", "Payroll Summary", Dates::Year, Build_Payroll_Summary, no_basis, "",
+     "Hours,Avg Rate,TOTAL,", "Hours,Avg Rate,TOTAL,"},
+    {"EmpSum", "frmPrintPayrollEarnings", "mnuRPayroll", "Payroll Earnings", Dates::Year, Build_Payroll_Earnings},
+    {"PayLia", "frmPrintPayrollEarnings", "mnuRPayroll", "Liability Report", Dates::Year, Build_Payroll_Liabilities},
+    {"PayDetail", "frmPrintPayDetail", "mnuRPayroll", "Payroll Detail", Dates::Year, Build_Payroll_Detail},
     {"BudList", "frmPrintBudList", "mnuBudget", "Complete Budget Listing", Dates::Budget_Year, Build_Budget_List},
     {"BudCompare", "frmPrintBudCompare", "mnuBudget", "Budget vs. Actual", Dates::Budget_Year, Build_Budget_Compare},
     {"ListCus", "frmPrintListCus", "mnuReportLists", "Customer Contact Phone List", Dates::Today, Build_Customer_List},

@@ -71,7 +71,7 @@ TEST_F(Employees, ANewOneIsInEveryPayPeriodOpenedAndAnUntouchedOneIsNotWritten) 
   EXPECT_EQ(text("SELECT COUNT(*) FROM Employees WHERE ReleaseDate IS NULL AND SickDateStart IS NULL"), "1");
   EXPECT_EQ(text("SELECT GROUP_CONCAT(PayEndDate || Paid) FROM PayHistory WHERE Employee = 'Cy'"),
             "2026-05-15No,2026-05-29No");
-  EXPECT_EQ(text("SELECT COUNT(*) FROM EmployeeAdjustments WHERE SSNum = '111' AND AmountRate IS NULL"), "1");
+  EXPECT_EQ(text("SELECT COUNT(*) FROM EmployeeAdjustments WHERE SSNum = '111' AND AmountRate IS NOT NULL"), "2");
   company.run("UPDATE Employees SET HireDate = NULL, EICHold = NULL, AccurPayPeriodSick = -1");
   const std::string before = text("SELECT COUNT(*) FROM History");
   ASSERT_TRUE(edit("111", [](EmployeeForm&) {}).ok());
@@ -86,7 +86,7 @@ TEST_F(Employees, ANewOneIsInEveryPayPeriodOpenedAndAnUntouchedOneIsNotWritten) 
               }).ok());
   EXPECT_EQ(text("SELECT COUNT(*) FROM History"), std::to_string(std::stoi(before) + 1)) << "one save, one line";
   EXPECT_EQ(all("EmployeeEarnings", "Wage || Rate"), "Sick90000;");
-  EXPECT_EQ(all("EmployeeAdjustments", "Adjustment || COALESCE(AmountRate, '-')"), "401k-;Match4%;Bonus5;");
+  EXPECT_EQ(all("EmployeeAdjustments", "Adjustment || COALESCE(AmountRate, '-')"), "401k;Match4%;Bonus5;");
   EXPECT_EQ(text("SELECT COUNT(*) FROM PayHistory WHERE PayPeriod = 'Weekly'"), "2") << "of Cy alone";
   EXPECT_EQ(Make_Employee_List(session, false).size(), 0u);
   EXPECT_TRUE(Make_Employee_List(session, true).at(0).released);

@@ -108,9 +108,8 @@ void ReportForm::show_columns() {
   for (int at = 0; same && at < grdPL->columns(); ++at)
     same = grdPL->column(at).name == columns[static_cast<size_t>(at)].name &&
            grdPL->column(at).kind == columns[static_cast<size_t>(at)].kind;
-  if (same) return;
-  grdPL->set_columns(std::move(columns));
-  std::vector<GridGroup> groups;
+  if (!same) grdPL->set_columns(std::move(columns));
+  std::vector<GridGroup> groups;  // which may be others over the same columns
   for (const ReportGroup& group : table_.groups) groups.push_back({qt(group.caption), group.first, group.count});
   grdPL->set_groups(std::move(groups));
   grdPL->setAlternatingRowColors(table_.columns.size() > 4);
