@@ -1,5 +1,6 @@
 // What repeats is entered here, once for each opening of a company.
 #include "core/company/error_box.h"
+#include "core/ledger/gate.h"
 #include "core/ledger/stored_row.h"
 #include "core/ledger/transaction_writer.h"
 #include "core/values/text.h"
@@ -175,6 +176,7 @@ std::vector<Box> Run(Session& session, const Repeat& as_read) {
 }  // namespace
 
 bool Check_Repeats(Session& session) {
+  const Unattended program(session);  // what is due is due, whoever opens the company
   bool changed = false;
   for (const Repeat& repeat : Read_Repeats(*session.dbCompany)) {
     if (!repeat.is_due(session.today()) && !repeat.used_up()) continue;

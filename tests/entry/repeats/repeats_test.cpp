@@ -107,6 +107,16 @@ TEST_F(RepeatRuns, InvoicesAndChecksGetNewNumbersAndNothingIsPaidYet) {
       << "after the highest there is";
 }
 
+TEST_F(RepeatRuns, WhatIsDueIsEnteredWhoeverOpensTheCompany) {
+  transaction(7, "Invoice", "AR1", "Number = '9'");
+  repeat("Rent out", "Invoice", 7, "2026-06-10");
+  company.run("INSERT INTO Users (UserName) VALUES ('Ann')");
+  session.MultiUser = true;
+  session.CurrentUser = "Ann";
+  EXPECT_TRUE(Check_Repeats(session));
+  EXPECT_EQ(value("SELECT COUNT(DISTINCT TransNum) FROM Transactions WHERE Type = 'Invoice'"), "2");
+}
+
 TEST_F(RepeatRuns, AMissingTemplateIsNamedAndTheOthersGoOn) {
   transaction(1, "Check", "900SS", "Number = '1'");
   repeat("Gone", "Bill", 1, "2026-06-01");  // it is no bill
