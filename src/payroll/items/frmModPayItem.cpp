@@ -88,6 +88,7 @@ QWidget* frmModPayItem::build_frame(ItemType type, const char* name) {
   for (const PayItemField& field : PayItem_Fields())
     if (field.type == type) add_control(forms_[type], field);
   sides->addLayout(forms_[type], 3);
+  if (Tick_Grids_Of(type).empty()) return frame;
   auto* right = column_layout();
   for (const TickGrid& ticks : Tick_Grids_Of(type)) {
     auto* grid = named(ticks.control_new.data(), new SSDBGrid);
@@ -104,7 +105,7 @@ QWidget* frmModPayItem::build_frame(ItemType type, const char* name) {
     right->addWidget(grid, 1);
     grids_[type].push_back(grid);
   }
-  if (grids_.contains(type)) sides->addLayout(right, 2);
+  sides->addLayout(right, 2);
   return frame;
 }
 
