@@ -91,6 +91,8 @@ CategoryImport::Done CategoryImport::put(const IifRecord& record, bool release_2
   const std::string name = trim(colon == std::string::npos ? path : path.substr(colon + 1));
   const std::string parent = parent_path.empty() ? "" : find(parent_path);
   if (!parent_path.empty() && parent.empty()) return {ImportDid::Skipped, "there is no category " + parent_path};
+  if (!parent.empty() && !same_text(rows_.look_up("Accounts", {"CatID", parent}, "AccountType"), AccountType))
+    return {ImportDid::Skipped, "it is of another type than " + parent_path};
   std::string CatID = find(path);
   const bool stands = !CatID.empty();
   if (!stands) CatID = make(path, name);

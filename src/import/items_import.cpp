@@ -71,8 +71,10 @@ RecordDone Put_Item(ImportWork& work, const IifRecord& record) {
 }
 
 RecordDone Put_Group_Line(ImportWork& work, const std::string& group, const IifRecord& record) {
+  const std::string item = PathName(record.at({"", 1}, work.release_2003)).last;
+  if (!work.rows.has("Items", {"ItemName", item})) return {ImportDid::Skipped, "there is no item " + item};
   return work.put("ItemGroups",
-                  {{"GroupName", PathName(group).last}, {"Item", PathName(record.at({"", 1}, work.release_2003)).last}},
+                  {{"GroupName", PathName(group).last}, {"Item", item}},
                   {{"Description", With_Lines(record.at({"", 5}, work.release_2003))},
                    {"Qty", record.at({"", 8}, work.release_2003)}});
 }

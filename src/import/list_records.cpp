@@ -28,6 +28,7 @@ RecordDone ImportWork::put(std::string_view table, const std::vector<ListRows::C
 
 std::optional<std::string> ImportWork::other_parent(std::string_view table, std::string_view field,
                                                     std::string_view parent_field, const PathName& name) {
+  if (!name.parent.empty() && !rows.has(table, {field, name.parent})) return "there is no " + name.parent + " above it";
   if (!rows.has(table, {field, name.last})) return std::nullopt;
   const std::string parent = rows.look_up(table, {field, name.last}, parent_field);
   if (same_text(parent, name.parent)) return std::nullopt;

@@ -30,7 +30,7 @@ struct ImportWork {
 
   RecordDone put(std::string_view table, const std::vector<ListRows::Cell>& key,
                  const std::vector<ListRows::Cell>& cells);
-  /// Why this name cannot be here: it stands below another parent.
+  /// Why this name cannot be here: its parent is not there, or it stands below another one.
   std::optional<std::string> other_parent(std::string_view table, std::string_view field, std::string_view parent_field,
                                           const PathName& name);
   /// Whether a field of the ledger names it.

@@ -107,7 +107,9 @@ class Run {
   void put_group(const KeyRow& row, const IifRecord& record, RecordDone& done) {
     for (const IifRecord* line : block(row.ends_at)) {
       const RecordDone own = Put_Group_Line(work_, record.at({"NAME", 1}, work_.release_2003), *line);
-      if (own.did != ImportDid::Same && done.did == ImportDid::Same) done.did = ImportDid::Changed;
+      if (!own.why.empty()) done.why += (done.why.empty() ? "" : "; ") + own.why;
+      const bool wrote = own.did == ImportDid::Added || own.did == ImportDid::Changed;
+      if (wrote && done.did == ImportDid::Same) done.did = ImportDid::Changed;
     }
   }
 

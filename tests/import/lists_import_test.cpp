@@ -4,6 +4,7 @@
 
 #include "core/ledger/transaction_writer.h"
 #include "core/ledger/undo.h"
+#include "core/ledger/verify.h"
 #include "core/store/history.h"
 #include "support/test_company.h"
 
@@ -122,6 +123,17 @@ TEST_F(ListsImport, PeopleKeepWhatTheFileLeavesEmptyAndNamesOfOthers) {
   EXPECT_EQ(report.told[0].text, "Nobody does not have a Social Security Number. Nobody will not be added.");
   EXPECT_EQ(value("SELECT Days FROM Terms WHERE Term = 'Net 9'"), "9");
   EXPECT_EQ(report.unknown.at("MYSTERY"), 2);
+}
+
+TEST_F(ListsImport, NothingIsLeftThatPointsAtWhatIsNotThere) {
+  const ImportReport report = import(chart + Lines({"ACCNT|Auto:Fares|11|0|INC|0", "CUST|Lost:Child|1|0",
+                                                    "INVITEM|Nowhere:Bolt|0|0|SERV|x", "INVITEM|Set|0|0|GRP|x",
+                                                    "INVITEM|Ghost|1||x|y||2", "ENDGRP"}));
+  EXPECT_EQ(report.count(ListKind::Customers, ImportDid::Skipped), 1);
+  EXPECT_EQ(report.count(ListKind::Items, ImportDid::Skipped), 1);
+  EXPECT_EQ(report.lines.back().why, "there is no item Ghost");
+  EXPECT_EQ(value("SELECT COUNT(*) FROM Accounts WHERE AccountName = 'Fares'"), "0") << "income below an expense";
+  EXPECT_TRUE(Verify_Company(company.db()).empty());
 }
 
 TEST_F(ListsImport, ASecondPayrollItemOfOneNameInAFileIsAnother) {
